@@ -1,0 +1,21 @@
+# SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# What every target of ours is compiled with. Generated code (moc, uic, rcc) is built under the same rules.
+add_library(conventions INTERFACE)
+target_compile_options(
+    conventions
+    INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Woverloaded-virtual -Wnon-virtual-dtor
+              $<$<BOOL:${VARNO_WERROR}>:-Werror>)
+target_compile_definitions(conventions INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
+                                                 QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# varno_library(<name> LINKS <targets...> SOURCES <files...>): one layer of the program.
+function(varno_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;SOURCES")
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(
+        ${name}
+        PUBLIC ${arg_LINKS}
+        PRIVATE conventions)
+endfunction()

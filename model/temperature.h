@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QString>
+
+/// The menus' temperature units. Files may hold other numbers; all of them count as Fahrenheit.
+inline constexpr int unitFahrenheit = 0;
+inline constexpr int unitCelsius = 1;
+
+/// Whole °F to whole °C, computed in single precision, halves rounded away from zero.
+/// 0 means that no temperature is set and stays 0, in either direction.
+[[nodiscard]] int celsiusFromFahrenheit(int fahrenheit);
+[[nodiscard]] int fahrenheitFromCelsius(int celsius);
+
+/// A stored temperature (°F) as a number of the given unit, and what is entered in that unit in °F.
+[[nodiscard]] int shownTemperature(int fahrenheit, int unit);
+[[nodiscard]] int storedTemperature(int shown, int unit);
+
+/// "°C" for Celsius, else "°F".
+[[nodiscard]] QString unitText(int unit);
+/// A stored temperature (°F) with its unit, for example "215°F".
+[[nodiscard]] QString temperatureText(int fahrenheit, int unit);
