@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/menueditor.h"
+
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QMdiSubWindow>
+
+#include "model/files.h"
+#include "widgets/messages.h"
+
+QString askSaveName(QWidget *parent, const SaveNameRequest &request)
+{
+    return QFileDialog::getSaveFileName(parent, request.caption, request.start, request.filter);
+}
+
+MenuEditor::MenuEditor(const QString &filePath, QWidget *parent)
+    : QDialog(parent)
+    , m_filePath(filePath)
+{}
+
+bool MenuEditor::save()
+{
+    return !m_filePath.isEmpty() && writeToFile(m_filePath);
+}
+
+void MenuEditor::reject()
+{
+    if (auto *subWindow = qobject_cast<QMdiSubWindow *>(parentWidget()))
+        subWindow->close();
+    else
+        close();
+}
+
+void MenuEditor::setFilePath(const QString &path)
+{
+    m_filePath = path;
+    showTitle(lastPathPart(path));
+}
+
+void MenuEditor::showTitle(const QString &fileName)
+{
+    setWindowTitle(tr("Menu File - %1").arg(fileName));
+}
+
+void MenuEditor::closeEvent(QCloseEvent *event)
+{
+    switch (messages::askSaveChanges()) {
+    case QMessageBox::Yes:
+        if (!m_filePath.isEmpty()) {
+            save(); // a failure has been shown; the user asked to close all the same
+            event->accept();
+            return;
+        }
+        event->setAccepted(saveUnderNewName());
+        break;
+    case QMessageBox::No:
+        event->accept();
+        break;
+    default:
+        event->ignore();
+        break;
+    }
+    if (event->isAccepted())
+        deleteLater();
+}
+
+bool MenuEditor::writeOnClosing(const QString &path)
+{
+    return writeToFile(path);
+}
+
+bool MenuEditor::saveUnderNewName()
+{
+    const QString path = askSaveName(this, closingNameRequest());
+    return !path.isEmpty() && writeOnClosing(path);
+}

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+/// What a save-file dialog is asked with.
+struct SaveNameRequest
+{
+    QString caption;
+    QString start; ///< folder, path or proposed name
+    QString filter;
+};
+
+/// Asks for a file to save to; empty when the user cancels. The name is used as typed.
+[[nodiscard]] QString askSaveName(QWidget *parent, const SaveNameRequest &request);
+
+/// The contract that every editor keeps towards the main window, and how an editor closes.
+///
+/// An editor is constructed with a file path, or with an empty one for a new menu. One whose isMenuValid()
+/// is false after construction has told the user why and is to be deleted at once. An editor lives in a
+/// QMdiSubWindow that owns it; closing goes through that sub-window, as the area would else keep an empty
+/// frame.
+class MenuEditor : public QDialog
+{
+    Q_OBJECT
+
+public:
+    MenuEditor(const QString &filePath, QWidget *parent);
+
+    [[nodiscard]] bool isMenuValid() const { return m_menuValid; }
+    /// Empty while the menu has never been saved.
+    [[nodiscard]] QString filePath() const { return m_filePath; }
+
+    /// Writes to the current path; false, with nothing written, where there is none. A failure has been
+    /// shown.
+    virtual bool save();
+    /// Writes to a path that the user chose and makes it the current one. A failure has been shown.
+    virtual bool writeToFile(const QString &path) = 0;
+
+    /// Escape closes the sub-window, which asks as any closing does: a dialog's own way would hide the
+    /// editor and leave its frame behind.
+    void reject() override;
+
+protected:
+    void setMenuValid(bool valid) { m_menuValid = valid; }
+    /// Makes the path current and shows its file name in the title.
+    void setFilePath(const QString &path);
+    /// Shows a name in the title; empty for a new menu.
+    void showTitle(const QString &fileName);
+
+    /// Asks whether to save first. The editor schedules its own deletion, except after a save in place.
+    void closeEvent(QCloseEvent *event) override;
+    /// How closing asks for the name of a menu that has none, and what it writes there.
+    [[nodiscard]] virtual SaveNameRequest closingNameRequest() const = 0;
+    virtual bool writeOnClosing(const QString &path);
+
+private:
+    [[nodiscard]] bool saveUnderNewName();
+
+    QString m_filePath;
+    bool m_menuValid = false;
+};

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/messages.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace messages {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("messages", text);
+}
+
+} // namespace
+
+void fileFault(const QString &message)
+{
+    QMessageBox box;
+    box.setWindowTitle(tr("Error"));
+    box.setText(tr("Error"));
+    box.setInformativeText(message);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.setStyleSheet(u"QLabel{min-width: 220px;}"_s);
+    box.exec();
+}
+
+void entryFault(QWidget *parent, const QString &message)
+{
+    QMessageBox(QMessageBox::NoIcon, tr("Error"), message, QMessageBox::Close, parent).exec();
+}
+
+void refusal(QWidget *parent, const QString &message)
+{
+    QMessageBox(QMessageBox::Warning, tr("Error"), message, QMessageBox::Close, parent).exec();
+}
+
+void removalWarning(QWidget *parent, const QString &message, QMessageBox::StandardButton button)
+{
+    QMessageBox(QMessageBox::Warning, tr("Warning"), message, button, parent).exec();
+}
+
+void reconfigured(QWidget *parent, const QString &message)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Warning"), tr("Warning"), QMessageBox::Ok, parent);
+    box.setInformativeText(message);
+    box.exec();
+}
+
+bool confirmDelete(QWidget *parent, const QString &question)
+{
+    QMessageBox box(QMessageBox::Question, tr("Delete"), question, QMessageBox::Yes | QMessageBox::No,
+                    parent);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+QMessageBox::StandardButton askSaveChanges()
+{
+    QMessageBox box(QMessageBox::Warning, tr("Save..."), tr("Save changes before exit?"),
+                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace messages

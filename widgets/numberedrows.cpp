@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/numberedrows.h"
+
+#include <QBrush>
+#include <QFont>
+#include <QListWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace numberedrows {
+
+namespace {
+
+constexpr QSize rowSize(100, 32);
+// Dark enough to be read on the light grey stripe, light enough to tell it from black.
+constexpr QColor unfittingText(0x60, 0x60, 0x60);
+constexpr QColor unfittingStripe(0xd3, 0xd3, 0xd3);
+
+void prepare(QListWidget *list)
+{
+    list->setDragDropMode(QAbstractItemView::NoDragDrop);
+    list->setDragEnabled(false);
+    list->setUniformItemSizes(true);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+}
+
+// Both colours are set, so that a dark palette's own text never lands on a light stripe.
+void colour(QListWidgetItem *item, const QColor &text, const QColor &background)
+{
+    item->setForeground(text);
+    item->setBackground(background);
+}
+
+bool isOdd(int row)
+{
+    return row % 2 != 0;
+}
+
+} // namespace
+
+void prepareColouredList(QListWidget *list)
+{
+    prepare(list);
+    list->setStyleSheet(u"QListWidget { font: 11pt \"Courier New\"; }"
+                        "QListWidget::item:selected { color: black; background-color: darkcyan;"
+                        " border: 1px solid green; }"_s);
+}
+
+void preparePlainList(QListWidget *list)
+{
+    prepare(list);
+    list->setFont(QFont(u"Courier New"_s, 11));
+    list->setAlternatingRowColors(true);
+}
+
+QString text(int number, const QString &name)
+{
+    return QString::number(number).rightJustified(3) + u' ' + name;
+}
+
+QListWidgetItem *append(QListWidget *list, const QString &name)
+{
+    auto *item = new QListWidgetItem(text(list->count() + 1, name));
+    item->setSizeHint(rowSize);
+    item->setToolTip(name);
+    list->addItem(item);
+    return item;
+}
+
+void colourFitting(QListWidgetItem *item, int row)
+{
+    colour(item, Qt::black, isOdd(row) ? Qt::cyan : Qt::white);
+}
+
+void colourUnfitting(QListWidgetItem *item, int row)
+{
+    item->setFlags(item->flags() & ~Qt::ItemIsSelectable);
+    colour(item, unfittingText, isOdd(row) ? unfittingStripe : QColor(Qt::white));
+}
+
+} // namespace numberedrows

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QString>
+
+class QListWidget;
+class QListWidgetItem;
+
+/// The numbered lists of products and groups that the editors and dialogs show.
+namespace numberedrows {
+
+/// Sets up a list that colours its own rows: fixed-pitch font, a selected row in black on dark cyan, no drag
+/// and drop. For dialogs; its style sheet costs more than an editor should pay when it opens.
+void prepareColouredList(QListWidget *list);
+/// The same arrangement in the palette's own colours, with every other row in the alternate one.
+void preparePlainList(QListWidget *list);
+
+/// "  1 Bacon": the number right-aligned in three characters, a blank, the name.
+[[nodiscard]] QString text(int number, const QString &name);
+
+/// Appends a row of fixed height; its number is one more than its row.
+QListWidgetItem *append(QListWidget *list, const QString &name);
+
+/// Black on a cyan or white stripe by the item's row.
+void colourFitting(QListWidgetItem *item, int row);
+/// Grey on a light grey or white stripe by the item's row, and not selectable.
+void colourUnfitting(QListWidgetItem *item, int row);
+
+} // namespace numberedrows
