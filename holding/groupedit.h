@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QList>
+
+#include "holding/menu.h"
+#include "widgets/refusabledialog.h"
+
+class MenuFile;
+class ProductInfo;
+class QListWidgetItem;
+
+namespace Ui {
+class GroupEdit;
+}
+
+/// Edits one group of a holding-cabinet menu: which products it has and which of them is the default.
+///
+/// The first member fixes the settings that all members share. The record is written only by a Save that
+/// passes every check. Members whose product the menu does not have are not listed, but keep their place.
+class GroupEdit final : public RefusableDialog
+{
+    Q_OBJECT
+
+public:
+    /// `group` stays the caller's.
+    GroupEdit(ProductInfo &group, MenuFile *menuFile);
+    ~GroupEdit() override;
+
+public slots:
+    void loadProducts();
+    void loadGroupProducts();
+    void on_btnCancel_clicked();
+    void on_btnSave_clicked();
+    void on_btnAddProduct_clicked();
+    void on_btnRemoveProduct_clicked();
+    void on_listWidgetGroupProducts_itemChanged(QListWidgetItem *item);
+    void on_listWidgetGroupProducts_itemClicked(QListWidgetItem *item);
+    void on_listWidgetProducts_itemSelectionChanged();
+    void on_listWidgetGroupProducts_itemSelectionChanged();
+
+private:
+    void applyCabinetType();
+    void loadWorkingValues();
+    void fixSettings(const ProductInfo &firstMember);
+    [[nodiscard]] const ProductInfo *product(int id) const;
+    void settleDefault();
+    void checkDefaultOnly();
+    void showSummary();
+
+    std::unique_ptr<Ui::GroupEdit> m_ui;
+    ProductInfo &m_group;
+    MenuFile *m_menuFile;
+    QList<ProductInfo *> m_products; ///< the menu's, in its order
+    holding::HoldingSettings m_settings;
+    QList<int> m_members; ///< product ids in the group's order
+    int m_defaultIndex = 0;
+};

@@ -1,0 +1,196 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "holding/menufile.h"
+
+#include "holding/configuration.h"
+#include "holding/menujson.h"
+#include "model/files.h"
+#include "ui_menufile.h"
+#include "widgets/fixedsize.h"
+#include "widgets/messages.h"
+
+namespace {
+
+std::unique_ptr<Ui::MenuFile> makeForm(MenuFile *editor)
+{
+    auto form = std::make_unique<Ui::MenuFile>();
+    form->setupUi(editor);
+    return form;
+}
+
+} // namespace
+
+MenuFile::MenuFile(const QString &filePath, QWidget *parent)
+    : MenuEditor(filePath, parent)
+    , m_ui(makeForm(this))
+    , m_products(m_menu.products, {m_ui->listWidgetProducts, m_ui->btnEditProduct, m_ui->btnDuplicateProduct,
+                                   m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct, m_ui->detailsProduct})
+    , m_groups(m_menu.groups, {m_ui->listWidgetGroups, m_ui->btnEditGroup, m_ui->btnDuplicateGroup,
+                               m_ui->btnDeleteGroup, m_ui->btnSelectMultiGroup, m_ui->detailsGroup})
+{
+    setMenuValid(filePath.isEmpty() ? createMenu() : readMenuFile());
+    if (!isMenuValid())
+        return;
+    m_ui->tabWidget->setCurrentIndex(0);
+    loadMenuFile();
+    fixDesignedSize(this);
+}
+
+MenuFile::~MenuFile() = default;
+
+bool MenuFile::createMenu()
+{
+    if (!askConfiguration(m_menu.configuration))
+        return false;
+    showTitle({});
+    loadCabinetInfo();
+    loadDefaultMenu();
+    return true;
+}
+
+bool MenuFile::readMenuFile()
+{
+    const QString path = filePath();
+    const std::optional<QByteArray> bytes = readFile(path);
+    const auto ask = [this](holding::CabinetConfiguration &configuration) {
+        const bool accepted = askConfiguration(configuration);
+        setMenuValid(accepted);
+        if (accepted)
+            showTitle({});
+        return accepted;
+    };
+    const QString fault =
+        bytes ? holding::readMenu(*bytes, m_menu, ask) : tr("Failed to open the file:") + path;
+    loadCabinetInfo();
+    if (!fault.isEmpty()) {
+        messages::fileFault(fault);
+        setMenuValid(false);
+        return false;
+    }
+    setFilePath(path);
+    return true;
+}
+
+void MenuFile::loadDefaultMenu()
+{
+    if (const QString fault = holding::readDefaultMenu(m_shape.binsPerZone, m_menu); !fault.isEmpty())
+        messages::fileFault(fault);
+}
+
+QJsonObject MenuFile::setNameListToJson(const QStringList &nameList)
+{
+    return holding::namesToJson(nameList);
+}
+
+QStringList MenuFile::readNameTranslationsFromJson(const QJsonObject &nameObj)
+{
+    return holding::namesFromJson(nameObj);
+}
+
+bool MenuFile::writeToFile(const QString &path)
+{
+    setFilePath(path);
+    if (writeFile(path, holding::writeMenu(m_menu)))
+        return true;
+    messages::fileFault(tr("Failed to create/open the file:") + path);
+    return false;
+}
+
+void MenuFile::saveAs()
+{
+    const QString path =
+        askSaveName(this, {tr("Save As JSON Menu"), filePath(), tr("JSON Menu Files (*.json)")});
+    if (!path.isEmpty())
+        writeToFile(path);
+}
+
+SaveNameRequest MenuFile::closingNameRequest() const
+{
+    return {tr("Save JSON Menu"), filePath(), tr("JSON Menu Files (*.json)")};
+}
+
+void MenuFile::loadMenuFile()
+{
+    for (EntryPane *pane : {&m_products, &m_groups})
+        pane->setMultiSelecting(false);
+    m_ui->lblCabinet->setText(
+        tr("Cabinet: %1 %2, %3").arg(getCabinetType(), getCabinetModel(), unitText(getTemperatureUnit())));
+    loadProducts();
+    loadProductInfo();
+    loadGroups();
+    loadGroupInfo();
+}
+
+int MenuFile::getBinsPerZone()
+{
+    return m_shape.binsPerZone;
+}
+
+QString MenuFile::getCabinetType()
+{
+    return m_menu.configuration.type;
+}
+
+QString MenuFile::getCabinetModel()
+{
+    return m_menu.configuration.model;
+}
+
+int MenuFile::getTemperatureUnit()
+{
+    return m_menu.configuration.temperatureUnit;
+}
+
+bool MenuFile::getProductIdEnabled()
+{
+    return m_menu.configuration.productIdEnabled;
+}
+
+bool MenuFile::getFanSpeedEnabled()
+{
+    return m_menu.configuration.fanSpeedEnabled;
+}
+
+bool MenuFile::getResetTimeEnabled()
+{
+    return m_menu.configuration.resetTimeEnabled;
+}
+
+bool MenuFile::getTimerColorEnabled()
+{
+    return m_menu.configuration.timerColorEnabled;
+}
+
+void MenuFile::loadCabinetInfo()
+{
+    m_shape = m_menu.shape();
+}
+
+bool MenuFile::askConfiguration(holding::CabinetConfiguration &configuration)
+{
+    Configuration dialog(this);
+    dialog.setWindowTitle(tr("Configuration"));
+    if (dialog.exec() != Accepted)
+        return false;
+    configuration = dialog.values();
+    return true;
+}
+
+void MenuFile::on_btnConfig_clicked()
+{
+    Configuration dialog(this);
+    dialog.setWindowTitle(tr("Configuration"));
+    dialog.setValues(m_menu.configuration);
+    if (dialog.exec() != Accepted)
+        return;
+    m_menu.configuration = dialog.values();
+    const int oldBinsPerZone = m_shape.binsPerZone;
+    loadCabinetInfo();
+    if (m_shape.binsPerZone != oldBinsPerZone) {
+        m_menu.clearBins();
+        messages::reconfigured(
+            this, tr("Bins per zone configuration is changed. All daypart assignments are removed."));
+    }
+    loadMenuFile();
+}

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QJsonObject>
+
+#include "holding/entrypane.h"
+#include "holding/menu.h"
+#include "widgets/menueditor.h"
+
+class QListWidgetItem;
+
+namespace Ui {
+class MenuFile;
+}
+
+/// The editor of one holding-cabinet menu. It owns the menu: configuration, products, groups and day parts.
+///
+/// The slots are its whole surface; rules and file format are in the core. Dialogs read the getters.
+class MenuFile final : public MenuEditor
+{
+    Q_OBJECT
+
+public:
+    /// An empty path makes a new menu, for which the user is asked for the cabinet.
+    explicit MenuFile(const QString &filePath, QWidget *parent = nullptr);
+    ~MenuFile() override;
+
+    bool writeToFile(const QString &path) override;
+    /// Asks for another name and writes there. The main window asks by itself, so that nothing in the program
+    /// calls this; it is the editor's own way for whoever holds one without a main window.
+    [[maybe_unused]] void saveAs();
+
+    /// Shows everything anew, with no current rows.
+    void loadMenuFile();
+
+public slots: // the file
+    bool readMenuFile();
+    void loadDefaultMenu();
+    QJsonObject setNameListToJson(const QStringList &nameList);
+    QStringList readNameTranslationsFromJson(const QJsonObject &nameObj);
+
+public slots: // the configuration
+    int getBinsPerZone();
+    QString getCabinetType();
+    QString getCabinetModel();
+    int getTemperatureUnit();
+    bool getProductIdEnabled();
+    bool getFanSpeedEnabled();
+    bool getResetTimeEnabled();
+    bool getTimerColorEnabled();
+    void loadCabinetInfo();
+    void on_btnConfig_clicked();
+
+public slots: // products and groups
+    /// The records stay the editor's and go with the next deletion.
+    QList<ProductInfo *> getMenuProducts();
+    QList<ProductInfo *> getMenuGroups();
+    void loadProducts();
+    void loadProductInfo();
+    void loadGroups();
+    void loadGroupInfo();
+    ProductInfo *getProductObject(int id);
+    bool removeIdFromAllGroups(int id);
+    bool removeIdFromAllDayparts(int id);
+    void on_btnAddProduct_clicked();
+    void on_btnEditProduct_clicked();
+    void on_btnDeleteProduct_clicked();
+    void on_btnDuplicateProduct_clicked();
+    void on_btnAddGroup_clicked();
+    void on_btnEditGroup_clicked();
+    void on_btnDeleteGroup_clicked();
+    void on_btnDuplicateGroup_clicked();
+    void on_listWidgetProducts_itemSelectionChanged();
+    void on_listWidgetProducts_currentRowChanged(int currentRow);
+    void on_listWidgetProducts_itemDoubleClicked(QListWidgetItem *item);
+    void on_listWidgetGroups_itemSelectionChanged();
+    void on_listWidgetGroups_currentRowChanged(int currentRow);
+    void on_listWidgetGroups_itemDoubleClicked(QListWidgetItem *item);
+    void on_btnSelectMultiProduct_clicked();
+    void on_listWidgetProducts_itemChanged();
+    void on_btnSelectMultiGroup_clicked();
+    void on_listWidgetGroups_itemChanged();
+
+protected:
+    [[nodiscard]] SaveNameRequest closingNameRequest() const override;
+
+private:
+    [[nodiscard]] bool createMenu();
+    [[nodiscard]] bool askConfiguration(holding::CabinetConfiguration &configuration);
+
+    void addProduct(std::unique_ptr<ProductInfo> product);
+    void addGroup(std::unique_ptr<ProductInfo> group);
+    [[nodiscard]] bool refuseWhenFull(const QString &message);
+    void loadGroupMembers();
+    void deleteEntries(EntryPane &pane, holding::Entries &entries);
+
+    std::unique_ptr<Ui::MenuFile> m_ui;
+    holding::Menu m_menu;
+    holding::CabinetShape m_shape; ///< of the configured cabinet, kept up by loadCabinetInfo()
+    EntryPane m_products;
+    EntryPane m_groups;
+};

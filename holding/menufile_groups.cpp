@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "holding/menufile.h"
+
+#include "holding/groupedit.h"
+#include "ui_menufile.h"
+#include "widgets/messages.h"
+#include "widgets/numberedrows.h"
+
+void MenuFile::loadGroups()
+{
+    m_groups.loadList();
+}
+
+void MenuFile::loadGroupInfo()
+{
+    m_groups.loadDetails(m_menu.configuration);
+    loadGroupMembers();
+}
+
+// The members in the group's order, the default one ticked. A member whose product is missing has no row.
+void MenuFile::loadGroupMembers()
+{
+    m_ui->listWidgetMembers->clear();
+    const ProductInfo *group = m_groups.current();
+    if (!group)
+        return;
+    const QList<int> members = group->get_productList();
+    for (int position = 0; position < members.size(); ++position) {
+        const ProductInfo *member = m_menu.product(members[position]);
+        if (!member)
+            continue;
+        QListWidgetItem *item =
+            numberedrows::append(m_ui->listWidgetMembers, shownName(member->get_productName()));
+        item->setText(numberedrows::text(position + 1, shownName(member->get_productName())));
+        item->setFlags(Qt::ItemIsEnabled);
+        item->setCheckState(position == group->get_defaultIndex() ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+void MenuFile::addGroup(std::unique_ptr<ProductInfo> group)
+{
+    GroupEdit dialog(*group, this);
+    if (dialog.exec() != Accepted)
+        return;
+    m_groups.setCurrentRow(static_cast<int>(m_menu.groups.size()));
+    m_menu.groups.push_back(std::move(group));
+    loadGroups();
+    loadGroupInfo();
+}
+
+void MenuFile::on_btnAddGroup_clicked()
+{
+    if (!refuseWhenFull(tr("Cannot add groups. Maximum products and groups reached!")))
+        addGroup(holding::newGroup(m_menu.nextFreeId()));
+}
+
+void MenuFile::on_btnDuplicateGroup_clicked()
+{
+    if (refuseWhenFull(tr("Cannot add groups. Maximum products and groups reached!")))
+        return;
+    if (const ProductInfo *source = m_groups.current())
+        addGroup(holding::duplicateOf(*source, m_menu.nextFreeId()));
+}
+
+void MenuFile::on_btnEditGroup_clicked()
+{
+    ProductInfo *group = m_groups.current();
+    if (!group || m_groups.isMultiSelecting())
+        return;
+    const bool fanSpeedEnabled = getFanSpeedEnabled();
+    holding::HoldingSettings before = holding::holdingSettings(*group, fanSpeedEnabled);
+    if (GroupEdit(*group, this).exec() != Accepted)
+        return;
+    holding::HoldingSettings after = holding::holdingSettings(*group, fanSpeedEnabled);
+    // A group's lid does not decide which bins it fits.
+    before.lidType.clear();
+    after.lidType.clear();
+    const bool leftDayparts = before != after && removeIdFromAllDayparts(group->get_productId());
+    loadGroups();
+    loadGroupInfo();
+    if (leftDayparts)
+        messages::removalWarning(this, tr("Group has been removed from daypart(s) assignemnts"));
+}
+
+void MenuFile::on_btnDeleteGroup_clicked()
+{
+    const QList<int> rows = m_groups.rowsToDelete();
+    if (rows.isEmpty())
+        return;
+    if (messages::confirmDelete(this, m_groups.isMultiSelecting() ? tr("Delete all selected groups?")
+                                                                  : tr("Delete selected group?")))
+        deleteEntries(m_groups, m_menu.groups);
+}
+
+void MenuFile::on_listWidgetGroups_itemSelectionChanged()
+{
+    m_groups.followSelection();
+    loadGroupInfo();
+}
+
+void MenuFile::on_listWidgetGroups_currentRowChanged([[maybe_unused]] int currentRow)
+{
+    m_groups.followSelection();
+    loadGroupInfo();
+}
+
+void MenuFile::on_listWidgetGroups_itemDoubleClicked(QListWidgetItem *item)
+{
+    m_groups.setCurrentRow(m_groups.rowOf(item));
+    on_btnEditGroup_clicked();
+}
+
+void MenuFile::on_btnSelectMultiGroup_clicked()
+{
+    m_groups.setMultiSelecting(!m_groups.isMultiSelecting());
+    loadGroupInfo();
+}
+
+void MenuFile::on_listWidgetGroups_itemChanged()
+{
+    m_groups.followChecks();
+}

@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "holding/menufile.h"
+
+#include <algorithm>
+
+#include "holding/productedit.h"
+#include "ui_menufile.h"
+#include "widgets/messages.h"
+
+namespace {
+
+QList<ProductInfo *> pointersTo(const holding::Entries &entries)
+{
+    QList<ProductInfo *> pointers;
+    pointers.reserve(static_cast<qsizetype>(entries.size()));
+    for (const auto &entry : entries)
+        pointers.append(entry.get());
+    return pointers;
+}
+
+} // namespace
+
+QList<ProductInfo *> MenuFile::getMenuProducts()
+{
+    return pointersTo(m_menu.products);
+}
+
+QList<ProductInfo *> MenuFile::getMenuGroups()
+{
+    return pointersTo(m_menu.groups);
+}
+
+void MenuFile::loadProducts()
+{
+    m_products.loadList();
+}
+
+void MenuFile::loadProductInfo()
+{
+    m_products.loadDetails(m_menu.configuration);
+}
+
+ProductInfo *MenuFile::getProductObject(int id)
+{
+    return m_menu.entry(id);
+}
+
+bool MenuFile::removeIdFromAllGroups(int id)
+{
+    return m_menu.removeFromGroups(id);
+}
+
+bool MenuFile::removeIdFromAllDayparts(int id)
+{
+    return m_menu.removeFromDayparts(id);
+}
+
+bool MenuFile::refuseWhenFull(const QString &message)
+{
+    if (!m_menu.isFull())
+        return false;
+    messages::refusal(this, message);
+    return true;
+}
+
+void MenuFile::addProduct(std::unique_ptr<ProductInfo> product)
+{
+    const int row = static_cast<int>(m_menu.products.size());
+    ProductEdit dialog(*product, row, this);
+    if (dialog.exec() != Accepted)
+        return;
+    m_menu.products.push_back(std::move(product));
+    m_products.setCurrentRow(row);
+    loadProducts();
+    loadProductInfo();
+}
+
+void MenuFile::on_btnAddProduct_clicked()
+{
+    if (!refuseWhenFull(tr("Cannot add products. Maximum products and groups reached!")))
+        addProduct(holding::newProduct(m_menu.nextFreeId(), getBinsPerZone()));
+}
+
+void MenuFile::on_btnDuplicateProduct_clicked()
+{
+    if (refuseWhenFull(tr("Cannot add products. Maximum products and groups reached!")))
+        return;
+    if (const ProductInfo *source = m_products.current())
+        addProduct(holding::duplicateOf(*source, m_menu.nextFreeId()));
+}
+
+void MenuFile::on_btnEditProduct_clicked()
+{
+    ProductInfo *product = m_products.current();
+    if (!product || m_products.isMultiSelecting())
+        return;
+    const holding::HoldingSettings before = holding::holdingSettings(*product, getFanSpeedEnabled());
+    if (ProductEdit(*product, m_products.currentRow(), this).exec() != Accepted)
+        return;
+    // Whoever held the product was chosen by these settings.
+    const bool changed = holding::holdingSettings(*product, getFanSpeedEnabled()) != before;
+    const bool leftGroups = changed && removeIdFromAllGroups(product->get_productId());
+    const bool leftDayparts = changed && removeIdFromAllDayparts(product->get_productId());
+    loadProducts();
+    loadProductInfo();
+    loadGroups();
+    loadGroupInfo();
+    if (leftGroups && leftDayparts)
+        messages::removalWarning(this,
+                                 tr("Product has been removed from group(s) and daypart(s) assignemnts"));
+    else if (leftDayparts)
+        messages::removalWarning(this, tr("Product has been removed from daypart(s) assignemnts"));
+    else if (leftGroups)
+        messages::removalWarning(this, tr("Product has been removed from group(s)"));
+}
+
+void MenuFile::on_btnDeleteProduct_clicked()
+{
+    const QList<int> rows = m_products.rowsToDelete();
+    if (rows.isEmpty())
+        return;
+    if (messages::confirmDelete(this, m_products.isMultiSelecting() ? tr("Delete all selected products?")
+                                                                    : tr("Delete selected product?")))
+        deleteEntries(m_products, m_menu.products);
+}
+
+void MenuFile::deleteEntries(EntryPane &pane, holding::Entries &entries)
+{
+    const QList<int> rows = pane.rowsToDelete();
+    pane.setMultiSelecting(false);
+    std::for_each(rows.rbegin(), rows.rend(), [&](int row) {
+        const auto place = entries.begin() + row;
+        if (!(*place)->get_isGroup())
+            removeIdFromAllGroups((*place)->get_productId());
+        removeIdFromAllDayparts((*place)->get_productId());
+        entries.erase(place);
+    });
+    loadProducts();
+    loadProductInfo();
+    loadGroups();
+    loadGroupInfo();
+}
+
+void MenuFile::on_listWidgetProducts_itemSelectionChanged()
+{
+    m_products.followSelection();
+    loadProductInfo();
+}
+
+void MenuFile::on_listWidgetProducts_currentRowChanged([[maybe_unused]] int currentRow)
+{
+    m_products.followSelection();
+    loadProductInfo();
+}
+
+void MenuFile::on_listWidgetProducts_itemDoubleClicked(QListWidgetItem *item)
+{
+    m_products.setCurrentRow(m_products.rowOf(item));
+    on_btnEditProduct_clicked();
+}
+
+void MenuFile::on_btnSelectMultiProduct_clicked()
+{
+    m_products.setMultiSelecting(!m_products.isMultiSelecting());
+    loadProductInfo();
+}
+
+void MenuFile::on_listWidgetProducts_itemChanged()
+{
+    m_products.followChecks();
+}

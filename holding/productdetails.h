@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QWidget>
+
+#include "holding/cabinet.h"
+
+class ProductInfo;
+
+namespace Ui {
+class ProductDetails;
+}
+
+/// Shows the values of one product or group, row by row. A group shows what it stores in the same rows.
+class ProductDetails final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ProductDetails(QWidget *parent = nullptr);
+    ~ProductDetails() override;
+
+    /// Shows an entry, or empties every value for null. The configuration decides the temperature unit and
+    /// which rows there are.
+    void showEntry(const ProductInfo *entry, const holding::CabinetConfiguration &configuration);
+
+private:
+    void showRows(const holding::CabinetConfiguration &configuration);
+    void clear();
+    void showTimerColor(const QString &colorName);
+
+    std::unique_ptr<Ui::ProductDetails> m_ui;
+};

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include "holding/timercolors.h"
+#include "widgets/refusabledialog.h"
+
+class MenuFile;
+class ProductInfo;
+class QSpinBox;
+
+namespace Ui {
+class ProductEdit;
+}
+
+/// Edits one product of a holding-cabinet menu. The record is written only by a Save that passes every
+/// check, and never its id: that is the menu's business.
+class ProductEdit final : public RefusableDialog
+{
+    Q_OBJECT
+
+public:
+    /// `product` stays the caller's. `productIndex` is its place in the menu's products; for a new product
+    /// any index that no product has.
+    ProductEdit(ProductInfo &product, int productIndex, MenuFile *menuFile);
+    ~ProductEdit() override;
+
+public slots:
+    void on_btnTimerColor_clicked();
+    void on_btnCancel_clicked();
+    void on_btnSave_clicked();
+
+private:
+    void fillChoices();
+    void applyConfiguration();
+    void loadTemperatures();
+    void loadTypes();
+    void loadTimerColor();
+    void showTimerColor(const holding::TimerColor &entry);
+    [[nodiscard]] bool isIdTaken() const;
+    [[nodiscard]] QString firstFault() const;
+    void writeRecord();
+
+    std::unique_ptr<Ui::ProductEdit> m_ui;
+    ProductInfo &m_product;
+    int m_productIndex;
+    MenuFile *m_menuFile;
+    QString m_timerColorName;
+};
