@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/mainwindow.h"
+
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QMdiSubWindow>
+
+#include "app/aboutapp.h"
+#include "app/selectproductline.h"
+#include "ui_mainwindow.h"
+#include "widgets/messages.h"
+
+using namespace Qt::StringLiterals;
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_ui(std::make_unique<Ui::MainWindow>())
+{
+    m_ui->setupUi(this);
+    setCentralWidget(m_ui->mdiArea);
+    setWindowIcon(QIcon(u":/myapp.ico"_s));
+    connect(m_ui->menuFile, &QMenu::aboutToShow, this, &MainWindow::updateMenuItems);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::updateMenuItems()
+{
+    const bool anyActive = m_ui->mdiArea->activeSubWindow() != nullptr;
+    m_ui->action_Save->setEnabled(anyActive);
+    m_ui->actionSaveAs->setEnabled(anyActive);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_ui->mdiArea->subWindowList().isEmpty()) {
+        event->accept();
+        return;
+    }
+    switch (messages::askSaveChanges()) {
+    case QMessageBox::Yes:
+        event->setAccepted(saveAll());
+        break;
+    case QMessageBox::No:
+        event->accept();
+        break;
+    default:
+        event->ignore();
+        break;
+    }
+}
+
+void MainWindow::on_actionAbout_triggered()
+{
+    AboutApp(this).exec();
+}
+
+void MainWindow::on_actionExit_triggered()
+{
+    QCoreApplication::quit();
+}
+
+void MainWindow::on_actionNew_triggered()
+{
+    SelectProductLine dialog(this);
+    dialog.setWindowTitle(tr("Select Product Line"));
+    if (const ProductLine *line = productLineByResult(dialog.exec()))
+        openEditor(*line, {});
+}
+
+void MainWindow::on_actionOpen_triggered()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open JSON Menu"), {},
+        tr("Varno Menu Files (*.json *.qhx *.txt *.cbr);;QHX Json Menu Files (*.json);;"
+           "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"));
+    if (const ProductLine *line = productLineOfFile(path))
+        openEditor(*line, path);
+}
+
+void MainWindow::openEditor(const ProductLine &line, const QString &path)
+{
+    MenuEditor *editor = line.create(path, this);
+    if (!editor->isMenuValid()) {
+        delete editor;
+        return;
+    }
+    QMdiSubWindow *subWindow = m_ui->mdiArea->addSubWindow(editor);
+    subWindow->setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowMinimizeButtonHint |
+                              Qt::MSWindowsFixedSizeDialogHint);
+    subWindow->show();
+    subWindow->setObjectName(line.subWindowName);
+}
+
+OpenMenu MainWindow::activeMenu() const
+{
+    const QMdiSubWindow *subWindow = m_ui->mdiArea->activeSubWindow();
+    return subWindow ? openMenuIn(*subWindow) : OpenMenu{};
+}
+
+void MainWindow::on_action_Save_triggered()
+{
+    const OpenMenu menu = activeMenu();
+    if (!menu.editor)
+        return;
+    if (menu.editor->filePath().isEmpty())
+        saveUnderChosenName(menu, menu.line->saveRequest(*menu.editor));
+    else
+        menu.editor->save();
+}
+
+void MainWindow::on_actionSaveAs_triggered()
+{
+    if (const OpenMenu menu = activeMenu(); menu.editor)
+        saveUnderChosenName(menu, menu.line->saveAsRequest(*menu.editor));
+}
+
+void MainWindow::saveUnderChosenName(const OpenMenu &menu, const SaveNameRequest &request)
+{
+    const QString path = askSaveName(this, request);
+    if (!path.isEmpty())
+        menu.editor->writeToFile(path);
+}
+
+bool MainWindow::saveAll()
+{
+    const QList<QMdiSubWindow *> subWindows = m_ui->mdiArea->subWindowList();
+    for (QMdiSubWindow *subWindow : subWindows) {
+        const OpenMenu menu = openMenuIn(*subWindow);
+        if (!menu.editor)
+            continue;
+        if (!menu.editor->filePath().isEmpty()) {
+            if (!menu.editor->save())
+                return false;
+            continue;
+        }
+        m_ui->mdiArea->setActiveSubWindow(subWindow); // so that the user sees which menu is meant
+        const QString path = askSaveName(this, menu.line->saveRequest(*menu.editor));
+        if (path.isEmpty())
+            return false;
+        menu.editor->writeToFile(path); // a failure has been shown and does not keep the program open
+    }
+    return true;
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QMainWindow>
+
+#include "app/productlines.h"
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The main window: each open menu is a sub-window of its document area, and the File menu acts on the
+/// active one. It knows the editors only through ProductLine and MenuEditor.
+class MainWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+public slots:
+    void updateMenuItems();
+    /// Asks once for all open menus. The editors' own question is not asked.
+    void closeEvent(QCloseEvent *event) override;
+    void on_actionAbout_triggered();
+    void on_actionExit_triggered();
+    void on_actionNew_triggered();
+    void on_actionOpen_triggered();
+    void on_action_Save_triggered();
+    void on_actionSaveAs_triggered();
+
+private:
+    void openEditor(const ProductLine &line, const QString &path);
+    [[nodiscard]] OpenMenu activeMenu() const;
+    void saveUnderChosenName(const OpenMenu &menu, const SaveNameRequest &request);
+    [[nodiscard]] bool saveAll();
+
+    std::unique_ptr<Ui::MainWindow> m_ui;
+};
