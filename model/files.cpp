@@ -27,19 +27,21 @@ bool writeAll(QFileDevice &file, const QByteArray &bytes)
     return file.write(bytes) == bytes.size() && file.flush() && file.error() == QFileDevice::NoError;
 }
 
-enum class Replaced { Yes, Failed, NoTemporaryFile };
+enum class Replaced { Yes, Failed, NotPossible };
 
 Replaced replaceWhole(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return Replaced::NoTemporaryFile;
+        return Replaced::NotPossible;
     // commit() returns true after a short write and would put the truncated file in the good one's place.
     if (!writeAll(file, bytes) || file.size() != bytes.size()) {
         file.cancelWriting();
         return Replaced::Failed;
     }
-    return file.commit() ? Replaced::Yes : Replaced::Failed;
+    // Only now a nameless temporary file gets a name and the old file's place. Either may be refused: the
+    // name is too long, or the folder is sticky and the file someone else's.
+    return file.commit() ? Replaced::Yes : Replaced::NotPossible;
 }
 
 bool writeDevice(const QString &path, const QByteArray &bytes)
@@ -96,7 +98,7 @@ bool writeFile(const QString &path, const QByteArray &bytes)
     case fs::file_type::regular: {
         const Replaced replaced = replaceWhole(path, bytes);
         return replaced == Replaced::Yes ||
-               (replaced == Replaced::NoTemporaryFile && overwriteOrRestore(path, bytes));
+               (replaced == Replaced::NotPossible && overwriteOrRestore(path, bytes));
     }
     case fs::file_type::character:
     case fs::file_type::block:

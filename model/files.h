@@ -18,7 +18,7 @@
 /// Makes `bytes` the whole content of the file at `path` and returns whether that is certain.
 ///
 /// A regular file is replaced whole: after a failure the last good file is still there. Only where no
-/// temporary file can be made beside an existing, writable one, and for a device, the bytes are written in
-/// place; a regular file that fails so gets its old content back as far as the disk allows. A folder, FIFO
-/// or socket is refused at once.
+/// temporary file can be made beside an existing, writable one or take its place, and for a device, the
+/// bytes are written in place; a regular file that fails so gets its old content back as far as the disk
+/// allows. A folder, FIFO or socket is refused at once.
 [[nodiscard]] bool writeFile(const QString &path, const QByteArray &bytes);

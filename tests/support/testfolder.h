@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// A folder for the files of one test function, gone with everything in it at the end.
+class TestFolder
+{
+public:
+    [[nodiscard]] bool isValid() const { return m_folder.isValid(); }
+    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
+    /// The path as system calls want it.
+    [[nodiscard]] QByteArray native(const QString &name) const { return path(name).toLocal8Bit(); }
+
+    /// Everything in the folder, hidden and broken things too, sorted.
+    [[nodiscard]] QStringList names() const;
+    [[nodiscard]] QByteArray content(const QString &name) const;
+    /// Makes a file; a failure fails the test.
+    void make(const QString &name, const QByteArray &bytes) const;
+    /// Makes a symbolic link to `target`, which need not exist.
+    void link(const QString &name, const QString &target) const;
+
+private:
+    QTemporaryDir m_folder;
+};
