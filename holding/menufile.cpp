@@ -33,8 +33,8 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
     if (!isMenuValid())
         return;
     m_ui->tabWidget->setCurrentIndex(0);
+    fixDesignedSize(this); // with all rows of the details, as another configuration may show them later
     loadMenuFile();
-    fixDesignedSize(this);
 }
 
 MenuFile::~MenuFile() = default;

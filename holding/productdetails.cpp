@@ -46,9 +46,19 @@ ProductDetails::ProductDetails(QWidget *parent)
     , m_ui(std::make_unique<Ui::ProductDetails>())
 {
     m_ui->setupUi(this);
+    reserveSampleSize();
 }
 
 ProductDetails::~ProductDetails() = default;
+
+// The form gives the least size. A larger font needs more, with no entry shown too: the editor's size is
+// fixed.
+void ProductDetails::reserveSampleSize()
+{
+    QLabel *sample = m_ui->txtTimerColor;
+    sample->setText(holding::timerColorSample(holding::timerPalette().back()).text);
+    sample->setFixedSize(sample->minimumSize().expandedTo(sample->sizeHint()));
+}
 
 void ProductDetails::showEntry(const ProductInfo *entry, const holding::CabinetConfiguration &configuration)
 {

@@ -29,6 +29,7 @@ public:
     void showEntry(const ProductInfo *entry, const holding::CabinetConfiguration &configuration);
 
 private:
+    void reserveSampleSize();
     void showRows(const holding::CabinetConfiguration &configuration);
     void clear();
     void showTimerColor(const QString &colorName);
