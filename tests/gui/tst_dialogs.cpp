@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QTest>
+
+#include "tests/support/everywindow.h"
+#include "tests/support/shownwidgets.h"
+#include "tests/support/uidriver.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+
+/// The rules that every window keeps.
+class TestDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void cleanup() { QApplication::setFont(m_font); }
+    void tabOrderFollowsReading_data() { addWindowRows(); }
+    void tabOrderFollowsReading();
+    void inputsAreNamed_data() { addWindowRows(); }
+    void inputsAreNamed();
+    void enterPressesTheAcceptingButton_data() { addWindowRows(); }
+    void enterPressesTheAcceptingButton();
+    void nothingIsClipped_data() { addWindowRows(); }
+    void nothingIsClipped();
+    void nothingIsClippedInALargeFont_data() { addWindowRows(); }
+    void nothingIsClippedInALargeFont();
+    void escapeChangesNothing_data() { addDialogRows(); }
+    void escapeChangesNothing();
+
+private:
+    const QFont m_font = QApplication::font();
+};
+
+namespace {
+
+QRect placeIn(const QWidget &window, const QWidget &widget)
+{
+    return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
+}
+
+bool readsBefore(const QRect &first, const QRect &second)
+{
+    const bool sameLine = first.top() <= second.bottom() && second.top() <= first.bottom();
+    return sameLine ? first.left() < second.left() : first.top() < second.top();
+}
+
+void checkTabOrder(QWidget &window)
+{
+    const QList<QWidget *> order = shown::tabOrder(window);
+    QVERIFY(!order.isEmpty());
+    for (qsizetype i = 1; i < order.size(); ++i)
+        QVERIFY2(
+            readsBefore(placeIn(window, *order[i - 1]), placeIn(window, *order[i])),
+            qPrintable(shown::describe(*order[i - 1]) + u" comes before "_s + shown::describe(*order[i])));
+}
+
+} // namespace
+
+void TestDialogs::tabOrderFollowsReading()
+{
+    QFETCH(const std::size_t, kind);
+    const OpenWindow open(everyWindow()[kind]);
+    shown::forEachPage(open.window(), [&open] { checkTabOrder(open.window()); });
+}
+
+namespace {
+
+// Its tabs have names, the bar itself needs none.
+bool needsName(const QWidget *widget)
+{
+    return !qobject_cast<const QTabBar *>(widget);
+}
+
+void checkNames(QWidget &window)
+{
+    for (QWidget *widget : shown::tabOrder(window)) {
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY(accessible);
+        if (needsName(widget))
+            QVERIFY2(!accessible->text(QAccessible::Name).trimmed().isEmpty(),
+                     qPrintable(shown::describe(*widget)));
+    }
+}
+
+} // namespace
+
+void TestDialogs::inputsAreNamed()
+{
+    QFETCH(const std::size_t, kind);
+    const OpenWindow open(everyWindow()[kind]);
+    shown::forEachPage(open.window(), [&open] { checkNames(open.window()); });
+}
+
+void TestDialogs::enterPressesTheAcceptingButton()
+{
+    QFETCH(const std::size_t, kind);
+    const QString accepting = QString::fromLatin1(everyWindow()[kind].acceptingButton);
+    const OpenWindow open(everyWindow()[kind]);
+    for (const QPushButton *button : open.window().findChildren<QPushButton *>()) {
+        const bool isAccepting = !accepting.isEmpty() && button->objectName() == accepting;
+        QVERIFY2(button->isDefault() == isAccepting, qPrintable(shown::describe(*button)));
+        QVERIFY2(button->autoDefault() == isAccepting, qPrintable(shown::describe(*button)));
+    }
+    QVERIFY(accepting.isEmpty() || open.window().findChild<QPushButton *>(accepting));
+}
+
+namespace {
+
+// What a widget needs to show all of its text, or an empty size where it has none to show.
+QSize neededSize(const QWidget *widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(widget)) {
+        if (label->text().isEmpty())
+            return {};
+        return label->wordWrap()
+                   ? QSize(label->minimumSizeHint().width(), label->heightForWidth(label->width()))
+                   : label->sizeHint();
+    }
+    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+        return button->text().trimmed().isEmpty() ? button->iconSize() : button->sizeHint();
+    if (qobject_cast<const QTabBar *>(widget) || qobject_cast<const QComboBox *>(widget) ||
+        qobject_cast<const QAbstractSpinBox *>(widget))
+        return widget->sizeHint();
+    if (qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QGroupBox *>(widget))
+        return widget->minimumSizeHint();
+    return {};
+}
+
+// Parts of a composite are that widget's own business.
+bool isPart(const QWidget *widget)
+{
+    const QWidget *parent = widget->parentWidget();
+    return qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent) ||
+           qobject_cast<const QTabBar *>(parent) || qobject_cast<const QAbstractScrollArea *>(parent) ||
+           widget->isWindow();
+}
+
+void checkSizes(QWidget &window)
+{
+    for (const QWidget *widget : shown::widgets(window)) {
+        if (isPart(widget))
+            continue;
+        const QSize needed = neededSize(widget);
+        QVERIFY2(widget->width() >= needed.width() && widget->height() >= needed.height(),
+                 qPrintable(u"%1 is %2 x %3, needs %4 x %5"_s.arg(shown::describe(*widget))
+                                .arg(widget->width())
+                                .arg(widget->height())
+                                .arg(needed.width())
+                                .arg(needed.height())));
+        QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()),
+                 qPrintable(shown::describe(*widget)));
+    }
+}
+
+} // namespace
+
+void TestDialogs::nothingIsClipped()
+{
+    QFETCH(const std::size_t, kind);
+    const OpenWindow open(everyWindow()[kind]);
+    shown::forEachPage(open.window(), [&open] { checkSizes(open.window()); });
+}
+
+void TestDialogs::nothingIsClippedInALargeFont()
+{
+    QFETCH(const std::size_t, kind);
+    QFont large = m_font;
+    large.setPointSizeF(2 * m_font.pointSizeF());
+    QApplication::setFont(large);
+    const OpenWindow open(everyWindow()[kind]);
+    shown::forEachPage(open.window(), [&open] { checkSizes(open.window()); });
+}
+
+namespace {
+
+void change(QWidget *input)
+{
+    if (auto *edit = qobject_cast<QLineEdit *>(input))
+        ui::type(*edit, u"Changed"_s);
+    else if (qobject_cast<QComboBox *>(input) || qobject_cast<QAbstractSpinBox *>(input))
+        QTest::keyClick(input, Qt::Key_Up);
+    else if (qobject_cast<QCheckBox *>(input) || qobject_cast<QRadioButton *>(input))
+        ui::click(*input);
+    else if (auto *list = qobject_cast<QListWidget *>(input))
+        ui::clickRowBox(*list, list->count() - 1);
+}
+
+} // namespace
+
+void TestDialogs::escapeChangesNothing()
+{
+    QFETCH(const std::size_t, kind);
+    const OpenWindow open(everyWindow()[kind]);
+    const QByteArray before = open.menuBytes();
+    QVERIFY(!before.isEmpty());
+    auto *dialog = qobject_cast<QDialog *>(&open.window());
+    QVERIFY(dialog);
+    dialog->setResult(QDialog::Accepted);
+    for (QWidget *input : shown::tabOrder(*dialog))
+        change(input);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    QVERIFY(dialog->isHidden());
+    QCOMPARE(dialog->result(), static_cast<int>(QDialog::Rejected));
+    QCOMPARE(open.menuBytes(), before);
+}
+
+QTEST_MAIN(TestDialogs)
+#include "tst_dialogs.moc"

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/support/everywindow.h"
+
+#include <QListWidget>
+#include <QTest>
+
+#include "app/aboutapp.h"
+#include "app/selectproductline.h"
+#include "holding/configuration.h"
+#include "holding/groupedit.h"
+#include "holding/menufile.h"
+#include "holding/productedit.h"
+#include "holding/timercolorpicker.h"
+#include "tests/support/windowmenu.h"
+#include "tests/support/uidriver.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <typename Window>
+std::unique_ptr<QWidget> makeWindow(MenuFile &editor)
+{
+    return std::make_unique<Window>(&editor);
+}
+
+std::unique_ptr<QWidget> makeProductEdit(MenuFile &editor)
+{
+    return std::make_unique<ProductEdit>(*editor.getMenuProducts().constFirst(), 0, &editor);
+}
+
+std::unique_ptr<QWidget> makeGroupEdit(MenuFile &editor)
+{
+    return std::make_unique<GroupEdit>(*editor.getMenuGroups().constFirst(), &editor);
+}
+
+std::unique_ptr<QWidget> makeEditor(MenuFile &editor)
+{
+    auto window = std::make_unique<MenuFile>(editor.filePath());
+    ui::get<QListWidget>(*window, "listWidgetProducts").setCurrentRow(0);
+    ui::get<QListWidget>(*window, "listWidgetGroups").setCurrentRow(0);
+    return window;
+}
+
+} // namespace
+
+const std::vector<WindowKind> &everyWindow()
+{
+    static const std::vector<WindowKind> kinds{
+        {"product line", "btnAccept", windowmenu::fullCabinet(), makeWindow<SelectProductLine>},
+        {"about", "btnAccept", windowmenu::fullCabinet(), makeWindow<AboutApp>},
+        {"configuration", "btnAccept", windowmenu::fullCabinet(), makeWindow<Configuration>},
+        {"product, all fields", "btnSave", windowmenu::fullCabinet(), makeProductEdit},
+        {"product, fewest fields", "btnSave", windowmenu::plainCabinet(), makeProductEdit},
+        {"timer color", nullptr, windowmenu::fullCabinet(), makeWindow<TimerColorPicker>},
+        {"group, all fields", "btnSave", windowmenu::fullCabinet(), makeGroupEdit},
+        {"group, fewest fields", "btnSave", windowmenu::plainCabinet(), makeGroupEdit},
+        {"holding editor, all fields", nullptr, windowmenu::fullCabinet(), makeEditor, true},
+        {"holding editor, fewest fields", nullptr, windowmenu::plainCabinet(), makeEditor, true},
+    };
+    return kinds;
+}
+
+void addWindowRows()
+{
+    QTest::addColumn<std::size_t>("kind");
+    for (std::size_t i = 0; i < everyWindow().size(); ++i)
+        QTest::newRow(everyWindow()[i].name) << i;
+}
+
+void addDialogRows()
+{
+    QTest::addColumn<std::size_t>("kind");
+    for (std::size_t i = 0; i < everyWindow().size(); ++i) {
+        if (!everyWindow()[i].isEditor)
+            QTest::newRow(everyWindow()[i].name) << i;
+    }
+}
+
+OpenWindow::OpenWindow(const WindowKind &kind)
+    : m_editor(std::make_unique<MenuFile>(windowmenu::file(m_folder, u"sample.json"_s, kind.cabinet)))
+    , m_window(kind.make(*m_editor))
+{
+    ui::show(*m_window);
+}
+
+OpenWindow::~OpenWindow() = default;
+
+QByteArray OpenWindow::menuBytes() const
+{
+    const QString path = m_folder.filePath(u"now.json"_s);
+    const bool written = m_editor->writeToFile(path);
+    return written ? windowmenu::contentOf(path) : QByteArray();
+}

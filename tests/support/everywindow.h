@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include "holding/cabinet.h"
+
+class MenuFile;
+
+/// A kind of window that the rules for all windows are checked on. A new one is a line in everyWindow().
+struct WindowKind
+{
+    const char *name;
+    const char *acceptingButton; ///< pressed by Enter; null where there is none
+    holding::CabinetConfiguration cabinet;
+    /// Makes the window beside an editor that has a menu open.
+    std::unique_ptr<QWidget> (*make)(MenuFile &editor);
+    bool isEditor = false; ///< as opposed to a dialog
+};
+
+[[nodiscard]] const std::vector<WindowKind> &everyWindow();
+
+/// A test column "kind" with the places in everyWindow(), of all windows or of the dialogs alone.
+void addWindowRows();
+void addDialogRows();
+
+/// A window of a kind, shown, with the editor that it belongs to.
+class OpenWindow
+{
+public:
+    explicit OpenWindow(const WindowKind &kind);
+    ~OpenWindow();
+
+    [[nodiscard]] QWidget &window() const { return *m_window; }
+    [[nodiscard]] MenuFile &editor() const { return *m_editor; }
+    /// What the editor would save now.
+    [[nodiscard]] QByteArray menuBytes() const;
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<MenuFile> m_editor;
+    std::unique_ptr<QWidget> m_window;
+};

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/support/windowmenu.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "holding/menujson.h"
+
+using namespace Qt::StringLiterals;
+
+namespace windowmenu {
+
+const QString longName = u"Grilled Chicken Breast Fillet, Large"_s;
+
+holding::CabinetConfiguration fullCabinet()
+{
+    return {.type = u"QHX"_s,
+            .model = u"KTR34"_s,
+            .fanSpeedEnabled = true,
+            .resetTimeEnabled = true,
+            .productIdEnabled = true,
+            .timerColorEnabled = true};
+}
+
+holding::CabinetConfiguration plainCabinet()
+{
+    return {.type = u"ZPV"_s, .model = u"ZPV43"_s};
+}
+
+holding::Menu menu(const holding::CabinetConfiguration &configuration)
+{
+    holding::Menu menu;
+    menu.configuration = configuration;
+    const QString fault = holding::readDefaultMenu(menu.shape().binsPerZone, menu);
+    Q_ASSERT(fault.isEmpty());
+    ProductInfo &first = *menu.products[0];
+    first.set_productName(sameNameInAllLanguages(longName));
+    if (configuration.timerColorEnabled)
+        first.set_timerColor(u"#a05000"_s);
+    auto group = holding::newGroup(menu.nextFreeId());
+    group->set_productName(sameNameInAllLanguages(u"Breakfast"_s));
+    group->set_zoneSplits(first.get_zoneSplits());
+    group->set_upperTemp(first.get_upperTemp());
+    group->set_lowerTemp(first.get_lowerTemp());
+    group->set_lidType(first.get_lidType());
+    group->set_fanSpeed(configuration.fanSpeedEnabled ? first.get_fanSpeed() : 0);
+    group->set_productList({first.get_productId(), menu.products[1]->get_productId()});
+    menu.dayparts[0].bins[0] = {first.get_productId(), group->get_productId()};
+    menu.groups.push_back(std::move(group));
+    return menu;
+}
+
+QString file(const QTemporaryDir &folder, const QString &name,
+             const holding::CabinetConfiguration &configuration)
+{
+    const QString path = folder.filePath(name);
+    QFile file(path);
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(holding::writeMenu(menu(configuration))) > 0;
+    if (!written)
+        qFatal("The sample menu cannot be written to %s", qPrintable(path));
+    return path;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(path));
+    return file.readAll();
+}
+
+} // namespace windowmenu
