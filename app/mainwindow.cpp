@@ -90,6 +90,8 @@ void MainWindow::openEditor(const ProductLine &line, const QString &path)
     QMdiSubWindow *subWindow = m_ui->mdiArea->addSubWindow(editor);
     subWindow->setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowMinimizeButtonHint |
                               Qt::MSWindowsFixedSizeDialogHint);
+    // A sub-window of fixed size is given a system menu, with which styles draw a close button.
+    subWindow->overrideWindowFlags(subWindow->windowFlags() & ~Qt::WindowSystemMenuHint);
     subWindow->show();
     subWindow->setObjectName(line.subWindowName);
 }
