@@ -46,6 +46,8 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     , m_products(menuFile->getMenuProducts())
 {
     m_ui->setupUi(this);
+    for (QWidget *button : {m_ui->btnAddProduct, m_ui->btnRemoveProduct})
+        button->setAttribute(Qt::WA_StyledBackground); // else a flat button does not paint it
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     numberedrows::prepareColouredList(m_ui->listWidgetGroupProducts);
     fixDesignedSize(this);

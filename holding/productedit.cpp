@@ -56,6 +56,7 @@ ProductEdit::ProductEdit(ProductInfo &product, int productIndex, MenuFile *menuF
     , m_menuFile(menuFile)
 {
     m_ui->setupUi(this);
+    m_ui->btnTimerColor->setAttribute(Qt::WA_StyledBackground); // else a flat button does not paint it
     fixDesignedSize(this);
     setWindowTitle(tr("Product Edit"));
     fillChoices();
