@@ -43,6 +43,11 @@ bool isOdd(int row)
 void prepareColouredList(QListWidget *list)
 {
     prepare(list);
+    // The rows are light, so the check boxes on them have to be, whatever the palette.
+    QPalette palette = list->palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    list->setPalette(palette);
     list->setStyleSheet(u"QListWidget { font: 11pt \"Courier New\"; }"
                         "QListWidget::item:selected { color: black; background-color: darkcyan;"
                         " border: 1px solid green; }"_s);
