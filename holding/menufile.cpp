@@ -9,6 +9,7 @@
 #include "ui_menufile.h"
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
+#include "widgets/numberedrows.h"
 
 namespace {
 
@@ -29,11 +30,13 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
     , m_groups(m_menu.groups, {m_ui->listWidgetGroups, m_ui->btnEditGroup, m_ui->btnDuplicateGroup,
                                m_ui->btnDeleteGroup, m_ui->btnSelectMultiGroup, m_ui->detailsGroup})
 {
+    numberedrows::preparePlainList(m_ui->listWidgetMembers);
     setMenuValid(filePath.isEmpty() ? createMenu() : readMenuFile());
     if (!isMenuValid())
         return;
     m_ui->tabWidget->setCurrentIndex(0);
     fixDesignedSize(this); // with all rows of the details, as another configuration may show them later
+    m_ui->listWidgetMembers->setMinimumHeight(0); // it scrolls, so that a long name finds its room here
     loadMenuFile();
 }
 

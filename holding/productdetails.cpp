@@ -14,6 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int nameLength = 25;
+constexpr QSize samplePadding(16, 4);
+
 QString timeText(int seconds)
 {
     return QTime(0, 0).addSecs(seconds).toString(u"HH:mm:ss"_s);
@@ -46,18 +49,19 @@ ProductDetails::ProductDetails(QWidget *parent)
     , m_ui(std::make_unique<Ui::ProductDetails>())
 {
     m_ui->setupUi(this);
-    reserveSampleSize();
+    reserveRoom();
 }
 
 ProductDetails::~ProductDetails() = default;
 
-// The form gives the least size. A larger font needs more, with no entry shown too: the editor's size is
-// fixed.
-void ProductDetails::reserveSampleSize()
+// The editor's size is fixed, whatever it shows later: room for a name of ordinary length and for the
+// sample's text, in any font.
+void ProductDetails::reserveRoom()
 {
+    m_ui->txtName->setMinimumWidth(nameLength * m_ui->txtName->fontMetrics().averageCharWidth());
     QLabel *sample = m_ui->txtTimerColor;
     sample->setText(holding::timerColorSample(holding::timerPalette().back()).text);
-    sample->setFixedSize(sample->minimumSize().expandedTo(sample->sizeHint()));
+    sample->setFixedSize(sample->minimumSize().expandedTo(sample->sizeHint() + samplePadding));
 }
 
 void ProductDetails::showEntry(const ProductInfo *entry, const holding::CabinetConfiguration &configuration)

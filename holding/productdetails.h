@@ -29,7 +29,7 @@ public:
     void showEntry(const ProductInfo *entry, const holding::CabinetConfiguration &configuration);
 
 private:
-    void reserveSampleSize();
+    void reserveRoom();
     void showRows(const holding::CabinetConfiguration &configuration);
     void clear();
     void showTimerColor(const QString &colorName);

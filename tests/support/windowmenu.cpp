@@ -40,7 +40,7 @@ holding::Menu menu(const holding::CabinetConfiguration &configuration)
     if (configuration.timerColorEnabled)
         first.set_timerColor(u"#a05000"_s);
     auto group = holding::newGroup(menu.nextFreeId());
-    group->set_productName(sameNameInAllLanguages(u"Breakfast"_s));
+    group->set_productName(sameNameInAllLanguages(u"Breakfast Sandwiches, Cold and Warm"_s));
     group->set_zoneSplits(first.get_zoneSplits());
     group->set_upperTemp(first.get_upperTemp());
     group->set_lowerTemp(first.get_lowerTemp());
