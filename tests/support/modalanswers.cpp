@@ -63,6 +63,9 @@ bool ModalAnswers::eventFilter(QObject *watched, QEvent *event)
 void ModalAnswers::answer(QDialog *dialog)
 {
     const QPointer<QDialog> guard(dialog);
+    // Before that, keys and the focus still belong to the window below.
+    if (!QTest::qWaitFor([&guard] { return !guard || guard->isActiveWindow(); }))
+        fail(u"A dialog did not become active"_s);
     const QString what =
         u"%1 \"%2\""_s.arg(QLatin1StringView(dialog->metaObject()->className()), dialog->windowTitle());
     if (m_answers.empty()) {

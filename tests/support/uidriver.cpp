@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QStyle>
 #include <QStyleOptionViewItem>
+#include <QTimeEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +41,16 @@ void type(QWidget &input, const QString &text)
 void type(const QObject &parent, const char *name, const QString &text)
 {
     type(get<QWidget>(parent, name), text);
+}
+
+void enterTime(const QObject &parent, const char *timeEdit, const QTime &time)
+{
+    auto &edit = get<QTimeEdit>(parent, timeEdit);
+    QVERIFY2(edit.isVisible() && edit.isEnabled(), timeEdit);
+    edit.setFocus();
+    edit.setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(&edit, time.toString(u"HHmmss"_s));
+    QCOMPARE(edit.time(), time);
 }
 
 void choose(const QObject &parent, const char *comboBox, const QString &text)

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QTest>
+#include <QTime>
 #include <QWidget>
 
 class QListWidget;
@@ -30,6 +31,9 @@ void click(const QObject &parent, const char *name);
 /// Replaces the text of an input by typing.
 void type(QWidget &input, const QString &text);
 void type(const QObject &parent, const char *name, const QString &text);
+
+/// Enters a time into a time edit by typing its digits, from the hours on.
+void enterTime(const QObject &parent, const char *timeEdit, const QTime &time);
 
 /// Chooses an item of a combo box with the keyboard.
 void choose(const QObject &parent, const char *comboBox, const QString &text);
