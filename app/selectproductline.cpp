@@ -5,6 +5,7 @@
 
 #include "app/productlines.h"
 #include "ui_selectproductline.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 
 SelectProductLine::SelectProductLine(QWidget *parent)
@@ -14,6 +15,7 @@ SelectProductLine::SelectProductLine(QWidget *parent)
     m_ui->setupUi(this);
     for (const ProductLine &line : productLines())
         m_ui->comboProductLineSelect->addItem(line.name, line.resultCode);
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
 }
 

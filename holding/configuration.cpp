@@ -4,6 +4,7 @@
 #include "holding/configuration.h"
 
 #include "ui_configuration.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 
 using namespace Qt::StringLiterals;
@@ -13,6 +14,7 @@ Configuration::Configuration(QWidget *parent)
     , m_ui(std::make_unique<Ui::Configuration>())
 {
     m_ui->setupUi(this);
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
     // The slots are connected by now: the first type shown fills the models and the stored values.
     m_ui->comboUnitType->addItems(holding::cabinetTypes());

@@ -9,6 +9,7 @@
 
 #include "holding/menufile.h"
 #include "ui_groupedit.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
 #include "widgets/numberedrows.h"
@@ -50,6 +51,7 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
         button->setAttribute(Qt::WA_StyledBackground); // else a flat button does not paint it
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     numberedrows::prepareColouredList(m_ui->listWidgetGroupProducts);
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
     setWindowTitle(tr("Group Edit"));
     applyCabinetType();

@@ -10,6 +10,7 @@
 #include "holding/timercolorpicker.h"
 #include "holding/timercolorsample.h"
 #include "ui_productedit.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
 
@@ -57,6 +58,7 @@ ProductEdit::ProductEdit(ProductInfo &product, int productIndex, MenuFile *menuF
 {
     m_ui->setupUi(this);
     m_ui->btnTimerColor->setAttribute(Qt::WA_StyledBackground); // else a flat button does not paint it
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
     setWindowTitle(tr("Product Edit"));
     fillChoices();

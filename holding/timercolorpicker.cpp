@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "ui_timercolorpicker.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 
 using namespace Qt::StringLiterals;
@@ -46,6 +47,7 @@ TimerColorPicker::TimerColorPicker(QWidget *parent)
             m_buttons[row][column] = button;
         }
     }
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
 }
 
