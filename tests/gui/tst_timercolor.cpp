@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QGridLayout>
+#include <QPushButton>
+
+#include "holding/productedit.h"
+#include "holding/timercolorpicker.h"
+#include "holding/timercolors.h"
+#include "tests/gui/openeditor.h"
+#include "tests/support/modalanswers.h"
+#include "tests/support/slotlist.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int columns = 9;
+
+samplefile::Menu menuWithColor(const QString &colorName)
+{
+    samplefile::Menu menu;
+    menu.header = samplefile::header({{u"timerColorEnabled"_s, true}});
+    menu.products = {samplefile::product(1, u"Bacon"_s, {{u"timerColor"_s, colorName}})};
+    menu.layout = {samplefile::daypart(u"Morning"_s, {})};
+    return menu;
+}
+
+// The button of the palette's entry with this index.
+QPushButton *colorButton(const TimerColorPicker &picker, int index)
+{
+    const auto &grid = ui::get<QGridLayout>(picker, "gridLayout");
+    const QLayoutItem *item = grid.itemAtPosition(index / columns, index % columns);
+    return item ? qobject_cast<QPushButton *>(item->widget()) : nullptr;
+}
+
+void expectPick(ModalAnswers &answers, int index)
+{
+    answers.expect<TimerColorPicker>([index](TimerColorPicker &picker) {
+        QPushButton *button = colorButton(picker, index);
+        QVERIFY(button);
+        ui::click(*button);
+    });
+}
+
+// Opens the product editor and then, by its colour button, the picker.
+void edit(OpenEditor &editor, const std::function<void(ProductEdit &, ModalAnswers &)> &act)
+{
+    ModalAnswers answers;
+    answers.expect<ProductEdit>([&](ProductEdit &dialog) { act(dialog, answers); });
+    ui::clickRow(editor.products(), 0);
+    ui::click(*editor, "btnEditProduct");
+}
+
+QString savedColor(OpenEditor &editor)
+{
+    const QJsonArray products = editor.saved().value(u"products"_s).toArray();
+    return products.at(0).toObject().value(u"timerColor"_s).toString();
+}
+
+QPushButton &sampleOf(const ProductEdit &dialog)
+{
+    return ui::get<QPushButton>(dialog, "btnTimerColor");
+}
+
+} // namespace
+
+class TestTimerColor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void slotsAreInOrder();
+    void pickerShowsThePalette();
+    void everyColorCanBePicked();
+    void pickedColorIsShownAndSaved();
+    void pickedNoColorIsShownAndSaved();
+    void cancelledPickerChangesNothing();
+    void cancelledEditorKeepsTheColor();
+    void colorIsPickedByKeyboard();
+};
+
+void TestTimerColor::slotsAreInOrder()
+{
+    QCOMPARE(ownSlots(TimerColorPicker::staticMetaObject), QStringList{u"colorPick_clicked()"_s});
+}
+
+void TestTimerColor::pickerShowsThePalette()
+{
+    TimerColorPicker picker;
+    ui::show(picker);
+    QCOMPARE(picker.minimumSize(), picker.maximumSize());
+    QCOMPARE(picker.findChildren<QPushButton *>().size(), 81);
+    QCOMPARE(ui::get<QWidget>(picker, "frame").styleSheet(), u"background-color: rgb(255, 255, 255);"_s);
+    for (int index = 0; index < 81; ++index) {
+        const QPushButton *button = colorButton(picker, index);
+        QVERIFY(button && button->isVisible());
+        QCOMPARE(button->text(), u" "_s);
+        QCOMPARE(button->size(), QSize(25, 25));
+        QCOMPARE(button->icon().isNull(), index != 0);
+    }
+    QCOMPARE(colorButton(picker, 0)->iconSize(), QSize(25, 25));
+    QCOMPARE(colorButton(picker, 0)->styleSheet(), QString());
+    QCOMPARE(colorButton(picker, 1)->styleSheet(), u"background-color: rgb(112,0,0);"_s);
+    QCOMPARE(colorButton(picker, 9)->styleSheet(), u"background-color: rgb(64,33,0);"_s);
+    QCOMPARE(colorButton(picker, 62)->styleSheet(), u"background-color: rgb(244,192,255);"_s);
+    QCOMPARE(colorButton(picker, 80)->styleSheet(), u"background-color: rgb(255,255,255);"_s);
+}
+
+void TestTimerColor::everyColorCanBePicked()
+{
+    for (int index = 0; index < 81; ++index) {
+        TimerColorPicker picker;
+        ui::show(picker);
+        QVERIFY(!picker.chosen());
+        ui::click(*colorButton(picker, index));
+        QCOMPARE(picker.result(), int(QDialog::Accepted));
+        QCOMPARE(picker.chosen(), &holding::timerPalette()[static_cast<std::size_t>(index)]);
+    }
+}
+
+void TestTimerColor::pickedColorIsShownAndSaved()
+{
+    OpenEditor editor(menuWithColor(u"#fffffd"_s));
+    edit(editor, [](ProductEdit &dialog, ModalAnswers &answers) {
+        answers.expect<TimerColorPicker>([](TimerColorPicker &picker) {
+            QCOMPARE(picker.windowTitle(), u"Colors"_s);
+            ui::click(*colorButton(picker, 9));
+        });
+        ui::click(dialog, "btnTimerColor");
+        QCOMPARE(sampleOf(dialog).text(), u"SampleText"_s);
+        QCOMPARE(sampleOf(dialog).styleSheet(),
+                 u"background-color: rgb(64,33,0); color: rgb(160, 160, 160);"_s);
+        expectPick(answers, 71); // the last colour of its row
+        ui::click(dialog, "btnTimerColor");
+        QCOMPARE(sampleOf(dialog).styleSheet(),
+                 u"background-color: rgb(255,192,255); color: rgb(0, 0, 0);"_s);
+        ui::click(dialog, "btnSave");
+    });
+    QCOMPARE(savedColor(editor), u"#ffc0ff"_s);
+}
+
+void TestTimerColor::pickedNoColorIsShownAndSaved()
+{
+    OpenEditor editor(menuWithColor(u"#ff0000"_s));
+    edit(editor, [](ProductEdit &dialog, ModalAnswers &answers) {
+        expectPick(answers, 0);
+        ui::click(dialog, "btnTimerColor");
+        QCOMPARE(sampleOf(dialog).text(), QString());
+        QCOMPARE(sampleOf(dialog).styleSheet(),
+                 u"background-color: rgb(250, 255, 189); border-image: url(:/images/noColor.png);"_s);
+        ui::click(dialog, "btnSave");
+    });
+    QCOMPARE(savedColor(editor), u"#fffffd"_s);
+}
+
+void TestTimerColor::cancelledPickerChangesNothing()
+{
+    OpenEditor editor(menuWithColor(u"#ff0000"_s));
+    edit(editor, [](ProductEdit &dialog, ModalAnswers &answers) {
+        answers.expect<TimerColorPicker>(
+            [](TimerColorPicker &picker) { QTest::keyClick(&picker, Qt::Key_Escape); });
+        ui::click(dialog, "btnTimerColor");
+        QCOMPARE(sampleOf(dialog).styleSheet(), u"background-color: rgb(255,0,0); color: rgb(0, 0, 0);"_s);
+        ui::click(dialog, "btnSave");
+    });
+    QCOMPARE(savedColor(editor), u"#ff0000"_s);
+}
+
+void TestTimerColor::cancelledEditorKeepsTheColor()
+{
+    OpenEditor editor(menuWithColor(u"#123456"_s)); // none of the palette's
+    edit(editor, [](ProductEdit &dialog, ModalAnswers &answers) {
+        expectPick(answers, 40);
+        ui::click(dialog, "btnTimerColor");
+        ui::click(dialog, "btnCancel");
+    });
+    QCOMPARE(savedColor(editor), u"#123456"_s);
+}
+
+void TestTimerColor::colorIsPickedByKeyboard()
+{
+    OpenEditor editor(menuWithColor(u"#fffffd"_s));
+    edit(editor, [](ProductEdit &dialog, ModalAnswers &answers) {
+        answers.expect<TimerColorPicker>([](TimerColorPicker &picker) {
+            QTest::keyClick(&picker, Qt::Key_Tab);
+            QTest::keyClick(picker.focusWidget(), Qt::Key_Space);
+        });
+        sampleOf(dialog).setFocus();
+        QTest::keyClick(&sampleOf(dialog), Qt::Key_Space);
+        ui::click(dialog, "btnSave");
+    });
+    QCOMPARE(savedColor(editor), u"#700000"_s);
+}
+
+QTEST_MAIN(TestTimerColor)
+#include "tst_timercolor.moc"
