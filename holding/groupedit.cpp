@@ -248,7 +248,8 @@ void GroupEdit::on_listWidgetGroupProducts_itemChanged(QListWidgetItem *item)
 
 void GroupEdit::on_listWidgetGroupProducts_itemClicked(QListWidgetItem *item)
 {
-    m_ui->listWidgetGroupProducts->setCurrentItem(item);
+    if (item != m_ui->listWidgetGroupProducts->currentItem())
+        m_ui->listWidgetGroupProducts->setCurrentItem(item);
 }
 
 void GroupEdit::on_listWidgetProducts_itemSelectionChanged()
