@@ -4,6 +4,7 @@
 #include "widgets/multiselection.h"
 
 #include <QAbstractButton>
+#include <QKeyEvent>
 #include <QListWidget>
 
 MultiSelection::MultiSelection(QListWidget *list, QAbstractButton *button)
@@ -11,6 +12,7 @@ MultiSelection::MultiSelection(QListWidget *list, QAbstractButton *button)
     , m_list(list)
     , m_button(button)
 {
+    list->installEventFilter(this);
     connect(list, &QListWidget::itemSelectionChanged, this, &MultiSelection::checkSelected);
     connect(list, &QListWidget::itemChanged, this, [this](QListWidgetItem *item) {
         if (m_active)
@@ -62,4 +64,19 @@ void MultiSelection::checkSelected()
         QListWidgetItem *item = m_list->item(row);
         item->setCheckState(item->isSelected() ? Qt::Checked : Qt::Unchecked);
     }
+}
+
+// Left to itself the view also searches for what is typed, a blank included, and toggles the row it finds.
+bool MultiSelection::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!m_active || event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(watched, event);
+    const auto *press = static_cast<QKeyEvent *>(event);
+    if (press->key() == Qt::Key_Space) {
+        if (QListWidgetItem *item = m_list->currentItem())
+            item->setSelected(!item->isSelected());
+        return true;
+    }
+    const bool isCommand = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !isCommand && !press->text().isEmpty() && press->text().front().isPrint();
 }

@@ -30,6 +30,9 @@ public:
     /// the mode.
     void restoreChecks(const QList<int> &rows);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void checkSelected();
 
