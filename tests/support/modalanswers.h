@@ -17,7 +17,7 @@ class QFileDialog;
 /// Each dialog that is shown takes the next answer from the queue, inside its own event loop. A dialog that
 /// nobody expected, one of another kind, one that its answer left open, and an answer whose dialog never came
 /// each fail the test; every dialog is closed in any case, so that no test hangs. Answers may open dialogs of
-/// their own: those take the following answers.
+/// their own: those take the following answers. One object at a time, as each answers every dialog.
 class ModalAnswers : public QObject
 {
     Q_OBJECT

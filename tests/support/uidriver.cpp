@@ -113,8 +113,13 @@ void show(QWidget &window)
 {
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    activate(window);
+}
+
+void activate(QWidget &window)
+{
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitFor([&window] { return window.isActiveWindow(); }));
 }
 
 } // namespace ui

@@ -48,5 +48,7 @@ void clickMenu(QMainWindow &window, const char *menu, const char *action);
 
 /// Shows a window and waits until it is active.
 void show(QWidget &window);
+/// Makes a shown window the active one: without a window manager nobody does so after a dialog was closed.
+void activate(QWidget &window);
 
 } // namespace ui
