@@ -68,6 +68,8 @@ void ModalAnswers::answer(QDialog *dialog)
         fail(u"A dialog did not become active"_s);
     const QString what =
         u"%1 \"%2\""_s.arg(QLatin1StringView(dialog->metaObject()->className()), dialog->windowTitle());
+    if (m_look)
+        m_look(*dialog);
     if (m_answers.empty()) {
         const auto *box = qobject_cast<QMessageBox *>(dialog);
         fail(u"Unexpected dialog: "_s + what +

@@ -27,6 +27,9 @@ public:
     /// Fails the test when answers are left.
     ~ModalAnswers() override;
 
+    /// Calls `look` with every dialog before it is answered.
+    void onShown(std::function<void(const QDialog &)> look) { m_look = std::move(look); }
+
     /// Expects any dialog of the type; `answer` has to close it.
     template <typename Dialog>
     void expect(std::function<void(Dialog &)> answer)
@@ -80,4 +83,5 @@ private:
     void answer(QDialog *dialog);
 
     std::deque<Answer> m_answers;
+    std::function<void(const QDialog &)> m_look;
 };

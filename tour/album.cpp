@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tour/album.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTest>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QWidget *foremostWindow()
+{
+    if (QWidget *popup = QApplication::activePopupWidget())
+        return popup;
+    if (QWidget *dialog = QApplication::activeModalWidget())
+        return dialog;
+    return QApplication::activeWindow();
+}
+
+QImage grabScreen()
+{
+    return QGuiApplication::primaryScreen()->grabWindow().toImage();
+}
+
+// The window manager draws frames when it likes and says nothing of it: the screen is at rest when one look
+// after another is the same.
+QImage grabScreenAtRest()
+{
+    constexpr int looksAlike = 5;
+    QImage image;
+    int alike = 0;
+    const bool atRest = QTest::qWaitFor([&] {
+        const QImage now = grabScreen();
+        alike = now == image ? alike + 1 : 0;
+        image = now;
+        return alike >= looksAlike;
+    });
+    return atRest ? image : QImage();
+}
+
+} // namespace
+
+Album::Album(const QString &folder)
+    : m_folder(folder)
+{
+    m_folder.mkpath(u"."_s);
+    const QStringList earlier = m_folder.entryList({u"[0-9][0-9]-*.png"_s, u"menu*.json"_s}, QDir::Files);
+    for (const QString &name : earlier)
+        m_folder.remove(name);
+}
+
+void Album::shot(const QString &name)
+{
+    QVERIFY2(QTest::qWaitFor([] { return foremostWindow() != nullptr; }),
+             "No window became active: is there a window manager?");
+    QWidget *front = foremostWindow();
+    QVERIFY(QTest::qWaitForWindowExposed(front));
+    QVERIFY(front->windowType() == Qt::Popup || QTest::qWaitForWindowActive(front));
+    const QImage image = grabScreenAtRest();
+    QVERIFY2(!image.isNull(), "The screen does not come to rest");
+    const QString path = filePath(u"%1-%2.png"_s.arg(++m_count, 2, 10, '0'_L1).arg(name));
+    QVERIFY2(image.save(path), qPrintable(path));
+}

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+
+#include "app/mainwindow.h"
+#include "tests/support/modalanswers.h"
+#include "tour/album.h"
+
+class QMdiSubWindow;
+
+/// One product line's part of the tour. A chapter is run as a test object: its private slots are its steps,
+/// in order. A step that fails ends the chapter, and the tour with it.
+///
+/// Every modal dialog is pictured when it comes up, under its title; what else is worth a picture a step
+/// takes by itself.
+class Chapter : public QObject
+{
+    Q_OBJECT
+
+public:
+    Chapter(MainWindow &window, Album &album);
+
+protected:
+    [[nodiscard]] MainWindow &window() const { return m_window; }
+    [[nodiscard]] QString filePath(const QString &name) const { return m_album.filePath(name); }
+    void shot(const QString &name) { m_album.shot(name); }
+
+    /// Answers of a step that are pictured when they are given.
+    class Answers : public ModalAnswers
+    {
+    public:
+        explicit Answers(Chapter &chapter);
+    };
+
+    [[nodiscard]] QMdiSubWindow *activeSubWindow() const;
+    /// The bytes of a file; a file that cannot be read fails the step.
+    [[nodiscard]] static QByteArray contents(const QString &path);
+
+private slots:
+    void init();
+    void cleanup();
+
+private:
+    MainWindow &m_window;
+    Album &m_album;
+    bool m_failed = false;
+};
