@@ -202,8 +202,7 @@ void TestMainWindow::subWindowIsOfFixedSize()
     QMdiSubWindow *subWindow = open.openSample(u"menu.json"_s);
     QCOMPARE(subWindow->objectName(), u"QhxMenuFile"_s);
     // A sub-window adds the title by itself. With a system menu it would have a close button.
-    QCOMPARE(subWindow->windowFlags() &
-                 ~(Qt::WindowType_Mask | Qt::WindowTitleHint),
+    QCOMPARE(subWindow->windowFlags() & ~(Qt::WindowType_Mask | Qt::WindowTitleHint),
              Qt::CustomizeWindowHint | Qt::WindowMinimizeButtonHint | Qt::MSWindowsFixedSizeDialogHint);
     QVERIFY(subWindow->isVisible());
     QWidget *editor = subWindow->widget();

@@ -24,12 +24,15 @@ namespace shown {
 void forEachPage(QWidget &window, const std::function<void()> &look)
 {
     auto *tabs = window.findChild<QTabWidget *>();
+    const int before = tabs ? tabs->currentIndex() : 0;
     for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
         if (tabs)
             tabs->setCurrentIndex(page);
         QCoreApplication::processEvents(); // the layout follows
         look();
     }
+    if (tabs)
+        tabs->setCurrentIndex(before);
 }
 
 QList<QWidget *> widgets(QWidget &window)

@@ -47,7 +47,8 @@ holding::Menu menu(const holding::CabinetConfiguration &configuration)
     group->set_lidType(first.get_lidType());
     group->set_fanSpeed(configuration.fanSpeedEnabled ? first.get_fanSpeed() : 0);
     group->set_productList({first.get_productId(), menu.products[1]->get_productId()});
-    menu.dayparts[0].bins[0] = {first.get_productId(), group->get_productId()};
+    menu.dayparts[0].bins[0] = {first.get_productId(), group->get_productId(),
+                                menu.products[2]->get_productId()};
     menu.groups.push_back(std::move(group));
     return menu;
 }

@@ -11,7 +11,8 @@
 class QTemporaryDir;
 
 /// A small but complete holding-cabinet menu: the default products, of which the first has a long name and a
-/// colour, a group of the first two with a long name, and both in a bin.
+/// colour, a group of the first two with a long name, and three bins: the
+/// first product, the group, the third product.
 namespace windowmenu {
 
 extern const QString longName;

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QApplication>
+#include <QFile>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "app/aboutapp.h"
+#include "holding/menufile.h"
+#include "tests/support/everywindow.h"
+#include "tests/support/modalanswers.h"
+#include "tests/support/pseudotranslation.h"
+#include "tests/support/windowmenu.h"
+#include "tests/support/shownwidgets.h"
+#include "tests/support/uidriver.h"
+#include "tests/support/warnings.h"
+#include "tests/support/work.h"
+
+using namespace Qt::StringLiterals;
+
+/// With a catalogue that changes every text nothing is left as it was, and every file stays the same.
+class TestPseudoTranslation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { failOnWarnings(); }
+    void cleanup() { QApplication::removeTranslator(&m_translator); }
+    void windowsAreTranslated_data() { addWindowRows(); }
+    void windowsAreTranslated();
+    void untranslatedTextIsFound();
+    void readerFaultsAreTranslated_data();
+    void readerFaultsAreTranslated();
+    void workingIsTranslatedAndFilesStayTheSame();
+
+private:
+    PseudoTranslator m_translator;
+    QStringList m_names; ///< held in the menus
+};
+
+void TestPseudoTranslation::initTestCase()
+{
+    const holding::Menu menu = windowmenu::menu();
+    for (const holding::Entries *entries : {&menu.products, &menu.groups}) {
+        for (const auto &entry : *entries)
+            m_names.append(shownName(entry->get_productName()));
+    }
+    m_names.append({u"Bacon"_s, u"Soup"_s, u"Soups"_s}); // of the default menu, and as entered
+}
+
+void TestPseudoTranslation::windowsAreTranslated()
+{
+    QFETCH(const std::size_t, kind);
+    QApplication::installTranslator(&m_translator);
+    const OpenWindow open(everyWindow()[kind]);
+    checkTranslated(open.window(), m_names);
+}
+
+void TestPseudoTranslation::untranslatedTextIsFound()
+{
+    AboutApp box;
+    QCOMPARE(untranslatedTexts(box, {}).size(), shown::texts(box).size());
+}
+
+void TestPseudoTranslation::readerFaultsAreTranslated_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray header = R"("header":{"cabinetType":"QHX","cabinetModel":"KTR22"})";
+    QTest::newRow("no document") << QByteArray("{");
+    QTest::newRow("no header") << QByteArray("{}");
+    QTest::newRow("no menu") << QByteArray('{' + header + '}');
+    QTest::newRow("no products") << QByteArray('{' + header + R"(,"menu":{"layout":[]}})");
+    QTest::newRow("no groups") << QByteArray('{' + header + R"(,"menu":{"products":[]}})");
+    QTest::newRow("no layout") << QByteArray('{' + header + R"(,"menu":{"products":[],"productGroups":[]}})");
+    QTest::newRow("no file") << QByteArray();
+}
+
+void TestPseudoTranslation::readerFaultsAreTranslated()
+{
+    QFETCH(const QByteArray, content);
+    QApplication::installTranslator(&m_translator);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"menu.json"_s));
+    if (!content.isEmpty())
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush());
+    ModalAnswers answers;
+    answers.expect<QMessageBox>([](QMessageBox &box) {
+        checkTranslated(box, {});
+        ui::click(*box.button(QMessageBox::Ok));
+    });
+    const MenuFile editor(file.fileName());
+    QVERIFY(!editor.isMenuValid());
+}
+
+void TestPseudoTranslation::workingIsTranslatedAndFilesStayTheSame()
+{
+    const QList<QByteArray> plain = Work(false, m_names).run();
+    QApplication::installTranslator(&m_translator);
+    const QList<QByteArray> translated = Work(true, m_names).run();
+    QCOMPARE(translated, plain);
+    QVERIFY(plain[0].contains("\"Soup\"") && plain[0].contains("\"Vented\""));
+    QVERIFY(plain[1] != plain[2]);
+}
+
+QTEST_MAIN(TestPseudoTranslation)
+#include "tst_pseudotranslation.moc"

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <functional>
+
+#include <QList>
+#include <QListWidget>
+#include <QStringList>
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+#include "app/mainwindow.h"
+#include "tests/support/modalanswers.h"
+#include "tests/support/pseudotranslation.h"
+#include "tests/support/uidriver.h"
+
+class Configuration;
+class ProductEdit;
+
+/// A person at work, who looks at every window and box that comes up.
+class Work
+{
+public:
+    Work(bool translated, const QStringList &names)
+        : m_translated(translated)
+        , m_names(names)
+    {
+        ui::show(m_window);
+        look(m_window);
+    }
+
+    /// The files that were saved.
+    QList<QByteArray> run();
+
+private:
+    void look(QWidget &window) const
+    {
+        if (m_translated)
+            checkTranslated(window, m_names);
+    }
+    void expectBox(QMessageBox::StandardButton press);
+    void expectFile(const QString &path);
+    template <typename Dialog>
+    void expectDialog(std::function<void(Dialog &)> act);
+
+    void makeMenu();
+    void configure(Configuration &dialog);
+    void addProduct();
+    void enterWrongly(ProductEdit &dialog);
+    void addGroup();
+    void saveNew();
+    void openSample();
+    void editProduct(int row);
+    void editGroup();
+    void deleteEntries(const char *select, const char *remove, const char *list);
+    void changeModel();
+    void fillUp();
+    void leave();
+
+    [[nodiscard]] QWidget &editor() const;
+    [[nodiscard]] QListWidget &list(const char *name) const { return ui::get<QListWidget>(editor(), name); }
+    void showTab(int index) const { ui::get<QTabWidget>(editor(), "tabWidget").setCurrentIndex(index); }
+
+    bool m_translated;
+    QStringList m_names;
+    QTemporaryDir m_folder;
+    MainWindow m_window;
+    ModalAnswers m_answers;
+};
+
+template <typename Dialog>
+void Work::expectDialog(std::function<void(Dialog &)> act)
+{
+    m_answers.expect<Dialog>([this, act = std::move(act)](Dialog &dialog) {
+        look(dialog);
+        act(dialog);
+    });
+}
