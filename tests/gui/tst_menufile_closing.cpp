@@ -98,6 +98,8 @@ private slots:
     void escapeInADialogClosesTheDialogOnly();
     void titlesNameTheFile();
     void editorWithoutSubWindowAsksToo();
+    void onlyASaveInPlaceLeavesTheEditorToItsOwner_data();
+    void onlyASaveInPlaceLeavesTheEditorToItsOwner();
 };
 
 void TestMenuFileClosing::everyWayAsks_data()
@@ -300,6 +302,30 @@ void TestMenuFileClosing::editorWithoutSubWindowAsksToo()
     QTest::keyClick(&editor, Qt::Key_Escape);
     QVERIFY(answers.allAnswered());
     QVERIFY(editor.isVisible());
+}
+
+void TestMenuFileClosing::onlyASaveInPlaceLeavesTheEditorToItsOwner_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::addColumn<bool>("isLeft");
+    QTest::newRow("Yes") << QMessageBox::Yes << true;
+    QTest::newRow("No") << QMessageBox::No << false;
+}
+
+void TestMenuFileClosing::onlyASaveInPlaceLeavesTheEditorToItsOwner()
+{
+    QFETCH(QMessageBox::StandardButton, answer);
+    QFETCH(bool, isLeft);
+    const samplefile::Folder folder;
+    const QPointer<MenuFile> editor(new MenuFile(folder.write(u"menu.json"_s, twoProducts().bytes())));
+    ui::show(*editor);
+    ModalAnswers answers;
+    answers.expectBox(ModalAnswers::saveQuestion(), answer);
+    QTest::keyClick(editor.data(), Qt::Key_Escape);
+    QVERIFY(!editor->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(!editor.isNull(), isLeft);
+    delete editor;
 }
 
 QTEST_MAIN(TestMenuFileClosing)
