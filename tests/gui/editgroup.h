@@ -101,4 +101,18 @@ inline QJsonObject savedGroup(OpenEditor &editor)
     return editor.saved().value(u"productGroups"_s).toArray().at(0).toObject();
 }
 
+inline QList<int> savedMembers(OpenEditor &editor)
+{
+    QList<int> ids;
+    const QJsonArray products = savedGroup(editor).value(u"products"_s).toArray();
+    for (const QJsonValue id : products)
+        ids.append(id.toInt());
+    return ids;
+}
+
+inline int savedDefault(OpenEditor &editor)
+{
+    return savedGroup(editor).value(u"defaultProd"_s).toInt(-1);
+}
+
 } // namespace groupedit
