@@ -1,0 +1,57 @@
+# shellcheck shell=bash
+# SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# The Debian 12 packages that each task needs, and what the scripts share. To be sourced.
+
+# shellcheck disable=SC2034  # the sets are looked up by name
+{
+    packages_build=(cmake g++ git libgl-dev ninja-build qt6-base-dev qt6-l10n-tools qt6-tools-dev
+                    qt6-tools-dev-tools)
+    # The lists ask for "Courier New", for which fontconfig takes Liberation Mono.
+    packages_fonts=(fonts-dejavu-core fonts-liberation fonts-noto-core)
+    packages_display=(x11-utils)
+    packages_wayland=(qt6-wayland)
+    packages_tour=(openbox x11-utils xvfb)
+    packages_lint=(appstream clang-14 clang-format-14 clang-tidy-14 clazy desktop-file-utils libxml2-utils
+                   shellcheck)
+    packages_bench=(valgrind)
+}
+
+missing_packages() {
+    local name
+    for name in "$@"; do
+        [[ $(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null) == installed ]] || echo "$name"
+    done
+}
+
+# install_packages SET...: the network is used only when something is missing.
+install_packages() {
+    local set names=() missing=() as_root=()
+    for set in "$@"; do
+        local -n list=packages_$set
+        names+=("${list[@]}")
+    done
+    if ! command -v apt-get >/dev/null; then
+        echo "This is no Debian system. Make sure that it has the likes of: ${names[*]}" >&2
+        return 0
+    fi
+    mapfile -t missing < <(missing_packages "${names[@]}")
+    ((${#missing[@]})) || return 0
+    if ((EUID != 0)); then
+        if ! command -v sudo >/dev/null; then
+            echo "Neither root nor sudo. Please install: ${missing[*]}" >&2
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing: ${missing[*]}"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Acquire::Retries=3 update
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Acquire::Retries=3 install -y \
+        --no-install-recommends "${missing[@]}"
+}
+
+# build PRESET [OPTION FOR THE BUILD...]
+build() {
+    cmake --preset "$1" && cmake --build --preset "$@"
+}
