@@ -89,6 +89,20 @@ bool Menu::removeFromDayparts(int id)
     return removed;
 }
 
+void Menu::addDaypart(const QStringList &names)
+{
+    Daypart &daypart = dayparts[static_cast<std::size_t>(daypartCount++)];
+    daypart = {};
+    daypart.names = names;
+}
+
+void Menu::removeDaypart(int index)
+{
+    const auto removed = dayparts.begin() + index;
+    std::move(removed + 1, dayparts.begin() + daypartCount, removed);
+    dayparts[static_cast<std::size_t>(--daypartCount)] = {};
+}
+
 void Menu::clearBins()
 {
     for (Daypart &daypart : dayparts)
