@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/bingrid.h"
+
+#include <algorithm>
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPushButton>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto holdTime = 800ms;
+
+// Disabling a button does not end its press: Qt keeps the state, and the slightest move of a mouse that is
+// let go later would count as a click. A release outside the button does end it.
+void releaseOutside(QPushButton *button)
+{
+    const QPointF outside(-1, -1);
+    QMouseEvent release(QEvent::MouseButtonRelease, outside, button->mapToGlobal(outside), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(button, &release);
+}
+
+} // namespace
+
+BinGrid::BinGrid(QObject *parent)
+    : QObject(parent)
+{
+    m_holdTimer.setSingleShot(true);
+    m_holdTimer.setInterval(holdTime);
+    connect(&m_holdTimer, &QTimer::timeout, this, &BinGrid::holdDetected);
+}
+
+void BinGrid::clear()
+{
+    leaveRemovalMode();
+    release();
+    m_pressed = nullptr;
+    m_places.clear();
+}
+
+void BinGrid::add(QPushButton *button, Bin bin)
+{
+    m_places.append({button, bin});
+}
+
+QPushButton *BinGrid::button(Bin bin) const
+{
+    const auto found = std::find_if(m_places.begin(), m_places.end(),
+                                    [bin](const Place &place) { return place.bin == bin; });
+    return found == m_places.end() ? nullptr : found->button;
+}
+
+std::optional<Bin> BinGrid::binOf(const QPushButton *button) const
+{
+    const auto found = std::find_if(m_places.begin(), m_places.end(),
+                                    [button](const Place &place) { return place.button == button; });
+    return found == m_places.end() ? std::nullopt : std::optional(found->bin);
+}
+
+void BinGrid::press(QPushButton *button)
+{
+    if (button->isCheckable())
+        return;
+    m_pressed = button;
+    m_holdTimer.start();
+}
+
+void BinGrid::release()
+{
+    m_holdTimer.stop();
+}
+
+std::optional<Bin> BinGrid::clickedBin(const QPushButton *button) const
+{
+    return button->isCheckable() ? std::nullopt : binOf(button);
+}
+
+std::optional<Bin> BinGrid::heldBin() const
+{
+    return m_pressed ? binOf(m_pressed) : std::nullopt;
+}
+
+void BinGrid::endHold()
+{
+    if (!m_pressed)
+        return;
+    const bool hadFocus = m_pressed->hasFocus();
+    releaseOutside(m_pressed);
+    m_pressed->setEnabled(false);
+    m_pressed->setEnabled(true);
+    if (hadFocus)
+        m_pressed->setFocus();
+}
+
+void BinGrid::enterRemovalMode(const std::function<bool(Bin)> &isFilled)
+{
+    endHold();
+    for (const Place &place : std::as_const(m_places)) {
+        if (place.button->isHidden())
+            continue;
+        const bool filled = isFilled(place.bin);
+        place.button->setEnabled(filled);
+        place.button->setCheckable(filled);
+        place.button->setChecked(filled && place.button == m_pressed);
+    }
+    emit removalModeChanged(true);
+}
+
+void BinGrid::leaveRemovalMode()
+{
+    if (!isRemoving())
+        return;
+    for (const Place &place : std::as_const(m_places)) {
+        place.button->setChecked(false);
+        place.button->setCheckable(false);
+        place.button->setEnabled(true);
+    }
+    emit removalModeChanged(false);
+}
+
+bool BinGrid::isRemoving() const
+{
+    return std::any_of(m_places.begin(), m_places.end(),
+                       [](const Place &place) { return place.button->isCheckable(); });
+}
+
+QList<Bin> BinGrid::checkedBins() const
+{
+    QList<Bin> bins;
+    for (const Place &place : m_places) {
+        if (place.button->isChecked() && !place.button->isHidden())
+            bins.append(place.bin);
+    }
+    return bins;
+}

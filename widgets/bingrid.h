@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <QList>
+#include <QObject>
+#include <QTimer>
+
+class QPushButton;
+
+/// A bin of the cabinet as the editors count: rows from the top, slots from the left.
+struct Bin
+{
+    int row = 0;
+    int slot = 0;
+
+    friend bool operator==(const Bin &, const Bin &) = default;
+};
+
+/// Which button is which bin, and the two modes of the buttons: a click assigns, until a bin is held for
+/// 800 ms; in removal mode clicks choose the bins to clear.
+///
+/// The editor forwards what happens to its buttons and answers holdDetected(). The grid knows nothing of
+/// products; it owns no buttons.
+class BinGrid final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit BinGrid(QObject *parent = nullptr);
+
+    /// The buttons that the cabinet has; hidden ones take no part in removal mode.
+    void clear();
+    void add(QPushButton *button, Bin bin);
+    [[nodiscard]] QPushButton *button(Bin bin) const; ///< null for a bin that the cabinet lacks
+
+    void press(QPushButton *button);
+    void release();
+    /// The bin that a click on the button assigns; nothing in removal mode, where it changes the check mark.
+    [[nodiscard]] std::optional<Bin> clickedBin(const QPushButton *button) const;
+
+    /// The bin whose hold was detected.
+    [[nodiscard]] std::optional<Bin> heldBin() const;
+    /// Ends the press of the held button, so that letting it go is no click.
+    void endHold();
+
+    /// Makes the filled bins checkable and disables the others; the held one starts checked.
+    void enterRemovalMode(const std::function<bool(Bin)> &isFilled);
+    void leaveRemovalMode();
+    [[nodiscard]] bool isRemoving() const;
+    [[nodiscard]] QList<Bin> checkedBins() const;
+
+signals:
+    void holdDetected();
+    void removalModeChanged(bool removing);
+
+private:
+    struct Place
+    {
+        QPushButton *button;
+        Bin bin;
+    };
+    [[nodiscard]] std::optional<Bin> binOf(const QPushButton *button) const;
+
+    QList<Place> m_places;
+    QPushButton *m_pressed = nullptr;
+    QTimer m_holdTimer;
+};
