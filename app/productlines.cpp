@@ -60,7 +60,7 @@ const QList<ProductLine> &productLines()
         {.resultCode = 1,
          .name = u"QHX/ZPV"_s,
          .subWindowName = "QhxMenuFile"_L1,
-         .endings = {".json"_L1},
+         .endings = {".json"_L1, ".qhx"_L1},
          .startName = {},
          .saveCaption = [] { return tr("Save JSON Menu"); },
          .saveAsCaption = [] { return tr("Save As JSON Menu"); },

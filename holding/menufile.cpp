@@ -5,11 +5,14 @@
 
 #include "holding/configuration.h"
 #include "holding/menujson.h"
+#include "holding/qhximport.h"
 #include "model/files.h"
 #include "ui_menufile.h"
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
 #include "widgets/numberedrows.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,10 +23,15 @@ std::unique_ptr<Ui::MenuFile> makeForm(MenuFile *editor)
     return form;
 }
 
+bool isOldMenu(const QString &path)
+{
+    return path.endsWith(".qhx"_L1, Qt::CaseInsensitive);
+}
+
 } // namespace
 
 MenuFile::MenuFile(const QString &filePath, QWidget *parent)
-    : MenuEditor(filePath, parent)
+    : MenuEditor(isOldMenu(filePath) ? QString() : filePath, parent)
     , m_ui(makeForm(this))
     , m_products(m_menu.products, {m_ui->listWidgetProducts, m_ui->btnEditProduct, m_ui->btnDuplicateProduct,
                                    m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct, m_ui->detailsProduct})
@@ -31,16 +39,24 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
                                m_ui->btnDeleteGroup, m_ui->btnSelectMultiGroup, m_ui->detailsGroup})
 {
     numberedrows::preparePlainList(m_ui->listWidgetMembers);
-    setMenuValid(filePath.isEmpty() ? createMenu() : readMenuFile());
+    setMenuValid(load(filePath));
     if (!isMenuValid())
         return;
     m_ui->tabWidget->setCurrentIndex(0);
+    prepareGrid();
     fixDesignedSize(this); // with all rows of the details, as another configuration may show them later
     m_ui->listWidgetMembers->setMinimumHeight(0); // it scrolls, so that a long name finds its room here
     loadMenuFile();
 }
 
 MenuFile::~MenuFile() = default;
+
+bool MenuFile::load(const QString &path)
+{
+    if (path.isEmpty())
+        return createMenu();
+    return isOldMenu(path) ? importQhxMenuFile(path) : readMenuFile();
+}
 
 bool MenuFile::createMenu()
 {
@@ -72,6 +88,20 @@ bool MenuFile::readMenuFile()
         return false;
     }
     setFilePath(path);
+    return true;
+}
+
+bool MenuFile::importQhxMenuFile(const QString &fileName)
+{
+    const std::optional<QByteArray> bytes = readFile(fileName);
+    const QString fault =
+        bytes ? holding::importQhxMenu(*bytes, m_menu) : tr("Failed to open the file:") + fileName;
+    loadCabinetInfo();
+    if (!fault.isEmpty()) {
+        messages::fileFault(fault);
+        return false;
+    }
+    showTitle(lastPathPart(fileName));
     return true;
 }
 
@@ -123,6 +153,7 @@ void MenuFile::loadMenuFile()
     loadProductInfo();
     loadGroups();
     loadGroupInfo();
+    loadDayparts();
 }
 
 int MenuFile::getBinsPerZone()

@@ -8,8 +8,10 @@
 
 #include <QJsonObject>
 
+#include "holding/binbuttons.h"
 #include "holding/entrypane.h"
 #include "holding/menu.h"
+#include "widgets/bingrid.h"
 #include "widgets/menueditor.h"
 
 class QListWidgetItem;
@@ -34,6 +36,8 @@ public:
     /// Asks for another name and writes there. The main window asks by itself, so that nothing in the program
     /// calls this; it is the editor's own way for whoever holds one without a main window.
     [[maybe_unused]] void saveAs();
+
+    [[nodiscard]] const holding::CabinetConfiguration &configuration() const { return m_menu.configuration; }
 
     /// Shows everything anew, with no current rows.
     void loadMenuFile();
@@ -86,10 +90,31 @@ public slots: // products and groups
     void on_btnSelectMultiGroup_clicked();
     void on_listWidgetGroups_itemChanged();
 
+public slots: // day parts
+    void loadDayparts();
+    void loadCurrentDaypart();
+    int getDaypartButtonWidth(const QString &zoneSplits);
+    void assignProductToBin(int rowIndex, int binIndex);
+    int calculateButtonWidth(int binSize);
+    void dayPartPressHoldDetected();
+    FOR_EACH_BIN_BUTTON(DECLARE_BIN_BUTTON_SLOTS)
+    void on_btnDaypartRemove_clicked();
+    void on_btnCancelDaypartRemove_clicked();
+    void on_comboDaypartSelect_currentIndexChanged(int index);
+    void on_btnDeleteDaypart_clicked();
+    void on_btnEditDaypart_clicked();
+    void on_btnAddDaypart_clicked();
+    void on_checkBoxDaypartInUse_stateChanged(int arg1);
+
+public slots: // old menus
+    /// Fills a new menu from an old binary one, which is never written: the menu has no path of its own yet.
+    bool importQhxMenuFile(const QString &fileName);
+
 protected:
     [[nodiscard]] SaveNameRequest closingNameRequest() const override;
 
 private:
+    [[nodiscard]] bool load(const QString &path);
     [[nodiscard]] bool createMenu();
     [[nodiscard]] bool askConfiguration(holding::CabinetConfiguration &configuration);
 
@@ -97,6 +122,13 @@ private:
     void addGroup(std::unique_ptr<ProductInfo> group);
     [[nodiscard]] bool refuseWhenFull(const QString &message);
     void loadGroupMembers();
+
+    void prepareGrid();
+    void showRemovalMode(bool removing);
+    void registerBins();
+    void loadDaypartSelector();
+    void showRow(const holding::Daypart &daypart, int row);
+    [[nodiscard]] holding::Daypart *currentDaypart(); ///< null while there is none
     void deleteEntries(EntryPane &pane, holding::Entries &entries);
 
     std::unique_ptr<Ui::MenuFile> m_ui;
@@ -104,4 +136,5 @@ private:
     holding::CabinetShape m_shape; ///< of the configured cabinet, kept up by loadCabinetInfo()
     EntryPane m_products;
     EntryPane m_groups;
+    BinGrid m_grid;
 };

@@ -80,6 +80,7 @@ void MenuFile::on_btnEditGroup_clicked()
     const bool leftDayparts = before != after && removeIdFromAllDayparts(group->get_productId());
     loadGroups();
     loadGroupInfo();
+    loadCurrentDaypart();
     if (leftDayparts)
         messages::removalWarning(this, tr("Group has been removed from daypart(s) assignemnts"));
 }

@@ -107,6 +107,7 @@ void MenuFile::on_btnEditProduct_clicked()
     loadProductInfo();
     loadGroups();
     loadGroupInfo();
+    loadCurrentDaypart();
     if (leftGroups && leftDayparts)
         messages::removalWarning(this,
                                  tr("Product has been removed from group(s) and daypart(s) assignemnts"));
@@ -141,6 +142,7 @@ void MenuFile::deleteEntries(EntryPane &pane, holding::Entries &entries)
     loadProductInfo();
     loadGroups();
     loadGroupInfo();
+    loadCurrentDaypart();
 }
 
 void MenuFile::on_listWidgetProducts_itemSelectionChanged()

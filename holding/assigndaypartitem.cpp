@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "holding/assigndaypartitem.h"
+
+#include "holding/menufile.h"
+#include "ui_assigndaypartitem.h"
+#include "widgets/fixedsize.h"
+#include "widgets/numberedrows.h"
+
+AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int upperTemp, int lowerTemp,
+                                     int fanSpeed, bool singleBinSecondZone, MenuFile *menuFile)
+    : QDialog(menuFile)
+    , m_ui(std::make_unique<Ui::AssignDaypartItem>())
+    , m_menuFile(menuFile)
+    , m_allowedZoneSplits(allowedZoneSplits)
+    , m_limits{upperTemp, lowerTemp, fanSpeed}
+    , m_singleBinSecondZone(singleBinSecondZone)
+    , m_entries(menuFile->getMenuProducts() + menuFile->getMenuGroups())
+{
+    m_ui->setupUi(this);
+    numberedrows::prepareColouredList(m_ui->listWidgetProducts);
+    fixDesignedSize(this);
+    setWindowTitle(tr("Assign Product/Group"));
+    loadProducts();
+    loadProductInfo();
+    m_ui->btnSelect->setEnabled(false);
+    connect(m_ui->listWidgetProducts, &QListWidget::itemDoubleClicked, this,
+            &AssignDaypartItem::on_btnSelect_clicked);
+}
+
+AssignDaypartItem::~AssignDaypartItem() = default;
+
+void AssignDaypartItem::loadProducts()
+{
+    QListWidget *list = m_ui->listWidgetProducts;
+    list->clear();
+    const bool fanSpeedEnabled = m_menuFile->getFanSpeedEnabled();
+    for (int row = 0; row < m_entries.size(); ++row) {
+        const ProductInfo &entry = *m_entries[row];
+        QListWidgetItem *item = numberedrows::append(list, shownName(entry.get_productName()));
+        if (holding::fitsBin(entry, m_limits, m_allowedZoneSplits, fanSpeedEnabled))
+            numberedrows::colourFitting(item, row);
+        else
+            numberedrows::colourUnfitting(item, row);
+    }
+}
+
+const ProductInfo *AssignDaypartItem::selectedEntry() const
+{
+    return m_entries.value(m_selectedRow);
+}
+
+void AssignDaypartItem::loadProductInfo()
+{
+    m_ui->details->showEntry(selectedEntry(), m_menuFile->configuration());
+}
+
+void AssignDaypartItem::on_btnCancel_clicked()
+{
+    reject();
+}
+
+void AssignDaypartItem::on_btnSelect_clicked()
+{
+    if (const ProductInfo *entry = selectedEntry()) {
+        m_resultId = entry->get_productId();
+        accept();
+    }
+}
+
+void AssignDaypartItem::on_listWidgetProducts_itemSelectionChanged()
+{
+    const QListWidget *list = m_ui->listWidgetProducts;
+    m_selectedRow = list->selectedItems().isEmpty() ? -1 : list->currentRow();
+    loadProductInfo();
+    m_ui->btnSelect->setEnabled(m_selectedRow >= 0);
+}
+
+void AssignDaypartItem::on_listWidgetProducts_currentRowChanged(int currentRow)
+{
+    if (m_ui->listWidgetProducts->selectedItems().isEmpty() || currentRow == m_selectedRow)
+        return;
+    m_selectedRow = currentRow;
+    loadProductInfo();
+    m_ui->btnSelect->setEnabled(m_selectedRow >= 0);
+}

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+#include <QList>
+#include <QStringList>
+
+#include "holding/bins.h"
+
+class MenuFile;
+class ProductInfo;
+
+namespace Ui {
+class AssignDaypartItem;
+}
+
+/// Picks the product or group for one bin. Every entry of the menu is listed; those that cannot hold in the
+/// bin are greyed and cannot be selected.
+class AssignDaypartItem final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Temperatures in °F and the fan speed in RPM are what the entry must have; 0 is no requirement.
+    AssignDaypartItem(const QStringList &allowedZoneSplits, int upperTemp, int lowerTemp, int fanSpeed,
+                      bool singleBinSecondZone, MenuFile *menuFile);
+    ~AssignDaypartItem() override;
+
+    /// The id of the chosen product or group, after an accepted run.
+    [[nodiscard]] int resultId() const { return m_resultId; }
+
+public slots:
+    void loadProducts();
+    void loadProductInfo();
+    void on_btnCancel_clicked();
+    void on_btnSelect_clicked();
+    void on_listWidgetProducts_itemSelectionChanged();
+    void on_listWidgetProducts_currentRowChanged(int currentRow);
+
+private:
+    [[nodiscard]] const ProductInfo *selectedEntry() const;
+
+    std::unique_ptr<Ui::AssignDaypartItem> m_ui;
+    MenuFile *m_menuFile;
+    QStringList m_allowedZoneSplits;
+    holding::BinLimits m_limits;
+    /// The allowed splits already say what it means for the bin.
+    [[maybe_unused]] bool m_singleBinSecondZone;
+    QList<ProductInfo *> m_entries; ///< the menu's products, then its groups
+    int m_selectedRow = -1;
+    int m_resultId = holding::emptyBin;
+};

@@ -1,0 +1,297 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "holding/menufile.h"
+
+#include <QSignalBlocker>
+#include <QTime>
+
+#include "holding/assigndaypartitem.h"
+#include "holding/binbuttons.h"
+#include "holding/daypartedit.h"
+#include "ui_menufile.h"
+#include "widgets/messages.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using BinButtonMember = BinButton *Ui_MenuFile::*;
+
+// [row][bin]; the last two rows have no third bin, and the second zone has five rows.
+constexpr std::array<std::array<BinButtonMember, 3>, holding::maxRows> firstZoneButtons{{
+    {&Ui_MenuFile::btnDaypartSelect0_0, &Ui_MenuFile::btnDaypartSelect0_1, &Ui_MenuFile::btnDaypartSelect0_2},
+    {&Ui_MenuFile::btnDaypartSelect1_0, &Ui_MenuFile::btnDaypartSelect1_1, &Ui_MenuFile::btnDaypartSelect1_2},
+    {&Ui_MenuFile::btnDaypartSelect2_0, &Ui_MenuFile::btnDaypartSelect2_1, &Ui_MenuFile::btnDaypartSelect2_2},
+    {&Ui_MenuFile::btnDaypartSelect3_0, &Ui_MenuFile::btnDaypartSelect3_1, &Ui_MenuFile::btnDaypartSelect3_2},
+    {&Ui_MenuFile::btnDaypartSelect4_0, &Ui_MenuFile::btnDaypartSelect4_1, &Ui_MenuFile::btnDaypartSelect4_2},
+    {&Ui_MenuFile::btnDaypartSelect5_0, &Ui_MenuFile::btnDaypartSelect5_1, &Ui_MenuFile::btnDaypartSelect5_2},
+    {&Ui_MenuFile::btnDaypartSelect6_0, &Ui_MenuFile::btnDaypartSelect6_1, nullptr},
+    {&Ui_MenuFile::btnDaypartSelect7_0, &Ui_MenuFile::btnDaypartSelect7_1, nullptr},
+}};
+constexpr std::array<std::array<BinButtonMember, 2>, 5> secondZoneButtons{{
+    {&Ui_MenuFile::btnDaypartSelectB0_0, &Ui_MenuFile::btnDaypartSelectB0_1},
+    {&Ui_MenuFile::btnDaypartSelectB1_0, &Ui_MenuFile::btnDaypartSelectB1_1},
+    {&Ui_MenuFile::btnDaypartSelectB2_0, &Ui_MenuFile::btnDaypartSelectB2_1},
+    {&Ui_MenuFile::btnDaypartSelectB3_0, &Ui_MenuFile::btnDaypartSelectB3_1},
+    {&Ui_MenuFile::btnDaypartSelectB4_0, &Ui_MenuFile::btnDaypartSelectB4_1},
+}};
+
+constexpr int secondZoneWidth = 340;
+constexpr int oneBinSecondZoneWidth = 177;
+
+// Hidden buttons keep their room, so that entering removal mode moves no bin from under the pointer.
+void keepRoomWhenHidden(QWidget *widget)
+{
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+}
+
+QString binText(const holding::SlotContent &content, int id)
+{
+    if (content.entry)
+        return shownName(content.entry->get_productName());
+    // A bin whose entry is missing is no empty bin; its id is all there is to show.
+    return content.filled ? MenuFile::tr("Id %1").arg(id) : QString();
+}
+
+QString binToolTip(const ProductInfo *entry, int unit)
+{
+    if (!entry)
+        return {};
+    return MenuFile::tr("%1\nTemperature: %2 / %3\nHolding Time: %4")
+        .arg(shownName(entry->get_productName()), temperatureText(entry->get_upperTemp(), unit),
+             temperatureText(entry->get_lowerTemp(), unit),
+             QTime(0, 0).addSecs(entry->get_holdTime()).toString(u"HH:mm:ss"_s));
+}
+
+} // namespace
+
+void MenuFile::prepareGrid()
+{
+    m_ui->frameGrid->setStyleSheet(binButtonStyle());
+    for (QWidget *widget : {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDeleteDaypart,
+                            m_ui->btnDaypartRemove, m_ui->btnCancelDaypartRemove})
+        keepRoomWhenHidden(widget);
+    showRemovalMode(false);
+    connect(&m_grid, &BinGrid::holdDetected, this, &MenuFile::dayPartPressHoldDetected);
+    connect(&m_grid, &BinGrid::removalModeChanged, this,
+            [this](bool removing) { showRemovalMode(removing); });
+}
+
+void MenuFile::showRemovalMode(bool removing)
+{
+    for (QWidget *widget : {m_ui->btnDaypartRemove, m_ui->btnCancelDaypartRemove})
+        widget->setVisible(removing);
+    for (QWidget *widget : {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDeleteDaypart})
+        widget->setHidden(removing);
+    m_ui->comboDaypartSelect->setDisabled(removing);
+    m_ui->checkBoxDaypartInUse->setDisabled(removing);
+    m_ui->lblDaypartHint->setText(removing
+                                      ? tr("Choose the bins to clear, then press Remove.")
+                                      : tr("Click a bin to assign it. Hold a filled bin to clear bins."));
+}
+
+holding::Daypart *MenuFile::currentDaypart()
+{
+    const int index = m_ui->comboDaypartSelect->currentIndex();
+    return index < 0 ? nullptr : &m_menu.dayparts[static_cast<std::size_t>(index)];
+}
+
+void MenuFile::loadDayparts()
+{
+    m_grid.clear();
+#define HIDE_BIN_BUTTON(button) m_ui->button->hide();
+    FOR_EACH_BIN_BUTTON(HIDE_BIN_BUTTON)
+#undef HIDE_BIN_BUTTON
+    if (holding::isShowableRowCount(m_shape.rows))
+        registerBins();
+    else
+        messages::refusal(this, tr("Invalid number of rows!"));
+    m_ui->frameSecondZone->setMaximumWidth(m_shape.singleBinSecondZone ? oneBinSecondZoneWidth
+                                                                       : secondZoneWidth);
+    loadDaypartSelector();
+    loadCurrentDaypart();
+}
+
+void MenuFile::registerBins()
+{
+    for (int row = 0; row < m_shape.rows; ++row) {
+        const auto place = static_cast<std::size_t>(row);
+        for (int bin = 0; bin < m_shape.binsPerZone; ++bin)
+            m_grid.add((*m_ui).*(firstZoneButtons[place][static_cast<std::size_t>(bin)]), {row, bin});
+        if (m_shape.zones != 2)
+            continue;
+        const holding::Zone zone = holding::zoneOfSlot(m_shape, m_shape.binsPerZone);
+        for (int bin = 0; bin < zone.count; ++bin)
+            m_grid.add((*m_ui).*(secondZoneButtons[place][static_cast<std::size_t>(bin)]),
+                       {row, zone.first + bin});
+    }
+}
+
+void MenuFile::loadDaypartSelector()
+{
+    const QSignalBlocker blocker(m_ui->comboDaypartSelect);
+    m_ui->comboDaypartSelect->clear();
+    for (int i = 0; i < m_menu.daypartCount; ++i)
+        m_ui->comboDaypartSelect->addItem(shownName(m_menu.dayparts[static_cast<std::size_t>(i)].names));
+    m_ui->btnDeleteDaypart->setEnabled(m_menu.daypartCount > 1);
+}
+
+void MenuFile::loadCurrentDaypart()
+{
+    m_grid.leaveRemovalMode();
+    const holding::Daypart none;
+    const holding::Daypart *current = currentDaypart();
+    const holding::Daypart &daypart = current ? *current : none;
+    {
+        const QSignalBlocker blocker(m_ui->checkBoxDaypartInUse);
+        m_ui->checkBoxDaypartInUse->setChecked(daypart.inUse);
+    }
+    m_ui->checkBoxDaypartInUse->setEnabled(current);
+    m_ui->btnEditDaypart->setEnabled(current);
+    for (int row = 0; row < m_shape.rows; ++row)
+        showRow(daypart, row);
+}
+
+void MenuFile::showRow(const holding::Daypart &daypart, int row)
+{
+    const holding::RowContent content = holding::rowContent(m_menu, daypart, row);
+    const auto looks = holding::rowLook(m_shape, content);
+    for (std::size_t slot = 0; slot < looks.size(); ++slot) {
+        QPushButton *button = m_grid.button({row, static_cast<int>(slot)});
+        if (!button)
+            continue;
+        const int id = daypart.bins[static_cast<std::size_t>(row)][slot];
+        button->setMinimumWidth(looks[slot].minimumWidth);
+        button->setText(binText(content[slot], id));
+        button->setToolTip(binToolTip(content[slot].entry, getTemperatureUnit()));
+        button->setVisible(looks[slot].visible);
+    }
+}
+
+int MenuFile::getDaypartButtonWidth(const QString &zoneSplits)
+{
+    return holding::binButtonWidth(m_shape, zoneSplits);
+}
+
+// The width of a button in an older arrangement of the grid; nothing asks for it any more, but it is part of
+// what an editor offers.
+[[maybe_unused]] int MenuFile::calculateButtonWidth([[maybe_unused]] int binSize)
+{
+    return 55;
+}
+
+void MenuFile::assignProductToBin(int rowIndex, int binIndex)
+{
+    holding::Daypart *daypart = currentDaypart();
+    if (!daypart || !m_grid.button({rowIndex, binIndex}))
+        return;
+    const holding::RowContent row = holding::rowContent(m_menu, *daypart, rowIndex);
+    const holding::BinLimits limits =
+        holding::zoneLimits(row, holding::zoneOfSlot(m_shape, binIndex), binIndex, getFanSpeedEnabled());
+    AssignDaypartItem dialog(holding::allowedZoneSplits(m_shape, row, binIndex), limits.upperTemp,
+                             limits.lowerTemp, limits.fanSpeed, m_shape.singleBinSecondZone, this);
+    if (dialog.exec() != Accepted)
+        return;
+    daypart->bins[static_cast<std::size_t>(rowIndex)][static_cast<std::size_t>(binIndex)] = dialog.resultId();
+    loadCurrentDaypart();
+}
+
+void MenuFile::dayPartPressHoldDetected()
+{
+    const std::optional<Bin> held = m_grid.heldBin();
+    const holding::Daypart *daypart = currentDaypart();
+    const auto isFilled = [daypart](Bin bin) {
+        return daypart &&
+               daypart->bins[static_cast<std::size_t>(bin.row)][static_cast<std::size_t>(bin.slot)] !=
+                   holding::emptyBin;
+    };
+    if (held && isFilled(*held))
+        m_grid.enterRemovalMode(isFilled);
+    else
+        m_grid.endHold();
+}
+
+#define DEFINE_BIN_BUTTON_SLOTS(button)                                                                      \
+    void MenuFile::on_##button##_pressed()                                                                   \
+    {                                                                                                        \
+        m_grid.press(m_ui->button);                                                                          \
+    }                                                                                                        \
+    void MenuFile::on_##button##_released()                                                                  \
+    {                                                                                                        \
+        m_grid.release();                                                                                    \
+    }                                                                                                        \
+    void MenuFile::on_##button##_clicked()                                                                   \
+    {                                                                                                        \
+        if (const std::optional<Bin> bin = m_grid.clickedBin(m_ui->button))                                  \
+            assignProductToBin(bin->row, bin->slot);                                                         \
+    }
+FOR_EACH_BIN_BUTTON(DEFINE_BIN_BUTTON_SLOTS)
+#undef DEFINE_BIN_BUTTON_SLOTS
+
+void MenuFile::on_btnDaypartRemove_clicked()
+{
+    if (holding::Daypart *daypart = currentDaypart()) {
+        const QList<Bin> bins = m_grid.checkedBins();
+        for (const Bin bin : bins)
+            daypart->bins[static_cast<std::size_t>(bin.row)][static_cast<std::size_t>(bin.slot)] =
+                holding::emptyBin;
+    }
+    loadCurrentDaypart();
+}
+
+void MenuFile::on_btnCancelDaypartRemove_clicked()
+{
+    m_grid.leaveRemovalMode();
+}
+
+void MenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]] int index)
+{
+    loadCurrentDaypart();
+}
+
+void MenuFile::on_btnDeleteDaypart_clicked()
+{
+    const int index = m_ui->comboDaypartSelect->currentIndex();
+    if (index < 0 || !messages::confirmDelete(this, tr("Delete selected daypart?")))
+        return;
+    m_menu.removeDaypart(index);
+    loadDayparts();
+}
+
+void MenuFile::on_btnEditDaypart_clicked()
+{
+    holding::Daypart *daypart = currentDaypart();
+    if (!daypart)
+        return;
+    DaypartEdit dialog(daypart->names, this);
+    if (dialog.exec() != Accepted)
+        return;
+    daypart->names = dialog.names();
+    m_ui->comboDaypartSelect->setItemText(m_ui->comboDaypartSelect->currentIndex(),
+                                          shownName(daypart->names));
+    loadCurrentDaypart();
+}
+
+void MenuFile::on_btnAddDaypart_clicked()
+{
+    if (m_menu.daypartCount >= holding::maxDayparts) {
+        messages::refusal(this, tr("Cannot add dayparts. Maximum dayparts reached!"));
+        return;
+    }
+    DaypartEdit dialog(sameNameInAllLanguages({}), this);
+    if (dialog.exec() != Accepted)
+        return;
+    m_menu.addDaypart(dialog.names());
+    loadDaypartSelector();
+    m_ui->comboDaypartSelect->setCurrentIndex(m_menu.daypartCount - 1);
+    loadCurrentDaypart();
+}
+
+void MenuFile::on_checkBoxDaypartInUse_stateChanged(int arg1)
+{
+    if (holding::Daypart *daypart = currentDaypart())
+        daypart->inUse = arg1 == Qt::Checked;
+}
