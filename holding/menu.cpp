@@ -109,6 +109,14 @@ void Menu::clearBins()
         daypart.bins = {};
 }
 
+QStringList namesOf(const Entries &entries)
+{
+    QStringList names;
+    for (const auto &entry : entries)
+        names.append(shownName(entry->get_productName()));
+    return names;
+}
+
 QString defaultZoneSplits(int binsPerZone)
 {
     switch (binsPerZone) {

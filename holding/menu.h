@@ -69,6 +69,9 @@ struct Menu
     void clearBins();
 };
 
+/// The names that are shown for the entries, in their order.
+[[nodiscard]] QStringList namesOf(const Entries &entries);
+
 /// The zone split that a new product starts with.
 [[nodiscard]] QString defaultZoneSplits(int binsPerZone);
 /// The zone splits that a product of a cabinet may have, in the order in which they are offered. Empty for a

@@ -33,10 +33,10 @@ bool isOldMenu(const QString &path)
 MenuFile::MenuFile(const QString &filePath, QWidget *parent)
     : MenuEditor(isOldMenu(filePath) ? QString() : filePath, parent)
     , m_ui(makeForm(this))
-    , m_products(m_menu.products, {m_ui->listWidgetProducts, m_ui->btnEditProduct, m_ui->btnDuplicateProduct,
-                                   m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct, m_ui->detailsProduct})
-    , m_groups(m_menu.groups, {m_ui->listWidgetGroups, m_ui->btnEditGroup, m_ui->btnDuplicateGroup,
-                               m_ui->btnDeleteGroup, m_ui->btnSelectMultiGroup, m_ui->detailsGroup})
+    , m_products({m_ui->listWidgetProducts, m_ui->btnEditProduct, m_ui->btnDuplicateProduct,
+                  m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct})
+    , m_groups({m_ui->listWidgetGroups, m_ui->btnEditGroup, m_ui->btnDuplicateGroup, m_ui->btnDeleteGroup,
+                m_ui->btnSelectMultiGroup})
 {
     numberedrows::preparePlainList(m_ui->listWidgetMembers);
     setMenuValid(load(filePath));

@@ -9,9 +9,9 @@
 #include <QJsonObject>
 
 #include "holding/binbuttons.h"
-#include "holding/entrypane.h"
 #include "holding/menu.h"
 #include "widgets/bingrid.h"
+#include "widgets/entrypane.h"
 #include "widgets/menueditor.h"
 
 class QListWidgetItem;
@@ -128,7 +128,9 @@ private:
     void registerBins();
     void loadDaypartSelector();
     void showRow(const holding::Daypart &daypart, int row);
-    [[nodiscard]] holding::Daypart *currentDaypart(); ///< null while there is none
+    [[nodiscard]] holding::Daypart *currentDaypart();  ///< null while there is none
+    [[nodiscard]] ProductInfo *currentProduct() const; ///< null for none
+    [[nodiscard]] ProductInfo *currentGroup() const;   ///< null for none
     void deleteEntries(EntryPane &pane, holding::Entries &entries);
 
     std::unique_ptr<Ui::MenuFile> m_ui;

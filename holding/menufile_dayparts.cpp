@@ -40,12 +40,10 @@ constexpr std::array<std::array<BinButtonMember, 2>, 5> secondZoneButtons{{
 constexpr int secondZoneWidth = 340;
 constexpr int oneBinSecondZoneWidth = 177;
 
-// Hidden buttons keep their room, so that entering removal mode moves no bin from under the pointer.
-void keepRoomWhenHidden(QWidget *widget)
+template <typename Daypart>
+auto &binOf(Daypart &daypart, Bin bin)
 {
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
+    return daypart.bins[static_cast<std::size_t>(bin.row)][static_cast<std::size_t>(bin.slot)];
 }
 
 QString binText(const holding::SlotContent &content, int id)
@@ -88,9 +86,7 @@ void MenuFile::showRemovalMode(bool removing)
         widget->setHidden(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
     m_ui->checkBoxDaypartInUse->setDisabled(removing);
-    m_ui->lblDaypartHint->setText(removing
-                                      ? tr("Choose the bins to clear, then press Remove.")
-                                      : tr("Click a bin to assign it. Hold a filled bin to clear bins."));
+    m_ui->lblDaypartHint->setText(BinGrid::hint(removing));
 }
 
 holding::Daypart *MenuFile::currentDaypart()
@@ -195,23 +191,14 @@ void MenuFile::assignProductToBin(int rowIndex, int binIndex)
                              limits.lowerTemp, limits.fanSpeed, m_shape.singleBinSecondZone, this);
     if (dialog.exec() != Accepted)
         return;
-    daypart->bins[static_cast<std::size_t>(rowIndex)][static_cast<std::size_t>(binIndex)] = dialog.resultId();
+    binOf(*daypart, {rowIndex, binIndex}) = dialog.resultId();
     loadCurrentDaypart();
 }
 
 void MenuFile::dayPartPressHoldDetected()
 {
-    const std::optional<Bin> held = m_grid.heldBin();
     const holding::Daypart *daypart = currentDaypart();
-    const auto isFilled = [daypart](Bin bin) {
-        return daypart &&
-               daypart->bins[static_cast<std::size_t>(bin.row)][static_cast<std::size_t>(bin.slot)] !=
-                   holding::emptyBin;
-    };
-    if (held && isFilled(*held))
-        m_grid.enterRemovalMode(isFilled);
-    else
-        m_grid.endHold();
+    m_grid.settleHold([daypart](Bin bin) { return daypart && binOf(*daypart, bin) != holding::emptyBin; });
 }
 
 #define DEFINE_BIN_BUTTON_SLOTS(button)                                                                      \

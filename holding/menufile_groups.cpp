@@ -10,12 +10,13 @@
 
 void MenuFile::loadGroups()
 {
-    m_groups.loadList();
+    m_groups.showNames(holding::namesOf(m_menu.groups));
 }
 
 void MenuFile::loadGroupInfo()
 {
-    m_groups.loadDetails(m_menu.configuration);
+    m_ui->detailsGroup->showEntry(currentGroup(), m_menu.configuration);
+    m_groups.updateButtons();
     loadGroupMembers();
 }
 
@@ -23,7 +24,7 @@ void MenuFile::loadGroupInfo()
 void MenuFile::loadGroupMembers()
 {
     m_ui->listWidgetMembers->clear();
-    const ProductInfo *group = m_groups.current();
+    const ProductInfo *group = currentGroup();
     if (!group)
         return;
     const QList<int> members = group->get_productList();
@@ -60,13 +61,13 @@ void MenuFile::on_btnDuplicateGroup_clicked()
 {
     if (refuseWhenFull(tr("Cannot add groups. Maximum products and groups reached!")))
         return;
-    if (const ProductInfo *source = m_groups.current())
+    if (const ProductInfo *source = currentGroup())
         addGroup(holding::duplicateOf(*source, m_menu.nextFreeId()));
 }
 
 void MenuFile::on_btnEditGroup_clicked()
 {
-    ProductInfo *group = m_groups.current();
+    ProductInfo *group = currentGroup();
     if (!group || m_groups.isMultiSelecting())
         return;
     const bool fanSpeedEnabled = getFanSpeedEnabled();
@@ -82,7 +83,7 @@ void MenuFile::on_btnEditGroup_clicked()
     loadGroupInfo();
     loadCurrentDaypart();
     if (leftDayparts)
-        messages::removalWarning(this, tr("Group has been removed from daypart(s) assignemnts"));
+        messages::warning(this, tr("Group has been removed from daypart(s) assignemnts"));
 }
 
 void MenuFile::on_btnDeleteGroup_clicked()
@@ -109,7 +110,7 @@ void MenuFile::on_listWidgetGroups_currentRowChanged([[maybe_unused]] int curren
 
 void MenuFile::on_listWidgetGroups_itemDoubleClicked(QListWidgetItem *item)
 {
-    m_groups.setCurrentRow(m_groups.rowOf(item));
+    m_groups.setCurrentRow(item);
     on_btnEditGroup_clicked();
 }
 
@@ -121,5 +122,5 @@ void MenuFile::on_btnSelectMultiGroup_clicked()
 
 void MenuFile::on_listWidgetGroups_itemChanged()
 {
-    m_groups.followChecks();
+    m_groups.updateButtons();
 }

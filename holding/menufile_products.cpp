@@ -20,7 +20,22 @@ QList<ProductInfo *> pointersTo(const holding::Entries &entries)
     return pointers;
 }
 
+ProductInfo *entryAt(const holding::Entries &entries, int row)
+{
+    return row < 0 ? nullptr : entries[static_cast<std::size_t>(row)].get();
+}
+
 } // namespace
+
+ProductInfo *MenuFile::currentProduct() const
+{
+    return entryAt(m_menu.products, m_products.currentRow());
+}
+
+ProductInfo *MenuFile::currentGroup() const
+{
+    return entryAt(m_menu.groups, m_groups.currentRow());
+}
 
 QList<ProductInfo *> MenuFile::getMenuProducts()
 {
@@ -34,12 +49,13 @@ QList<ProductInfo *> MenuFile::getMenuGroups()
 
 void MenuFile::loadProducts()
 {
-    m_products.loadList();
+    m_products.showNames(holding::namesOf(m_menu.products));
 }
 
 void MenuFile::loadProductInfo()
 {
-    m_products.loadDetails(m_menu.configuration);
+    m_ui->detailsProduct->showEntry(currentProduct(), m_menu.configuration);
+    m_products.updateButtons();
 }
 
 ProductInfo *MenuFile::getProductObject(int id)
@@ -87,13 +103,13 @@ void MenuFile::on_btnDuplicateProduct_clicked()
 {
     if (refuseWhenFull(tr("Cannot add products. Maximum products and groups reached!")))
         return;
-    if (const ProductInfo *source = m_products.current())
+    if (const ProductInfo *source = currentProduct())
         addProduct(holding::duplicateOf(*source, m_menu.nextFreeId()));
 }
 
 void MenuFile::on_btnEditProduct_clicked()
 {
-    ProductInfo *product = m_products.current();
+    ProductInfo *product = currentProduct();
     if (!product || m_products.isMultiSelecting())
         return;
     const holding::HoldingSettings before = holding::holdingSettings(*product, getFanSpeedEnabled());
@@ -109,12 +125,11 @@ void MenuFile::on_btnEditProduct_clicked()
     loadGroupInfo();
     loadCurrentDaypart();
     if (leftGroups && leftDayparts)
-        messages::removalWarning(this,
-                                 tr("Product has been removed from group(s) and daypart(s) assignemnts"));
+        messages::warning(this, tr("Product has been removed from group(s) and daypart(s) assignemnts"));
     else if (leftDayparts)
-        messages::removalWarning(this, tr("Product has been removed from daypart(s) assignemnts"));
+        messages::warning(this, tr("Product has been removed from daypart(s) assignemnts"));
     else if (leftGroups)
-        messages::removalWarning(this, tr("Product has been removed from group(s)"));
+        messages::warning(this, tr("Product has been removed from group(s)"));
 }
 
 void MenuFile::on_btnDeleteProduct_clicked()
@@ -159,7 +174,7 @@ void MenuFile::on_listWidgetProducts_currentRowChanged([[maybe_unused]] int curr
 
 void MenuFile::on_listWidgetProducts_itemDoubleClicked(QListWidgetItem *item)
 {
-    m_products.setCurrentRow(m_products.rowOf(item));
+    m_products.setCurrentRow(item);
     on_btnEditProduct_clicked();
 }
 
@@ -171,5 +186,5 @@ void MenuFile::on_btnSelectMultiProduct_clicked()
 
 void MenuFile::on_listWidgetProducts_itemChanged()
 {
-    m_products.followChecks();
+    m_products.updateButtons();
 }

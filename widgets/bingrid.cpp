@@ -55,6 +55,14 @@ QPushButton *BinGrid::button(Bin bin) const
     return found == m_places.end() ? nullptr : found->button;
 }
 
+QList<Bin> BinGrid::bins() const
+{
+    QList<Bin> bins;
+    for (const Place &place : m_places)
+        bins.append(place.bin);
+    return bins;
+}
+
 std::optional<Bin> BinGrid::binOf(const QPushButton *button) const
 {
     const auto found = std::find_if(m_places.begin(), m_places.end(),
@@ -80,9 +88,12 @@ std::optional<Bin> BinGrid::clickedBin(const QPushButton *button) const
     return button->isCheckable() ? std::nullopt : binOf(button);
 }
 
-std::optional<Bin> BinGrid::heldBin() const
+void BinGrid::settleHold(const std::function<bool(Bin)> &isFilled)
 {
-    return m_pressed ? binOf(m_pressed) : std::nullopt;
+    const std::optional<Bin> held = m_pressed ? binOf(m_pressed) : std::nullopt;
+    endHold();
+    if (held && isFilled(*held))
+        enterRemovalMode(isFilled);
 }
 
 void BinGrid::endHold()
@@ -99,7 +110,6 @@ void BinGrid::endHold()
 
 void BinGrid::enterRemovalMode(const std::function<bool(Bin)> &isFilled)
 {
-    endHold();
     for (const Place &place : std::as_const(m_places)) {
         if (place.button->isHidden())
             continue;
@@ -137,4 +147,17 @@ QList<Bin> BinGrid::checkedBins() const
             bins.append(place.bin);
     }
     return bins;
+}
+
+QString BinGrid::hint(bool removing)
+{
+    return removing ? tr("Choose the bins to clear, then press Remove.")
+                    : tr("Click a bin to assign it. Hold a filled bin to clear bins.");
+}
+
+void keepRoomWhenHidden(QWidget *widget)
+{
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
 }

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 class QPushButton;
+class QWidget;
 
 /// A bin of the cabinet as the editors count: rows from the top, slots from the left.
 struct Bin
@@ -37,22 +38,23 @@ public:
     void clear();
     void add(QPushButton *button, Bin bin);
     [[nodiscard]] QPushButton *button(Bin bin) const; ///< null for a bin that the cabinet lacks
+    [[nodiscard]] QList<Bin> bins() const;
 
     void press(QPushButton *button);
     void release();
     /// The bin that a click on the button assigns; nothing in removal mode, where it changes the check mark.
     [[nodiscard]] std::optional<Bin> clickedBin(const QPushButton *button) const;
 
-    /// The bin whose hold was detected.
-    [[nodiscard]] std::optional<Bin> heldBin() const;
-    /// Ends the press of the held button, so that letting it go is no click.
-    void endHold();
-
-    /// Makes the filled bins checkable and disables the others; the held one starts checked.
-    void enterRemovalMode(const std::function<bool(Bin)> &isFilled);
+    /// Answers holdDetected(): ends the press, so that letting the button go is no click, and enters removal
+    /// mode where the held bin is filled. Filled bins become checkable, the held one checked, the others
+    /// disabled.
+    void settleHold(const std::function<bool(Bin)> &isFilled);
     void leaveRemovalMode();
     [[nodiscard]] bool isRemoving() const;
     [[nodiscard]] QList<Bin> checkedBins() const;
+
+    /// What to tell the user in either mode.
+    [[nodiscard]] static QString hint(bool removing);
 
 signals:
     void holdDetected();
@@ -65,8 +67,13 @@ private:
         Bin bin;
     };
     [[nodiscard]] std::optional<Bin> binOf(const QPushButton *button) const;
+    void endHold();
+    void enterRemovalMode(const std::function<bool(Bin)> &isFilled);
 
     QList<Place> m_places;
     QPushButton *m_pressed = nullptr;
     QTimer m_holdTimer;
 };
+
+/// A hidden widget keeps its room, so that entering removal mode moves no bin from under the pointer.
+void keepRoomWhenHidden(QWidget *widget);

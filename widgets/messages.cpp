@@ -39,7 +39,7 @@ void refusal(QWidget *parent, const QString &message)
     QMessageBox(QMessageBox::Warning, tr("Error"), message, QMessageBox::Close, parent).exec();
 }
 
-void removalWarning(QWidget *parent, const QString &message, QMessageBox::StandardButton button)
+void warning(QWidget *parent, const QString &message, QMessageBox::StandardButton button)
 {
     QMessageBox(QMessageBox::Warning, tr("Warning"), message, button, parent).exec();
 }

@@ -21,9 +21,9 @@ void entryFault(QWidget *parent, const QString &message);
 /// What a dialog or an editor cannot do at all: the same with a warning icon.
 void refusal(QWidget *parent, const QString &message);
 
-/// Data was removed as a consequence of what the user did. `button` closes the box.
-void removalWarning(QWidget *parent, const QString &message,
-                    QMessageBox::StandardButton button = QMessageBox::Ok);
+/// What the user should know of what he just did, such as data that was removed with it. `button` closes the
+/// box.
+void warning(QWidget *parent, const QString &message, QMessageBox::StandardButton button = QMessageBox::Ok);
 
 /// What an accepted configuration did to the menu.
 void reconfigured(QWidget *parent, const QString &message);
