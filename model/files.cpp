@@ -90,6 +90,19 @@ std::optional<QByteArray> readFile(const QString &path)
     return bytes;
 }
 
+bool isWritableTarget(const QString &path)
+{
+    switch (fileType(path)) {
+    case fs::file_type::not_found:
+    case fs::file_type::regular:
+    case fs::file_type::character:
+    case fs::file_type::block:
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool writeFile(const QString &path, const QByteArray &bytes)
 {
     switch (fileType(path)) {
