@@ -9,6 +9,7 @@
 #include <QMdiSubWindow>
 
 #include "holding/menufile.h"
+#include "timerbar/timerbarmenufile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -67,6 +68,16 @@ const QList<ProductLine> &productLines()
          .fileFilter = [] { return tr("JSON Menu Files (*.json)"); },
          .create = create<MenuFile>,
          .cast = cast<MenuFile>},
+        {.resultCode = 3,
+         .name = u"Timer Bar Cabinet"_s,
+         .subWindowName = "TimerBarMenuFile"_L1,
+         .endings = {".cbr"_L1},
+         .startName = {},
+         .saveCaption = [] { return tr("Save TimerBar Menu"); },
+         .saveAsCaption = [] { return tr("Save TimerBar Menu"); },
+         .fileFilter = [] { return tr("TimerBar Menu Files (*.cbr)"); },
+         .create = create<TimerBarMenuFile>,
+         .cast = cast<TimerBarMenuFile>},
     };
     return lines;
 }

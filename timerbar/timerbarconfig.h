@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+#include "model/temperature.h"
+
+namespace Ui {
+class TimerBarConfig;
+}
+
+/// Edits the cabinet model and the temperature unit of a Timer Bar menu.
+class TimerBarConfig final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit TimerBarConfig(QWidget *parent = nullptr);
+    ~TimerBarConfig() override;
+
+public slots:
+    /// The stored values: what the user sees only after Save.
+    quint8 getTempUnit();
+    void setTempUnit(quint8 value);
+    QString getCabinetModel();
+    void setCabinetModel(const QString &value);
+    void on_btnCancel_clicked();
+    void on_btnAccept_clicked();
+
+private:
+    std::unique_ptr<Ui::TimerBarConfig> m_ui;
+    quint8 m_tempUnit = unitFahrenheit;
+    QString m_cabinetModel;
+};

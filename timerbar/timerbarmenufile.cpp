@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "timerbar/timerbarmenufile.h"
+
+#include <QFile>
+
+#include "model/files.h"
+#include "timerbar/cbrfile.h"
+#include "timerbar/timerbarconfig.h"
+#include "ui_timerbarmenufile.h"
+#include "widgets/fixedsize.h"
+#include "widgets/messages.h"
+
+namespace {
+
+std::unique_ptr<Ui::TimerBarMenuFile> makeForm(TimerBarMenuFile *editor)
+{
+    auto form = std::make_unique<Ui::TimerBarMenuFile>();
+    form->setupUi(editor);
+    return form;
+}
+
+QString writeFaultOf(const QString &fileName, const timerbar::Menu &menu)
+{
+    QFile file(fileName);
+    // Unbuffered, so that each record's write tells whether the record is in the file.
+    if (!isWritableTarget(fileName) ||
+        !file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+        return TimerBarMenuFile::tr("Failed to open the file:") + fileName;
+    return timerbar::writeMenu(file, menu);
+}
+
+} // namespace
+
+TimerBarMenuFile::TimerBarMenuFile(const QString &filePath, QWidget *parent)
+    : MenuEditor(filePath, parent)
+    , m_ui(makeForm(this))
+    , m_products({m_ui->listWidgetProducts, m_ui->btnEditProduct, m_ui->btnDuplicateProduct,
+                  m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct})
+{
+    m_ui->btnExportFile->hide(); // there is nothing to export to yet
+    setMenuValid(filePath.isEmpty() ? createMenu() : readMenuFile());
+    if (!isMenuValid())
+        return;
+    loadCabinetInfo();
+    m_ui->tabWidget->setCurrentIndex(0);
+    prepareGrid();
+    loadMenuFile();
+    fixDesignedSize(this);
+}
+
+TimerBarMenuFile::~TimerBarMenuFile() = default;
+
+bool TimerBarMenuFile::createMenu()
+{
+    TimerBarConfig dialog(this);
+    dialog.setWindowTitle(tr("Configuration"));
+    if (dialog.exec() != Accepted)
+        return false;
+    setWindowTitle(tr("TimerBar Menu File - "));
+    m_menu.temperatureUnit = dialog.getTempUnit();
+    m_menu.model = dialog.getCabinetModel();
+    loadDefaultMenu();
+    return true;
+}
+
+void TimerBarMenuFile::closeEvent(QCloseEvent *event)
+{
+    MenuEditor::closeEvent(event);
+}
+
+void TimerBarMenuFile::reject()
+{
+    MenuEditor::reject();
+}
+
+SaveNameRequest TimerBarMenuFile::closingNameRequest() const
+{
+    return {tr("TimerBar Menu"), filePath(), tr("TimerBar Menu Files (*.cbr)")};
+}
+
+bool TimerBarMenuFile::readMenuFile()
+{
+    const QString path = filePath();
+    const std::optional<QByteArray> bytes = readFile(path);
+    const QString fault = bytes ? timerbar::readMenu(*bytes, m_menu) : tr("Failed to open the file:") + path;
+    if (!fault.isEmpty()) {
+        messages::fileFault(fault);
+        setMenuValid(false);
+        return false;
+    }
+    setFilePath(path);
+    return true;
+}
+
+bool TimerBarMenuFile::writeMenuFile(const QString &fileName)
+{
+    if (fileName != filePath())
+        setFilePath(fileName);
+    const QString fault = writeFaultOf(fileName, m_menu);
+    setMenuValid(fault.isEmpty());
+    if (!fault.isEmpty())
+        messages::fileFault(fault);
+    return fault.isEmpty();
+}
+
+void TimerBarMenuFile::loadDefaultMenu()
+{
+    m_menu.products = timerbar::defaultProducts();
+}
+
+void TimerBarMenuFile::loadMenuFile()
+{
+    m_products.setMultiSelecting(false);
+    m_ui->lblCabinet->setText(tr("Cabinet: Timer Bar %1, %2").arg(model(), unitText(temperatureUnit())));
+    loadProducts();
+    loadProductInfo();
+    loadDayparts();
+}
+
+void TimerBarMenuFile::loadCabinetInfo()
+{
+    m_shape = m_menu.shape();
+}
+
+void TimerBarMenuFile::on_btnConfig_clicked()
+{
+    TimerBarConfig dialog(this);
+    dialog.setWindowTitle(tr("Configuration"));
+    dialog.setCabinetModel(m_menu.model);
+    dialog.setTempUnit(static_cast<quint8>(m_menu.temperatureUnit));
+    if (dialog.exec() != Accepted)
+        return;
+    m_menu.temperatureUnit = dialog.getTempUnit();
+    m_menu.model = dialog.getCabinetModel();
+    loadCabinetInfo();
+    loadMenuFile();
+}
+
+void TimerBarMenuFile::on_btnExportFile_clicked() {}

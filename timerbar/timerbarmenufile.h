@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "timerbar/binbuttons.h"
+#include "timerbar/menu.h"
+#include "widgets/bingrid.h"
+#include "widgets/entrypane.h"
+#include "widgets/menueditor.h"
+
+class QListWidgetItem;
+
+namespace Ui {
+class TimerBarMenuFile;
+}
+
+/// The editor of one Timer Bar menu. It owns the menu: model, unit, products and the bins of six day parts.
+///
+/// The slots are its whole surface; rules and file format are in the core. Dialogs read the accessors.
+class TimerBarMenuFile final : public MenuEditor
+{
+    Q_OBJECT
+
+public:
+    /// An empty path makes a new menu, for which the user is asked for the cabinet.
+    explicit TimerBarMenuFile(const QString &filePath, QWidget *parent = nullptr);
+    ~TimerBarMenuFile() override;
+
+    /// Writes in place, record by record: after a failure, which has been shown, the file holds a part of the
+    /// menu and the editor counts as invalid until a later write succeeds.
+    bool writeMenuFile(const QString &fileName);
+    bool writeToFile(const QString &path) override { return writeMenuFile(path); }
+
+    [[nodiscard]] QString model() const { return m_menu.model; }
+    [[nodiscard]] int temperatureUnit() const { return m_menu.temperatureUnit; }
+    /// The records stay the editor's and go with the next deletion.
+    [[nodiscard]] QList<ProductInfo *> products() const;
+
+public slots:
+    void closeEvent(QCloseEvent *event) override;
+    void reject() override;
+    bool readMenuFile();
+    void loadDefaultMenu();
+    /// Shows everything anew, with no current row.
+    void loadMenuFile();
+    void loadCabinetInfo();
+    void loadProducts();
+    void loadProductInfo();
+    void loadDayparts();
+    void loadCurrentDaypart();
+    ProductInfo *getProductObject(int productId);
+    bool removeIdFromAllDayparts(int productId);
+    void assignProductToBin(int rowIndex, int binIndex);
+    void on_btnConfig_clicked();
+    void on_btnAddProduct_clicked();
+    void on_btnEditProduct_clicked();
+    void on_btnDuplicateProduct_clicked();
+    void on_btnDeleteProduct_clicked();
+    void on_btnSelectMultiProduct_clicked();
+    void on_btnExportFile_clicked();
+    void dayPartPressHoldDetected();
+    FOR_EACH_TIMER_BAR_BIN_BUTTON(DECLARE_TIMER_BAR_BIN_BUTTON_SLOTS)
+    void on_btnCancelDaypartRemove_clicked();
+    void on_btnDaypartRemove_clicked();
+    void on_listWidgetProducts_itemSelectionChanged();
+    void on_listWidgetProducts_currentRowChanged(int currentRow);
+    void on_listWidgetProducts_itemDoubleClicked(QListWidgetItem *item);
+    void on_comboDaypartSelect_currentIndexChanged(int index);
+    void on_listWidgetProducts_itemChanged(QListWidgetItem *item);
+
+protected:
+    [[nodiscard]] SaveNameRequest closingNameRequest() const override;
+
+private:
+    [[nodiscard]] bool createMenu();
+    [[nodiscard]] ProductInfo *currentProduct() const; ///< null for none
+    void addProduct(std::unique_ptr<ProductInfo> product);
+    [[nodiscard]] bool refuseWhenFull();
+
+    void prepareGrid();
+    void showRemovalMode(bool removing);
+    void registerBins();
+    [[nodiscard]] timerbar::DaypartCells *currentCells(); ///< null while no day part is selected
+
+    std::unique_ptr<Ui::TimerBarMenuFile> m_ui;
+    timerbar::Menu m_menu;
+    timerbar::CabinetShape m_shape; ///< of the model, kept up by loadCabinetInfo()
+    EntryPane m_products;
+    BinGrid m_grid;
+};

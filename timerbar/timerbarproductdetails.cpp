@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "timerbar/timerbarproductdetails.h"
+
+#include <QTime>
+
+#include "model/names.h"
+#include "model/productinfo.h"
+#include "model/temperature.h"
+#include "ui_timerbarproductdetails.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString timeText(int seconds)
+{
+    return QTime(0, 0).addSecs(seconds).toString(u"HH:mm"_s);
+}
+
+} // namespace
+
+TimerBarProductDetails::TimerBarProductDetails(QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::TimerBarProductDetails>())
+{
+    m_ui->setupUi(this);
+}
+
+TimerBarProductDetails::~TimerBarProductDetails() = default;
+
+void TimerBarProductDetails::showProduct(const ProductInfo *product, int temperatureUnit)
+{
+    if (!product) {
+        for (QLabel *value : {m_ui->txtName, m_ui->txtShortName, m_ui->txtTempUpper, m_ui->txtTempLower,
+                              m_ui->txtHoldTime, m_ui->txtWarningTime})
+            value->clear();
+        return;
+    }
+    m_ui->txtName->setText(shownName(product->get_productName()));
+    m_ui->txtShortName->setText(product->get_productShortName());
+    m_ui->txtTempUpper->setText(temperatureText(product->get_upperTemp(), temperatureUnit));
+    m_ui->txtTempLower->setText(temperatureText(product->get_lowerTemp(), temperatureUnit));
+    m_ui->txtHoldTime->setText(timeText(product->get_holdTime()));
+    m_ui->txtWarningTime->setText(timeText(product->get_warningTime()));
+}
+
+void TimerBarProductDetails::setShortNameLabel(const QString &label)
+{
+    m_ui->lblShortName->setText(label);
+}

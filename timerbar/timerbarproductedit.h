@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+class ProductInfo;
+class QLineEdit;
+class TimerBarMenuFile;
+
+namespace Ui {
+class TimerBarProductEdit;
+}
+
+/// Edits one product of a Timer Bar menu. The record is written only by a Save that passes every check.
+class TimerBarProductEdit final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// `product` stays the caller's.
+    TimerBarProductEdit(ProductInfo &product, TimerBarMenuFile *menuFile);
+    ~TimerBarProductEdit() override;
+
+public slots:
+    void on_btnCancel_clicked();
+    void on_btnSave_clicked();
+    void on_txtShortName_textChanged(const QString &arg1);
+    void on_txtProductName_textChanged(const QString &arg1);
+
+private:
+    void fillFields();
+    void revert(QLineEdit *edit, const QString &acceptedText, const QString &message);
+    [[nodiscard]] QString firstFault() const;
+    void writeRecord();
+
+    std::unique_ptr<Ui::TimerBarProductEdit> m_ui;
+    ProductInfo &m_product;
+    int m_temperatureUnit;
+    // What a field goes back to when a character is refused.
+    QString m_acceptedName;
+    QString m_acceptedShortName;
+};
