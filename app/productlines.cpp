@@ -9,6 +9,7 @@
 #include <QMdiSubWindow>
 
 #include "holding/menufile.h"
+#include "lanes/svrxmenufile.h"
 #include "timerbar/timerbarmenufile.h"
 
 using namespace Qt::StringLiterals;
@@ -68,6 +69,16 @@ const QList<ProductLine> &productLines()
          .fileFilter = [] { return tr("JSON Menu Files (*.json)"); },
          .create = create<MenuFile>,
          .cast = cast<MenuFile>},
+        {.resultCode = 2,
+         .name = u"Savorix"_s,
+         .subWindowName = "SvrxMenuFile"_L1,
+         .endings = {".txt"_L1},
+         .startName = u"svrxconfig_"_s,
+         .saveCaption = [] { return tr("Save Savorix Menu"); },
+         .saveAsCaption = [] { return tr("Save Savorix Menu"); },
+         .fileFilter = [] { return tr("Savorix Menu Files (*.txt)"); },
+         .create = create<SvrxMenuFile>,
+         .cast = cast<SvrxMenuFile>},
         {.resultCode = 3,
          .name = u"Timer Bar Cabinet"_s,
          .subWindowName = "TimerBarMenuFile"_L1,
