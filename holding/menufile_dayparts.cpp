@@ -37,8 +37,10 @@ constexpr std::array<std::array<BinButtonMember, 2>, 5> secondZoneButtons{{
     {&Ui_MenuFile::btnDaypartSelectB4_0, &Ui_MenuFile::btnDaypartSelectB4_1},
 }};
 
-constexpr int secondZoneWidth = 340;
-constexpr int oneBinSecondZoneWidth = 177;
+// Zones keep their width whatever stands in them, so that filling a bin never moves another one.
+constexpr int onlyZoneWidth = 394;
+constexpr int zoneWidth = 340;
+constexpr int oneBinZoneWidth = 177;
 
 template <typename Daypart>
 auto &binOf(Daypart &daypart, Bin bin)
@@ -105,8 +107,9 @@ void MenuFile::loadDayparts()
         registerBins();
     else
         messages::refusal(this, tr("Invalid number of rows!"));
-    m_ui->frameSecondZone->setMaximumWidth(m_shape.singleBinSecondZone ? oneBinSecondZoneWidth
-                                                                       : secondZoneWidth);
+    m_ui->frameFirstZone->setMinimumWidth(m_shape.zones == 2 ? zoneWidth : onlyZoneWidth);
+    m_ui->frameSecondZone->setFixedWidth(m_shape.singleBinSecondZone ? oneBinZoneWidth : zoneWidth);
+    m_ui->frameSecondZone->setVisible(m_shape.zones == 2);
     loadDaypartSelector();
     loadCurrentDaypart();
 }

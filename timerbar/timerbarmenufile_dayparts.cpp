@@ -27,8 +27,9 @@ constexpr std::array<std::array<BinButtonMember, timerbar::maxColumns>, timerbar
     {&Form::btnDaypartSelect3_0, &Form::btnDaypartSelect3_1, nullptr, nullptr},
 }};
 
-constexpr int rightPairWidth = 340;
-constexpr int oneBinRightPairWidth = 177;
+// Pairs keep their width whatever stands in them, so that filling a bin never moves another one.
+constexpr int pairWidth = 340;
+constexpr int oneBinPairWidth = 177;
 
 template <typename Cells>
 auto &cellAt(Cells &cells, Bin bin)
@@ -79,7 +80,8 @@ void TimerBarMenuFile::loadDayparts()
     FOR_EACH_TIMER_BAR_BIN_BUTTON(HIDE_BIN_BUTTON)
 #undef HIDE_BIN_BUTTON
     m_ui->frameRightPair->setVisible(m_shape.columnLayout == 2);
-    m_ui->frameRightPair->setMaximumWidth(m_shape.threeColumns ? oneBinRightPairWidth : rightPairWidth);
+    m_ui->frameLeftPair->setFixedWidth(pairWidth);
+    m_ui->frameRightPair->setFixedWidth(m_shape.threeColumns ? oneBinPairWidth : pairWidth);
     if (m_shape.rows >= 2 && m_shape.rows <= timerbar::maxRows)
         registerBins();
     else
