@@ -5,6 +5,7 @@
 
 #include "holding/menufile.h"
 #include "ui_assigndaypartitem.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/numberedrows.h"
 
@@ -20,6 +21,7 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
 {
     m_ui->setupUi(this);
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
     setWindowTitle(tr("Assign Product/Group"));
     loadProducts();

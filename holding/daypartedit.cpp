@@ -5,6 +5,7 @@
 
 #include "model/names.h"
 #include "ui_daypartedit.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
 
@@ -14,6 +15,7 @@ DaypartEdit::DaypartEdit(const QStringList &names, QWidget *parent)
     , m_names(names)
 {
     m_ui->setupUi(this);
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
     setWindowTitle(tr("Edit Day Part"));
     m_ui->txtName->setText(shownName(names));

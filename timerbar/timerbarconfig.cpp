@@ -4,6 +4,7 @@
 #include "timerbar/timerbarconfig.h"
 
 #include "ui_timerbarconfig.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 
 TimerBarConfig::TimerBarConfig(QWidget *parent)
@@ -11,6 +12,7 @@ TimerBarConfig::TimerBarConfig(QWidget *parent)
     , m_ui(std::make_unique<Ui::TimerBarConfig>())
 {
     m_ui->setupUi(this);
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
 }
 

@@ -6,6 +6,7 @@
 #include "model/names.h"
 #include "timerbar/timerbarmenufile.h"
 #include "ui_timerbardaypartassignitem.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/numberedrows.h"
 
@@ -20,6 +21,7 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
     setWindowTitle(tr("Assign Product"));
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     m_ui->details->setShortNameLabel(tr("Shor Name:"));
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
     loadProducts();
     loadProductInfo();

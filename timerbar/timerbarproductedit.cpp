@@ -12,6 +12,7 @@
 #include "model/temperature.h"
 #include "timerbar/timerbarmenufile.h"
 #include "ui_timerbarproductedit.h"
+#include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
 
@@ -55,6 +56,7 @@ TimerBarProductEdit::TimerBarProductEdit(ProductInfo &product, TimerBarMenuFile 
     m_ui->lblTempLower->setText(tr("Lower Temperature ") + suffix);
     fillFields();
     m_ui->txtProductName->setFocus();
+    letEnterPressFocusedButton(this);
     fixDesignedSize(this);
 }
 
