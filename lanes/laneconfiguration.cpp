@@ -3,6 +3,7 @@
 
 #include "lanes/laneconfiguration.h"
 
+#include <algorithm>
 #include <optional>
 
 #include <QCoreApplication>
