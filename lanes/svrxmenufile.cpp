@@ -57,10 +57,7 @@ SvrxMenuFile::SvrxMenuFile(const QString &filePath, QWidget *parent)
            {m_ui->lblLane4, m_ui->lblFanSpeedUnit4}},
       }}
 {
-    if (filePath.isEmpty())
-        showTitle({});
-    setMenuValid(filePath.isEmpty() || readMenuFile());
-    showConfiguration();
+    setMenuValid(filePath.isEmpty() ? createMenu() : readMenuFile());
     fixDesignedSize(this);
 }
 
@@ -81,6 +78,13 @@ SaveNameRequest SvrxMenuFile::closingNameRequest() const
     return {tr("Save Savorix Menu"), QStringLiteral("svrxconfig_"), tr("Savorix Menu Files (*.txt)")};
 }
 
+bool SvrxMenuFile::createMenu()
+{
+    showTitle({});
+    showConfiguration();
+    return true;
+}
+
 bool SvrxMenuFile::readMenuFile()
 {
     const QString path = filePath();
@@ -92,6 +96,7 @@ bool SvrxMenuFile::readMenuFile()
         return false;
     }
     setFilePath(path);
+    showConfiguration();
     return true;
 }
 

@@ -66,6 +66,7 @@ private:
         std::array<QWidget *, 2> labels; ///< what else is greyed with the lane
     };
 
+    bool createMenu();
     [[nodiscard]] int temperatureUnit() const;
     void showConfiguration();
     void showFanSpeeds();
