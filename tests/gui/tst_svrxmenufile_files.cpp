@@ -1,0 +1,327 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QDir>
+#include <QFile>
+
+#include "tests/gui/lanemenus.h"
+#include "tests/gui/openlaneeditor.h"
+#include "tests/support/hardship.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray contents = "T1=350,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0";
+const QByteArray production = "a5a508110105dc015effffffffffffffffffffffff54d8";
+const QByteArray changedContents = "T1=351,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0";
+
+const QString wrongName = u"File name must start with \"svrxconfig_\" to load in a Savorix unit!"_s;
+
+ModalAnswers::Box readFault(const QString &path)
+{
+    return ModalAnswers::fileFault(u"Failed to open the file:"_s + path);
+}
+
+ModalAnswers::Box writeFault(const QString &path)
+{
+    return ModalAnswers::fileFault(u"Failed to create/open the file:"_s + path);
+}
+
+void changeFirstTemperature(const QWidget &editor)
+{
+    QTest::keyClick(&temperatureBox(editor, 1), Qt::Key_Up);
+}
+
+} // namespace
+
+/// Opening and saving of lane configurations through the main window.
+class TestSvrxMenuFileFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void newIsShownInASubWindow();
+    void anyNameOpens_data();
+    void anyNameOpens();
+    void faultsAreShown_data();
+    void faultsAreShown();
+    void unreadableFileIsShown();
+    void saveInPlaceWritesTheConfigurationOnly();
+    void saveInPlaceAsksForNoName();
+    void saveOfANewMenuProposesAName();
+    void saveCancelledWritesNothing();
+    void saveAsWritesBothFiles();
+    void saveAsOfANewMenuProposesAName();
+    void wrongNamesWriteNothing_data();
+    void wrongNamesWriteNothing();
+    void foldersKeepTheirNames();
+    void saveWithoutAPathWritesNothing();
+    void failedSaveInPlace();
+    void failedConfigurationLeavesNoProductionFile();
+    void failedProductionFileIsShown();
+    void shortWriteKeepsTheOldFile();
+};
+
+void TestSvrxMenuFileFiles::newIsShownInASubWindow()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.newMenu(answers);
+    QCOMPARE(menus.menuCount(), 1);
+    QVERIFY(menus.editor());
+    QVERIFY(menus.editor()->isVisible());
+    QCOMPARE(menus.subWindow()->objectName(), u"SvrxMenuFile"_s);
+    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - "_s);
+    QCOMPARE(menus.editor()->minimumSize(), menus.editor()->maximumSize());
+}
+
+void TestSvrxMenuFileFiles::anyNameOpens_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("as saved") << u"svrxconfig_a.txt"_s;
+    QTest::newRow("any other") << u"lanes of the shop.v2.txt"_s;
+    QTest::newRow("upper case") << u"CONF.TXT"_s;
+}
+
+void TestSvrxMenuFileFiles::anyNameOpens()
+{
+    QFETCH(const QString, name);
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, name, lanefile::text(contents));
+    QVERIFY(menus.editor());
+    QCOMPARE(menus.editor()->filePath(), menus.path(name));
+    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - "_s + name);
+    QCOMPARE(temperatureBox(*menus.editor(), 1).value(), 350);
+    QCOMPARE(menus.folder().names(), QStringList{name});
+}
+
+void TestSvrxMenuFileFiles::faultsAreShown_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("empty") << QByteArray() << u"Invalid file format"_s;
+    QTest::newRow("changed by hand") << lanefile::text(changedContents, lanefile::identifierOf(contents))
+                                     << u"Invalid file identifier value"_s;
+    QTest::newRow("no lane") << lanefile::text("T1=0,F1=0") << u"Invalid file contents"_s;
+}
+
+void TestSvrxMenuFileFiles::faultsAreShown()
+{
+    QFETCH(const QByteArray, text);
+    QFETCH(const QString, message);
+    LaneMenus menus;
+    menus.folder().make(u"a.txt"_s, text);
+    ModalAnswers answers;
+    LaneMenus::expectOpenDialog(answers, menus.path(u"a.txt"_s));
+    answers.expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
+    menus.openNow();
+    QCOMPARE(menus.menuCount(), 0);
+    QVERIFY(!menus.window().findChild<SvrxMenuFile *>());
+    QCOMPARE(menus.folder().content(u"a.txt"_s), text);
+}
+
+void TestSvrxMenuFileFiles::unreadableFileIsShown()
+{
+    const TestFolder folder;
+    QVERIFY(QDir().mkdir(folder.path(u"folder.txt"_s)));
+    for (const QString &name : {u"missing.txt"_s, u"folder.txt"_s}) {
+        ModalAnswers answers;
+        answers.expectBox(readFault(folder.path(name)), QMessageBox::Ok);
+        const SvrxMenuFile editor(folder.path(name));
+        QVERIFY(!editor.isMenuValid());
+    }
+}
+
+void TestSvrxMenuFileFiles::saveInPlaceWritesTheConfigurationOnly()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"svrxconfig_a.txt"_s, lanefile::text(contents));
+    menus.folder().make(u"svrxprod_a.txt"_s, "as it was");
+    changeFirstTemperature(*menus.editor());
+    menus.save();
+    QCOMPARE(menus.folder().names(), QStringList({u"svrxconfig_a.txt"_s, u"svrxprod_a.txt"_s}));
+    QCOMPARE(menus.folder().content(u"svrxconfig_a.txt"_s), lanefile::text(changedContents));
+    QCOMPARE(menus.folder().content(u"svrxprod_a.txt"_s), QByteArray("as it was"));
+}
+
+// Not even where the name is one that a cabinet would not load.
+void TestSvrxMenuFileFiles::saveInPlaceAsksForNoName()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"other.txt"_s, lanefile::text(contents));
+    changeFirstTemperature(*menus.editor());
+    menus.save();
+    QCOMPARE(menus.folder().names(), QStringList{u"other.txt"_s});
+    QCOMPARE(menus.folder().content(u"other.txt"_s), lanefile::text(changedContents));
+}
+
+void TestSvrxMenuFileFiles::saveOfANewMenuProposesAName()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.newMenu(answers);
+    LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_new.txt"_s), u"svrxconfig_"_s);
+    menus.save();
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - svrxconfig_new.txt"_s);
+    QCOMPARE(menus.folder().content(u"svrxconfig_new.txt"_s),
+             lanefile::text("T1=375,T2=375,T3=0,T4=0,F1=1800,F2=1800,F3=0,F4=0"));
+    QCOMPARE(menus.folder().content(u"svrxprod_new.txt"_s),
+             QByteArray("a5a50811010708017707080177ffffffffffffffff5a36"));
+    menus.save(); // asks no second time
+}
+
+void TestSvrxMenuFileFiles::saveCancelledWritesNothing()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.newMenu(answers);
+    LaneMenus::expectSaveDialog(answers, {}, u"svrxconfig_"_s);
+    menus.save();
+    QCOMPARE(menus.editor()->filePath(), QString());
+    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - "_s);
+}
+
+void TestSvrxMenuFileFiles::saveAsWritesBothFiles()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"svrxconfig_a.txt"_s, lanefile::text(contents));
+    LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_b.txt"_s), u"svrxconfig_a.txt"_s);
+    menus.saveAs();
+    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - svrxconfig_b.txt"_s);
+    QCOMPARE(menus.editor()->filePath(), menus.path(u"svrxconfig_b.txt"_s));
+    QCOMPARE(menus.folder().names(),
+             QStringList({u"svrxconfig_a.txt"_s, u"svrxconfig_b.txt"_s, u"svrxprod_b.txt"_s}));
+    QCOMPARE(menus.folder().content(u"svrxconfig_b.txt"_s), lanefile::text(contents));
+    QCOMPARE(menus.folder().content(u"svrxprod_b.txt"_s), production);
+}
+
+void TestSvrxMenuFileFiles::saveAsOfANewMenuProposesAName()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.newMenu(answers);
+    LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_"_s), u"svrxconfig_"_s);
+    menus.saveAs();
+    QCOMPARE(menus.folder().names(), QStringList({u"svrxconfig_"_s, u"svrxprod_"_s}));
+}
+
+void TestSvrxMenuFileFiles::wrongNamesWriteNothing_data()
+{
+    QTest::addColumn<bool>("isNew");
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"config_test.txt", "SVRXCONFIG_a.txt", "svrxprod_a.txt"}) {
+        QTest::addRow("new, %s", name) << true << QString::fromLatin1(name);
+        QTest::addRow("opened, %s", name) << false << QString::fromLatin1(name);
+    }
+}
+
+void TestSvrxMenuFileFiles::wrongNamesWriteNothing()
+{
+    QFETCH(const bool, isNew);
+    QFETCH(const QString, name);
+    LaneMenus menus;
+    ModalAnswers answers;
+    if (isNew)
+        menus.newMenu(answers);
+    else
+        menus.open(answers, u"a.txt"_s, lanefile::text(contents));
+    const QString pathBefore = menus.editor()->filePath();
+    const QString titleBefore = menus.subWindow()->windowTitle();
+    LaneMenus::expectSaveDialog(answers, menus.path(name), isNew ? u"svrxconfig_"_s : u"a.txt"_s);
+    answers.expectBox(ModalAnswers::fileFault(wrongName), QMessageBox::Ok);
+    menus.saveAs();
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(menus.folder().names(), isNew ? QStringList() : QStringList{u"a.txt"_s});
+    QCOMPARE(menus.editor()->filePath(), pathBefore);
+    QCOMPARE(menus.subWindow()->windowTitle(), titleBefore);
+}
+
+void TestSvrxMenuFileFiles::foldersKeepTheirNames()
+{
+    const TestFolder folder;
+    QVERIFY(QDir().mkdir(folder.path(u"svrxconfig_folder"_s)));
+    SvrxMenuFile editor({});
+    QVERIFY(editor.writeToFile(folder.path(u"svrxconfig_folder/svrxconfig_a.txt"_s)));
+    QCOMPARE(folder.names(), QStringList{u"svrxconfig_folder"_s});
+    QCOMPARE(QDir(folder.path(u"svrxconfig_folder"_s)).entryList(QDir::Files, QDir::Name),
+             QStringList({u"svrxconfig_a.txt"_s, u"svrxprod_a.txt"_s}));
+    ModalAnswers answers;
+    answers.expectBox(ModalAnswers::fileFault(wrongName), QMessageBox::Ok);
+    QVERIFY(!editor.writeToFile(folder.path(u"svrxconfig_folder/a.txt"_s)));
+}
+
+void TestSvrxMenuFileFiles::saveWithoutAPathWritesNothing()
+{
+    SvrxMenuFile editor({});
+    const ModalAnswers noDialogs;
+    QVERIFY(!editor.save());
+}
+
+void TestSvrxMenuFileFiles::failedSaveInPlace()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"a.txt"_s, lanefile::text(contents));
+    changeFirstTemperature(*menus.editor());
+    QVERIFY(QFile::remove(menus.path(u"a.txt"_s)));
+    QVERIFY(QDir().mkdir(menus.path(u"a.txt"_s)));
+    answers.expectBox(writeFault(menus.path(u"a.txt"_s)), QMessageBox::Ok);
+    menus.save();
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(menus.menuCount(), 1);
+    QCOMPARE(temperatureBox(*menus.editor(), 1).value(), 351);
+    answers.expectBox(writeFault(menus.path(u"a.txt"_s)), QMessageBox::Ok);
+    QVERIFY(!menus.editor()->save());
+}
+
+void TestSvrxMenuFileFiles::failedConfigurationLeavesNoProductionFile()
+{
+    const TestFolder folder;
+    QVERIFY(QDir().mkdir(folder.path(u"svrxconfig_a.txt"_s)));
+    SvrxMenuFile editor({});
+    ModalAnswers answers;
+    answers.expectBox(writeFault(folder.path(u"svrxconfig_a.txt"_s)), QMessageBox::Ok);
+    QVERIFY(!editor.writeToFile(folder.path(u"svrxconfig_a.txt"_s)));
+    QCOMPARE(folder.names(), QStringList{u"svrxconfig_a.txt"_s});
+}
+
+void TestSvrxMenuFileFiles::failedProductionFileIsShown()
+{
+    const TestFolder folder;
+    QVERIFY(QDir().mkdir(folder.path(u"svrxprod_a.txt"_s)));
+    SvrxMenuFile editor({});
+    ModalAnswers answers;
+    answers.expectBox(writeFault(folder.path(u"svrxprod_a.txt"_s)), QMessageBox::Ok);
+    QVERIFY(!editor.writeToFile(folder.path(u"svrxconfig_a.txt"_s)));
+    QVERIFY(folder.content(u"svrxconfig_a.txt"_s).endsWith("F3=0,F4=0"));
+    QCOMPARE(editor.filePath(), folder.path(u"svrxconfig_a.txt"_s));
+    answers.expectBox(writeFault(folder.path(u"svrxprod_a.txt"_s)), QMessageBox::Ok);
+    QVERIFY(!editor.writeEolProdMenuFile(folder.path(u"svrxprod_a.txt"_s)));
+}
+
+void TestSvrxMenuFileFiles::shortWriteKeepsTheOldFile()
+{
+    const TestFolder folder;
+    const QByteArray text = lanefile::text(contents);
+    folder.make(u"svrxconfig_a.txt"_s, text);
+    SvrxMenuFile editor(folder.path(u"svrxconfig_a.txt"_s));
+    temperatureBox(editor, 1).setValue(351);
+    ModalAnswers answers;
+    answers.expectBox(writeFault(folder.path(u"svrxconfig_a.txt"_s)), QMessageBox::Ok);
+    const FileSizeLimit fullDisk(20);
+    QVERIFY(fullDisk.isActive());
+    QVERIFY(!editor.save());
+    QCOMPARE(folder.content(u"svrxconfig_a.txt"_s), text);
+    QCOMPARE(folder.names(), QStringList{u"svrxconfig_a.txt"_s});
+}
+
+QTEST_MAIN(TestSvrxMenuFileFiles)
+#include "tst_svrxmenufile_files.moc"
