@@ -13,9 +13,9 @@
 #include "holding/menufile.h"
 #include "tests/support/modalanswers.h"
 #include "tests/support/openmenus.h"
-#include "tests/support/windowmenu.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
+#include "tests/support/windowmenu.h"
 
 using namespace Qt::StringLiterals;
 
@@ -156,8 +156,8 @@ void TestMainWindowFiles::fileIsOpenedByItsEnding()
 void TestMainWindowFiles::otherEndingIsIgnored_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"menu.xml", "menu", "json", "menu.json.bak", "menu.jsonx", "menu.qhx",
-                             "menu.QHX", "svrxconfig_1.txt", "conf.TXT", "menu.cbr"})
+    for (const char *name : {"menu.xml", "menu", "json", "menu.json.bak", "menu.jsonx", "qhx", "menu.qhx2",
+                             "txt", "svrxconfig_1.txt~", "cbr", "menu.cbr.old"})
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 

@@ -111,15 +111,15 @@ void TestProductEdit::formShowsItsTexts()
 void TestProductEdit::recordIsShown()
 {
     OpenEditor editor(menuWith(samplefile::headerWithAllSwitches(), {{u"upperTemp"_s, 210},
-                                                                 {u"lowerTemp"_s, 190},
-                                                                 {u"holdingTime"_s, 3723},
-                                                                 {u"warningTime"_s, 61},
-                                                                 {u"resetTime"_s, 59},
-                                                                 {u"fanSpeed"_s, 1200},
-                                                                 {u"zoneSplits"_s, u"1/1"_s},
-                                                                 {u"lidType"_s, u"Vented"_s},
-                                                                 {u"bottomType"_s, u"False"_s},
-                                                                 {u"timerColor"_s, u"#0000cf"_s}}));
+                                                                     {u"lowerTemp"_s, 190},
+                                                                     {u"holdingTime"_s, 3723},
+                                                                     {u"warningTime"_s, 61},
+                                                                     {u"resetTime"_s, 59},
+                                                                     {u"fanSpeed"_s, 1200},
+                                                                     {u"zoneSplits"_s, u"1/1"_s},
+                                                                     {u"lidType"_s, u"Vented"_s},
+                                                                     {u"bottomType"_s, u"False"_s},
+                                                                     {u"timerColor"_s, u"#0000cf"_s}}));
     edit(editor, [](ProductEdit &dialog, ModalAnswers &) {
         QCOMPARE(spinBox(dialog, "numProductId").value(), 1);
         QCOMPARE(ui::get<QLineEdit>(dialog, "txtName").text(), u"Bacon"_s);
@@ -195,7 +195,8 @@ void TestProductEdit::zoneSplitsFollowTheBinsPerZone()
 {
     QFETCH(QString, model);
     QFETCH(QStringList, choices);
-    OpenEditor editor(menuWith(samplefile::header({{u"cabinetModel"_s, model}}), {{u"zoneSplits"_s, u"9/9"_s}}));
+    OpenEditor editor(
+        menuWith(samplefile::header({{u"cabinetModel"_s, model}}), {{u"zoneSplits"_s, u"9/9"_s}}));
     edit(editor, [&](ProductEdit &dialog, ModalAnswers &) {
         const auto &combo = ui::get<QComboBox>(dialog, "comboZoneSplits");
         QStringList items;
@@ -276,9 +277,9 @@ void TestProductEdit::unknownWordsFallBack()
 void TestProductEdit::oddStoredTimesAreShownWithinADay()
 {
     OpenEditor editor(menuWith(samplefile::headerWithAllSwitches(), {{u"holdingTime"_s, 2147483647},
-                                                                 {u"warningTime"_s, -1},
-                                                                 {u"resetTime"_s, -2147483647},
-                                                                 {u"fanSpeed"_s, -5}}));
+                                                                     {u"warningTime"_s, -1},
+                                                                     {u"resetTime"_s, -2147483647},
+                                                                     {u"fanSpeed"_s, -5}}));
     edit(editor, [](ProductEdit &dialog, ModalAnswers &) {
         QCOMPARE(timeIn(dialog, "timeHoldTime"), QTime(3, 14, 7));
         QCOMPARE(timeIn(dialog, "timeWarningTime"), QTime(23, 59, 59));

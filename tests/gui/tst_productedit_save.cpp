@@ -48,16 +48,16 @@ void TestProductEditSave::savedValuesAreWritten()
         save(dialog);
     });
     QCOMPARE(savedProduct(editor), samplefile::product(1, u"Ham"_s,
-                                                   {{u"upperTemp"_s, 220},
-                                                    {u"lowerTemp"_s, 91},
-                                                    {u"holdingTime"_s, 7384},
-                                                    {u"warningTime"_s, 3601},
-                                                    {u"resetTime"_s, 7},
-                                                    {u"fanSpeed"_s, 10000},
-                                                    {u"zoneSplits"_s, u"1/1"_s},
-                                                    {u"lidType"_s, u"Solid"_s},
-                                                    {u"bottomType"_s, u"False"_s},
-                                                    {u"productLocked"_s, true}}));
+                                                       {{u"upperTemp"_s, 220},
+                                                        {u"lowerTemp"_s, 91},
+                                                        {u"holdingTime"_s, 7384},
+                                                        {u"warningTime"_s, 3601},
+                                                        {u"resetTime"_s, 7},
+                                                        {u"fanSpeed"_s, 10000},
+                                                        {u"zoneSplits"_s, u"1/1"_s},
+                                                        {u"lidType"_s, u"Solid"_s},
+                                                        {u"bottomType"_s, u"False"_s},
+                                                        {u"productLocked"_s, true}}));
 }
 
 void TestProductEditSave::idIsNeverWritten()
@@ -95,9 +95,10 @@ void TestProductEditSave::checksComeInOrder()
         ui::enterTime(dialog, "timeResetTime", {0, 59, 59});
         save(dialog);
     });
-    QCOMPARE(savedProduct(editor),
-             samplefile::product(1, u"Ham"_s,
-                             {{u"holdingTime"_s, 28800}, {u"warningTime"_s, 28799}, {u"resetTime"_s, 3599}}));
+    QCOMPARE(
+        savedProduct(editor),
+        samplefile::product(1, u"Ham"_s,
+                            {{u"holdingTime"_s, 28800}, {u"warningTime"_s, 28799}, {u"resetTime"_s, 3599}}));
 }
 
 void TestProductEditSave::bounds_data()

@@ -9,13 +9,16 @@
 
 #include "app/aboutapp.h"
 #include "holding/menufile.h"
+#include "lanes/svrxmenufile.h"
 #include "tests/support/everywindow.h"
+#include "tests/support/lanefile.h"
 #include "tests/support/modalanswers.h"
 #include "tests/support/pseudotranslation.h"
-#include "tests/support/windowmenu.h"
 #include "tests/support/shownwidgets.h"
+#include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
+#include "tests/support/windowmenu.h"
 #include "tests/support/work.h"
 
 using namespace Qt::StringLiterals;
@@ -34,6 +37,9 @@ private slots:
     void untranslatedTextIsFound();
     void readerFaultsAreTranslated_data();
     void readerFaultsAreTranslated();
+    void laneFaultsAreTranslated_data();
+    void laneFaultsAreTranslated();
+    void laneFilesStayTheSame();
     void workingIsTranslatedAndFilesStayTheSame();
 
 private:
@@ -48,6 +54,8 @@ void TestPseudoTranslation::initTestCase()
         for (const auto &entry : *entries)
             m_names.append(shownName(entry->get_productName()));
     }
+    for (const holding::Daypart &daypart : menu.dayparts)
+        m_names.append(shownName(daypart.names));
     m_names.append({u"Bacon"_s, u"Soup"_s, u"Soups"_s}); // of the default menu, and as entered
 }
 
@@ -93,6 +101,57 @@ void TestPseudoTranslation::readerFaultsAreTranslated()
     });
     const MenuFile editor(file.fileName());
     QVERIFY(!editor.isMenuValid());
+}
+
+namespace {
+
+void expectTranslatedBox(ModalAnswers &answers)
+{
+    answers.expect<QMessageBox>([](QMessageBox &box) {
+        checkTranslated(box, {});
+        ui::click(*box.button(QMessageBox::Ok));
+    });
+}
+
+} // namespace
+
+void TestPseudoTranslation::laneFaultsAreTranslated_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("no line") << QByteArray("\n");
+    QTest::newRow("wrong identifier") << lanefile::text("T1=350,F1=1500", "0000");
+    QTest::newRow("no lane") << lanefile::text("T1=0,F1=0");
+    QTest::newRow("no file") << QByteArray();
+}
+
+void TestPseudoTranslation::laneFaultsAreTranslated()
+{
+    QFETCH(const QByteArray, content);
+    QApplication::installTranslator(&m_translator);
+    const TestFolder folder;
+    if (!content.isEmpty())
+        folder.make(u"a.txt"_s, content);
+    ModalAnswers answers;
+    expectTranslatedBox(answers);
+    const SvrxMenuFile editor(folder.path(u"a.txt"_s));
+    QVERIFY(!editor.isMenuValid());
+}
+
+void TestPseudoTranslation::laneFilesStayTheSame()
+{
+    const TestFolder folder;
+    SvrxMenuFile plain({});
+    QVERIFY(plain.writeToFile(folder.path(u"svrxconfig_plain.txt"_s)));
+    QApplication::installTranslator(&m_translator);
+    SvrxMenuFile translated({});
+    QVERIFY(translated.writeToFile(folder.path(u"svrxconfig_translated.txt"_s)));
+    QCOMPARE(folder.content(u"svrxconfig_translated.txt"_s), folder.content(u"svrxconfig_plain.txt"_s));
+    QCOMPARE(folder.content(u"svrxprod_translated.txt"_s), folder.content(u"svrxprod_plain.txt"_s));
+    ModalAnswers answers;
+    for (const QString &name : {u"wrong.txt"_s, u"missing/svrxconfig_a.txt"_s}) {
+        expectTranslatedBox(answers);
+        QVERIFY(!translated.writeToFile(folder.path(name)));
+    }
 }
 
 void TestPseudoTranslation::workingIsTranslatedAndFilesStayTheSame()

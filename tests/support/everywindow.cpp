@@ -3,6 +3,7 @@
 
 #include "tests/support/everywindow.h"
 
+#include <QFile>
 #include <QListWidget>
 #include <QTest>
 
@@ -13,8 +14,10 @@
 #include "holding/menufile.h"
 #include "holding/productedit.h"
 #include "holding/timercolorpicker.h"
-#include "tests/support/windowmenu.h"
+#include "lanes/svrxmenufile.h"
+#include "tests/support/lanefile.h"
 #include "tests/support/uidriver.h"
+#include "tests/support/windowmenu.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,6 +47,23 @@ std::unique_ptr<QWidget> makeEditor(MenuFile &editor)
     return window;
 }
 
+std::unique_ptr<QWidget> makeLaneEditor(MenuFile &)
+{
+    return std::make_unique<SvrxMenuFile>(QString());
+}
+
+// Beside every box stands that the file holds another number.
+std::unique_ptr<QWidget> makeLaneEditorWithNotes(MenuFile &editor)
+{
+    QFile file(editor.filePath() + u".txt"_s);
+    const bool open = file.open(QIODevice::WriteOnly);
+    const QByteArray contents = "T1=9999,T2=9999,T3=9999,T4=9999,F1=99999,F2=99999,F3=99999,F4=99999";
+    if (!open || file.write(lanefile::text(contents)) < contents.size())
+        qFatal("Cannot write a lane configuration");
+    file.close();
+    return std::make_unique<SvrxMenuFile>(file.fileName());
+}
+
 } // namespace
 
 const std::vector<WindowKind> &everyWindow()
@@ -59,6 +79,9 @@ const std::vector<WindowKind> &everyWindow()
         {"group, fewest fields", "btnSave", windowmenu::plainCabinet(), makeGroupEdit},
         {"holding editor, all fields", nullptr, windowmenu::fullCabinet(), makeEditor, true},
         {"holding editor, fewest fields", nullptr, windowmenu::plainCabinet(), makeEditor, true},
+        {"lane editor, new", nullptr, windowmenu::plainCabinet(), makeLaneEditor, true},
+        {"lane editor, values beyond the limits", nullptr, windowmenu::plainCabinet(),
+         makeLaneEditorWithNotes, true},
     };
     return kinds;
 }
