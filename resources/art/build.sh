@@ -12,6 +12,7 @@ icon=../myapp.ico
 images=../images
 icons=../../packaging/icons/hicolor
 sizes=(16 24 32 48 64 128 256)
+largest_in_ico=128
 
 for tool in rsvg-convert icotool; do
     if ! command -v "$tool" >/dev/null; then
@@ -58,9 +59,11 @@ done
 mkdir -p "$icons/scalable/apps"
 cp varnoplexora.svg "$icons/scalable/apps/varnoplexora.svg"
 
-# From 48 up the entries of the .ico are PNG (--raw), which keeps it small.
+# From 48 up the entries of the .ico are PNG (--raw), which keeps it small. The program decodes all of them
+# at each start: what title bars never show is left to the desktop's own icons.
 entries=()
 for size in "${sizes[@]}"; do
+    ((size > largest_in_ico)) && continue
     file=$icons/${size}x${size}/apps/varnoplexora.png
     if ((size >= 48)); then
         entries+=("--raw=$file")
