@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What open menus cost: opens a large menu many times in the main window, as Open does once the file is
+// chosen, and closes all of them again as a person does.
+//
+// The openings that are asked for run in measured(). Prints a line for each: its number, its milliseconds and
+// the KiB that each opening since the line before took. The last line is "closed" and the KiB that stay,
+// above the start, when all menus are closed and the heap is trimmed.
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+#include <malloc.h>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTemporaryDir>
+
+#include "app/mainwindow.h"
+#include "app/productlines.h"
+#include "benchmarks/bigmenu.h"
+#include "benchmarks/measured.h"
+#include "benchmarks/memory.h"
+#include "holding/menujson.h"
+#include "model/files.h"
+
+namespace {
+
+constexpr std::array askedFor{1, 2, 10, 100, 200};
+
+/// Notes when an editor has been painted, and answers every message box with No.
+class Watcher final : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && watched == m_awaited)
+            m_awaited = nullptr;
+        auto *box = event->type() == QEvent::Show ? qobject_cast<QMessageBox *>(watched) : nullptr;
+        if (box)
+            QMetaObject::invokeMethod(
+                box, [box] { box->done(QMessageBox::No); }, Qt::QueuedConnection);
+        return false;
+    }
+
+    void waitUntilPainted(const QWidget *widget)
+    {
+        m_awaited = widget;
+        while (m_awaited)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::processEvents();
+    }
+
+private:
+    const QObject *m_awaited = nullptr;
+};
+
+void open(const QString &path, QMdiArea &area, Watcher &watcher)
+{
+    MenuEditor *editor = productLineOfFile(path)->create(path, area.window());
+    QMdiSubWindow *subWindow = area.addSubWindow(editor);
+    subWindow->setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowMinimizeButtonHint |
+                              Qt::MSWindowsFixedSizeDialogHint);
+    subWindow->show();
+    watcher.waitUntilPainted(editor);
+}
+
+void closeAll(const QMdiArea &area)
+{
+    const QList<QMdiSubWindow *> subWindows = area.subWindowList();
+    for (QMdiSubWindow *subWindow : subWindows)
+        subWindow->close();
+    while (!area.subWindowList().isEmpty())
+        QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void openAsked(const QString &path, QMdiArea &area, Watcher &watcher)
+{
+    long memory = residentKib();
+    int lineBefore = 0;
+    for (int number = 1; number <= askedFor.back(); ++number) {
+        if (std::find(askedFor.begin(), askedFor.end(), number) == askedFor.end()) {
+            open(path, area, watcher);
+            continue;
+        }
+        QElapsedTimer timer;
+        timer.start();
+        measured([&] { open(path, area, watcher); });
+        const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+        const long memoryNow = residentKib();
+        std::printf("%d %.2f %ld\n", number, milliseconds, (memoryNow - memory) / (number - lineBefore));
+        memory = memoryNow;
+        lineBefore = number;
+    }
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("menu.json"));
+    if (!writeFile(path, holding::writeMenu(bigMenu()))) {
+        std::fprintf(stderr, "open_menus: the large menu cannot be written\n");
+        return EXIT_FAILURE;
+    }
+    MainWindow window;
+    Watcher watcher;
+    qApp->installEventFilter(&watcher);
+    window.showMaximized();
+    watcher.waitUntilPainted(window.menuBar());
+
+    const long memoryAtStart = residentKib();
+    auto &area = *window.findChild<QMdiArea *>();
+    openAsked(path, area, watcher);
+    closeAll(area);
+    malloc_trim(0);
+    std::printf("closed %ld\n", residentKib() - memoryAtStart);
+    return EXIT_SUCCESS;
+}
