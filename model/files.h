@@ -15,8 +15,8 @@
 /// (64 MiB), or is no regular file: a FIFO or an endless device would block or exhaust the memory.
 [[nodiscard]] std::optional<QByteArray> readFile(const QString &path);
 
-/// Whether a path can be opened for writing without blocking: a regular file, one that does not exist yet, or a
-/// device; no folder, FIFO or socket.
+/// Whether a path can be opened for writing without blocking: a regular file, one that does not exist yet, or
+/// a device; no folder, FIFO or socket.
 [[nodiscard]] bool isWritableTarget(const QString &path);
 
 /// Makes `bytes` the whole content of the file at `path` and returns whether that is certain.

@@ -22,7 +22,8 @@ inline samplefile::Menu menuWith(const QJsonObject &group, const QJsonObject &he
     samplefile::Menu menu;
     menu.header = header;
     menu.products = {samplefile::product(1, u"Bacon"_s), samplefile::product(2, u"Chili"_s),
-                     samplefile::product(3, u"Gravy"_s, {{u"upperTemp"_s, 210}}), samplefile::product(4, u"Ham"_s)};
+                     samplefile::product(3, u"Gravy"_s, {{u"upperTemp"_s, 210}}),
+                     samplefile::product(4, u"Ham"_s)};
     menu.groups = {group};
     menu.layout = {samplefile::daypart(u"Morning"_s, {})};
     return menu;

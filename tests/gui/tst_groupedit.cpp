@@ -254,7 +254,8 @@ void TestGroupEdit::everythingIsSaved()
                                {u"fanSpeed"_s, 900},
                                {u"zoneSplits"_s, u"1/1"_s},
                                {u"lidType"_s, u"Vented"_s}};
-    menu.products = {samplefile::product(1, u"Bacon"_s, settings), samplefile::product(2, u"Chili"_s, settings)};
+    menu.products = {samplefile::product(1, u"Bacon"_s, settings),
+                     samplefile::product(2, u"Chili"_s, settings)};
     OpenEditor editor(menu);
     edit(editor, [](GroupEdit &dialog, ModalAnswers &) {
         ui::type(dialog, "txtName", u"Sides"_s);

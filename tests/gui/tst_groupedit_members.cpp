@@ -118,7 +118,8 @@ void TestGroupEditMembers::everySettingDecides()
     QFETCH(QJsonValue, value);
     QFETCH(bool, withFanSpeed);
     QFETCH(bool, fitting);
-    samplefile::Menu menu = menuWith(emptyGroup(), samplefile::header({{u"fanSpeedEnabled"_s, withFanSpeed}}));
+    samplefile::Menu menu =
+        menuWith(emptyGroup(), samplefile::header({{u"fanSpeedEnabled"_s, withFanSpeed}}));
     menu.products = {samplefile::product(1, u"Bacon"_s), samplefile::product(2, u"Other"_s, {{key, value}})};
     OpenEditor editor(menu);
     edit(editor, [fitting](GroupEdit &dialog, ModalAnswers &) {
@@ -133,12 +134,13 @@ void TestGroupEditMembers::nothingFixedFitsAnything()
 {
     samplefile::Menu menu = menuWith(emptyGroup(), samplefile::header({{u"fanSpeedEnabled"_s, true}}));
     menu.products = {samplefile::product(1, u"Bare"_s,
-                                     {{u"upperTemp"_s, 0},
-                                      {u"lowerTemp"_s, 0},
-                                      {u"fanSpeed"_s, 0},
-                                      {u"zoneSplits"_s, QString()},
-                                      {u"lidType"_s, QString()}}),
-                     samplefile::product(2, u"Bacon"_s), samplefile::product(3, u"Hot"_s, {{u"upperTemp"_s, 225}})};
+                                         {{u"upperTemp"_s, 0},
+                                          {u"lowerTemp"_s, 0},
+                                          {u"fanSpeed"_s, 0},
+                                          {u"zoneSplits"_s, QString()},
+                                          {u"lidType"_s, QString()}}),
+                     samplefile::product(2, u"Bacon"_s),
+                     samplefile::product(3, u"Hot"_s, {{u"upperTemp"_s, 225}})};
     OpenEditor editor(menu);
     edit(editor, [](GroupEdit &dialog, ModalAnswers &) {
         add(dialog, 0);

@@ -9,9 +9,9 @@
 
 #include "tests/support/modalanswers.h"
 #include "tests/support/openmenus.h"
-#include "tests/support/windowmenu.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
+#include "tests/support/windowmenu.h"
 
 using namespace Qt::StringLiterals;
 

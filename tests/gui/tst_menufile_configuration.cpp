@@ -31,7 +31,8 @@ samplefile::Menu filledMenu(const QString &model)
     samplefile::Menu menu;
     menu.header = samplefile::header({{u"cabinetModel"_s, model}});
     menu.products = {samplefile::product(1, u"Bacon"_s), samplefile::product(2, u"Chili"_s)};
-    menu.layout = {samplefile::daypart(u"Morning"_s, {1, 2, 0, 1}), samplefile::daypart(u"Evening"_s, {2, 0, 0, 0})};
+    menu.layout = {samplefile::daypart(u"Morning"_s, {1, 2, 0, 1}),
+                   samplefile::daypart(u"Evening"_s, {2, 0, 0, 0})};
     return menu;
 }
 
@@ -66,9 +67,9 @@ void TestMenuFileConfiguration::editorHandsOverItsValues()
 {
     samplefile::Menu menu = filledMenu(u"KTR54"_s);
     menu.header = samplefile::header({{u"cabinetModel"_s, u"KTR54"_s},
-                                  {u"temperatureUnit"_s, 1},
-                                  {u"fanSpeedEnabled"_s, true},
-                                  {u"timerColorEnabled"_s, true}});
+                                      {u"temperatureUnit"_s, 1},
+                                      {u"fanSpeedEnabled"_s, true},
+                                      {u"timerColorEnabled"_s, true}});
     OpenEditor editor(menu);
     ModalAnswers answers;
     answers.expect<Configuration>([](Configuration &dialog) {
@@ -104,7 +105,8 @@ void TestMenuFileConfiguration::editorTakesOverEverything()
     QVERIFY(editor->getResetTimeEnabled() && editor->getProductIdEnabled());
     QVERIFY(!editor->getFanSpeedEnabled() && !editor->getTimerColorEnabled());
     QCOMPARE(editor->getBinsPerZone(), 2);
-    QCOMPARE(samplefile::binsOf(editor.saved(), 0), (QList<int>{1, 2, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+    QCOMPARE(samplefile::binsOf(editor.saved(), 0),
+             (QList<int>{1, 2, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
 void TestMenuFileConfiguration::otherBinsPerZoneEmptyEveryBin()

@@ -65,15 +65,15 @@ private slots:
 void TestMenuFileDetails::everyRowOfAProduct()
 {
     OpenEditor editor(oneProduct(samplefile::headerWithAllSwitches(), {{u"upperTemp"_s, 210},
-                                                                   {u"lowerTemp"_s, 190},
-                                                                   {u"holdingTime"_s, 28799},
-                                                                   {u"warningTime"_s, 61},
-                                                                   {u"resetTime"_s, 3599},
-                                                                   {u"fanSpeed"_s, 60},
-                                                                   {u"lidType"_s, u"Solid"_s},
-                                                                   {u"bottomType"_s, u"False"_s},
-                                                                   {u"zoneSplits"_s, u"2/3"_s},
-                                                                   {u"timerColor"_s, u"#402100"_s}}));
+                                                                       {u"lowerTemp"_s, 190},
+                                                                       {u"holdingTime"_s, 28799},
+                                                                       {u"warningTime"_s, 61},
+                                                                       {u"resetTime"_s, 3599},
+                                                                       {u"fanSpeed"_s, 60},
+                                                                       {u"lidType"_s, u"Solid"_s},
+                                                                       {u"bottomType"_s, u"False"_s},
+                                                                       {u"zoneSplits"_s, u"2/3"_s},
+                                                                       {u"timerColor"_s, u"#402100"_s}}));
     ui::clickRow(editor.products(), 0);
     QStringList texts;
     for (const char *row : rows)
@@ -184,7 +184,8 @@ void TestMenuFileDetails::rowsFollowTheConfiguration()
 void TestMenuFileDetails::groupShowsWhatItStores()
 {
     samplefile::Menu menu = oneProduct(samplefile::headerWithAllSwitches({{u"temperatureUnit"_s, 1}}));
-    menu.groups = {samplefile::group(13, u"Meats"_s, {12}, {{u"upperTemp"_s, 212}, {u"lidType"_s, u"Vented"_s}})};
+    menu.groups = {
+        samplefile::group(13, u"Meats"_s, {12}, {{u"upperTemp"_s, 212}, {u"lidType"_s, u"Vented"_s}})};
     OpenEditor editor(menu);
     editor.showTab(1);
     ui::clickRow(editor.groups(), 0);
@@ -209,12 +210,12 @@ void TestMenuFileDetails::deselectingEmptiesEveryRow()
 
 void TestMenuFileDetails::oddNumbersAreShown()
 {
-    OpenEditor editor(
-        oneProduct(samplefile::headerWithAllSwitches({{u"temperatureUnit"_s, 1}}), {{u"upperTemp"_s, 2147483647},
-                                                                                {u"lowerTemp"_s, -2147483647},
-                                                                                {u"holdingTime"_s, 86400},
-                                                                                {u"warningTime"_s, -1},
-                                                                                {u"fanSpeed"_s, -5}}));
+    OpenEditor editor(oneProduct(samplefile::headerWithAllSwitches({{u"temperatureUnit"_s, 1}}),
+                                 {{u"upperTemp"_s, 2147483647},
+                                  {u"lowerTemp"_s, -2147483647},
+                                  {u"holdingTime"_s, 86400},
+                                  {u"warningTime"_s, -1},
+                                  {u"fanSpeed"_s, -5}}));
     ui::clickRow(editor.products(), 0);
     QCOMPARE(shown(editor, "HoldTime"), u"00:00:00"_s);
     QCOMPARE(shown(editor, "WarningTime"), u"23:59:59"_s);

@@ -23,11 +23,13 @@ const QString jsonFilter = u"JSON Menu Files (*.json)"_s;
 samplefile::Menu fullMenu()
 {
     samplefile::Menu menu;
-    menu.header = samplefile::headerWithAllSwitches({{u"cabinetModel"_s, u"KTR23"_s}, {u"temperatureUnit"_s, 1}});
+    menu.header =
+        samplefile::headerWithAllSwitches({{u"cabinetModel"_s, u"KTR23"_s}, {u"temperatureUnit"_s, 1}});
     QJsonObject names = samplefile::names(u"Bacon"_s);
     names.insert(u"deu"_s, u"Speck – geräuchert"_s);
-    menu.products = {samplefile::product(1, u"Bacon"_s, {{u"productName"_s, names}, {u"productLocked"_s, true}}),
-                     samplefile::product(2, u"Chili"_s, {{u"timerColor"_s, u"#123456"_s}})};
+    menu.products = {
+        samplefile::product(1, u"Bacon"_s, {{u"productName"_s, names}, {u"productLocked"_s, true}}),
+        samplefile::product(2, u"Chili"_s, {{u"timerColor"_s, u"#123456"_s}})};
     menu.groups = {samplefile::group(3, u"Meats"_s, {2, 99, 1}, {{u"defaultProd"_s, 7}})};
     QJsonObject unused = samplefile::daypart(u"Evening"_s, {3, 2, 1, 0, 99, 0, 0, 0});
     unused.insert(u"inUse"_s, false);

@@ -139,7 +139,8 @@ void TestMenuFileGroups::addedGroupTakesTheFreeIdAndIsCurrent()
         ui::click(dialog, "btnSave");
     });
     ui::click(*editor, "btnAddGroup");
-    QCOMPARE(savedGroups(editor).last().toObject(), samplefile::group(4, u"New"_s, {5}, {{u"fanSpeed"_s, 0}}));
+    QCOMPARE(savedGroups(editor).last().toObject(),
+             samplefile::group(4, u"New"_s, {5}, {{u"fanSpeed"_s, 0}}));
     QVERIFY(editor->getMenuGroups().constLast()->get_isGroup());
     QCOMPARE(editor.groups().currentRow(), 2);
     QCOMPARE(textsOf(shownMembers(editor)), QStringList{u"  1 Gravy"_s});

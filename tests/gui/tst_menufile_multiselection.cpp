@@ -249,7 +249,8 @@ void TestMenuFileMultiSelection::deleteTakesTheCheckedOnly()
     QCOMPARE(enabledButtons(), u"Add..."_s);
     QVERIFY(!list().item(0)->data(Qt::CheckStateRole).isValid());
     const QJsonObject saved = m_editor->saved();
-    QCOMPARE(samplefile::binsOf(saved, 0), m_tab == 0 ? (QList<int>{1, 3, 12, 15}) : (QList<int>{1, 3, 0, 0}));
+    QCOMPARE(samplefile::binsOf(saved, 0),
+             m_tab == 0 ? (QList<int>{1, 3, 12, 15}) : (QList<int>{1, 3, 0, 0}));
     const QJsonObject group = saved.value(u"productGroups"_s).toArray().at(0).toObject();
     QCOMPARE(group.value(u"products"_s).toArray(),
              m_tab == 0 ? (QJsonArray{1, 3, 4}) : (QJsonArray{1, 2, 3, 4, 5}));

@@ -18,7 +18,8 @@ samplefile::Menu threeProducts(const QJsonObject &header = samplefile::header())
                      samplefile::product(7, u"Gravy"_s)};
     menu.groups = {samplefile::group(2, u"Meats"_s, {4, 1, 4, 7}, {{u"defaultProd"_s, 2}}),
                    samplefile::group(3, u"Sauces"_s, {7, 1}, {{u"defaultProd"_s, 1}})};
-    menu.layout = {samplefile::daypart(u"Morning"_s, {4, 2, 4, 7}), samplefile::daypart(u"Evening"_s, {1, 4, 0, 3})};
+    menu.layout = {samplefile::daypart(u"Morning"_s, {4, 2, 4, 7}),
+                   samplefile::daypart(u"Evening"_s, {1, 4, 0, 3})};
     return menu;
 }
 
@@ -131,8 +132,8 @@ void TestMenuFileProducts::newProductStartsWithDefaults()
     ModalAnswers answers;
     answers.expect<ProductEdit>([](ProductEdit &dialog) { saveAs(dialog, u"Ham"_s); });
     ui::click(*editor, "btnAddProduct");
-    QCOMPARE(savedProducts(editor),
-             QJsonArray{samplefile::product(1, u"Ham"_s, {{u"fanSpeed"_s, 0}, {u"zoneSplits"_s, zoneSplits}})});
+    QCOMPARE(savedProducts(editor), QJsonArray{samplefile::product(
+                                        1, u"Ham"_s, {{u"fanSpeed"_s, 0}, {u"zoneSplits"_s, zoneSplits}})});
 }
 
 void TestMenuFileProducts::addedProductTakesTheFreeIdAndIsCurrent()

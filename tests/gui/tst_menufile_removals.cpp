@@ -22,7 +22,8 @@ samplefile::Menu menuWith(const QJsonObject &header)
                      samplefile::product(3, u"Groups"_s), samplefile::product(4, u"Nowhere"_s)};
     menu.groups = {samplefile::group(9, u"Meats"_s, {3, 1, 4}, {{u"defaultProd"_s, 2}}),
                    samplefile::group(10, u"Sauces"_s, {4})};
-    menu.layout = {samplefile::daypart(u"Morning"_s, {1, 2, 9, 1}), samplefile::daypart(u"Evening"_s, {9, 1, 2, 0})};
+    menu.layout = {samplefile::daypart(u"Morning"_s, {1, 2, 9, 1}),
+                   samplefile::daypart(u"Evening"_s, {9, 1, 2, 0})};
     return menu;
 }
 

@@ -11,8 +11,8 @@
 #include "holding/configuration.h"
 #include "holding/productedit.h"
 #include "tests/support/modalanswers.h"
-#include "tests/support/windowmenu.h"
 #include "tests/support/uidriver.h"
+#include "tests/support/windowmenu.h"
 
 using namespace Qt::StringLiterals;
 
