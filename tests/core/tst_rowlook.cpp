@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include "tests/support/binrows.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+using namespace holding;
+
+/// Which buttons of a row show, and how wide they are at least.
+class TestRowLook : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void buttonWidths_data();
+    void buttonWidths();
+    void otherShapesHaveOneWidth();
+    void everyRow_data() { binrows::addShapes(); }
+    void everyRow();
+    void byTable_data();
+    void byTable();
+};
+
+void TestRowLook::buttonWidths_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QList<int>>("widths"); // of "1/3", "1/2", "2/3", "1/1"
+    const QList<int> twoBins{112, 194, 112, 394};
+    const QList<int> threeBins{127, 194, 265, 394};
+    const QList<int> twoZones{112, 112, 112, 230};
+    for (const char *model : {"KTR22", "KTR32", "KTR42", "KTR52", "KTR82"})
+        QTest::newRow(model) << QString::fromLatin1(model) << twoBins;
+    for (const char *model : {"KTR33", "KTR63", "ZPV43", "ZPV23"})
+        QTest::newRow(model) << QString::fromLatin1(model) << threeBins;
+    for (const char *model : {"KTR23", "KTR24", "KTR34", "KTR54"})
+        QTest::newRow(model) << QString::fromLatin1(model) << twoZones;
+}
+
+void TestRowLook::buttonWidths()
+{
+    QFETCH(QString, model);
+    QFETCH(QList<int>, widths);
+    const CabinetShape shape = cabinetShape(model.startsWith(u'Z') ? u"ZPV"_s : u"QHX"_s, model);
+    QVERIFY(shape.isKnown());
+    const QStringList splits{u"1/3"_s, u"1/2"_s, u"2/3"_s, u"1/1"_s};
+    for (qsizetype i = 0; i < splits.size(); ++i)
+        QCOMPARE(binButtonWidth(shape, splits[i]), widths[i]);
+    for (const QString &other : {QString(), u"1/4"_s, u"3/4"_s, u"2/2"_s, u" 1/1"_s, u"1/1 "_s})
+        QCOMPARE(binButtonWidth(shape, other), 112);
+}
+
+void TestRowLook::otherShapesHaveOneWidth()
+{
+    for (int zones = 0; zones <= 3; ++zones) {
+        for (int bins = 0; bins <= 5; ++bins) {
+            if ((zones == 1 && (bins == 2 || bins == 3)) || (zones == 2 && bins == 2))
+                continue;
+            const CabinetShape shape{2, quint8(bins), quint8(zones), false};
+            for (const QString &splits : {u"1/4"_s, u"1/3"_s, u"1/2"_s, u"2/3"_s, u"3/4"_s, u"1/1"_s})
+                QCOMPARE(binButtonWidth(shape, splits), 112);
+        }
+    }
+}
+
+namespace {
+
+// How a zone shows, a text a bin: "-" is hidden, "h" half a zone wide, "o" as wide as what stands in it. The
+// first pattern that a zone matches decides.
+struct Pattern
+{
+    QString zone;
+    QString looks;
+};
+
+const QList<Pattern> &patterns()
+{
+    static const QList<Pattern> all{
+        {u"."_s, u"o"_s},       {u"1."_s, u"o-"_s},        {u".."_s, u"oo"_s},
+        {u"1.."_s, u"o--"_s},   {u"(2.|.2)."_s, u"hh-"_s}, {u".1."_s, u"oo-"_s},
+        {u"T\\.."_s, u"o-o"_s}, {u".T\\."_s, u"oo-"_s},    {u"..."_s, u"ooo"_s},
+    };
+    return all;
+}
+
+QString looksOf(const QString &zone)
+{
+    for (const Pattern &pattern : patterns()) {
+        if (QRegularExpression(QRegularExpression::anchoredPattern(pattern.zone)).match(zone).hasMatch())
+            return pattern.looks;
+    }
+    return {};
+}
+
+int widthOf(const CabinetShape &shape, QChar look, QChar fill)
+{
+    if (look == u'h')
+        return 194;
+    return fill == u'.' || fill == u'?' ? 112 : binButtonWidth(shape, binrows::splitsOf(fill));
+}
+
+} // namespace
+
+void TestRowLook::everyRow()
+{
+    QFETCH(CabinetShape, shape);
+    QFETCH(QString, layout);
+    if (shape.binsPerZone > 3)
+        return; // no cabinet to show
+    const binrows::Entries entries;
+    binrows::forEachRow([&](const QString &fill) {
+        const auto looks = rowLook(shape, entries.row(fill));
+        QString expected;
+        for (const QChar zone : {u'a', u'b'}) {
+            if (layout.contains(zone))
+                expected += looksOf(binrows::zoneOf(fill, layout, int(layout.indexOf(zone))));
+        }
+        expected = expected.leftJustified(maxSlots, u'-');
+        for (int slot = 0; slot < maxSlots; ++slot) {
+            const BinLook &look = looks[std::size_t(slot)];
+            QVERIFY2(look.visible == (expected[slot] != u'-'), qPrintable(fill));
+            if (look.visible)
+                QVERIFY2(look.minimumWidth == widthOf(shape, expected[slot], fill[slot]), qPrintable(fill));
+        }
+    });
+}
+
+void TestRowLook::byTable_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("fill");
+    QTest::addColumn<QList<int>>("widths"); // 0 is hidden
+    QTest::newRow("two bins, empty") << u"KTR22"_s << u"...."_s << QList<int>{112, 112, 0, 0};
+    QTest::newRow("two bins, whole") << u"KTR22"_s << u"1..."_s << QList<int>{394, 0, 0, 0};
+    QTest::newRow("two bins, whole on top of another") << u"KTR82"_s << u"12.."_s << QList<int>{394, 0, 0, 0};
+    QTest::newRow("two bins, whole in the last") << u"KTR22"_s << u".1.."_s << QList<int>{112, 394, 0, 0};
+    QTest::newRow("two bins, one half") << u"KTR52"_s << u"2..."_s << QList<int>{194, 112, 0, 0};
+    QTest::newRow("two bins, unknown id") << u"KTR52"_s << u"?2.."_s << QList<int>{112, 194, 0, 0};
+    QTest::newRow("three bins, empty") << u"KTR33"_s << u"...."_s << QList<int>{112, 112, 112, 0};
+    QTest::newRow("three bins, whole") << u"KTR33"_s << u"1..."_s << QList<int>{394, 0, 0, 0};
+    QTest::newRow("three bins, thirds") << u"ZPV43"_s << u"333."_s << QList<int>{127, 127, 127, 0};
+    QTest::newRow("three bins, first half") << u"ZPV23"_s << u"2..."_s << QList<int>{194, 194, 0, 0};
+    QTest::newRow("three bins, second half") << u"KTR63"_s << u".2.."_s << QList<int>{194, 194, 0, 0};
+    QTest::newRow("three bins, half in the third") << u"KTR63"_s << u"..2."_s << QList<int>{112, 112, 194, 0};
+    QTest::newRow("three bins, two thirds") << u"KTR33"_s << u"T.3."_s << QList<int>{265, 0, 127, 0};
+    QTest::newRow("three bins, last two thirds") << u"KTR33"_s << u"3T.."_s << QList<int>{127, 265, 0, 0};
+    QTest::newRow("two thirds hide no filled bin") << u"KTR33"_s << u"T33."_s << QList<int>{265, 127, 127, 0};
+    QTest::newRow("two thirds hide no unknown id") << u"KTR33"_s << u"T?.."_s << QList<int>{265, 112, 112, 0};
+    QTest::newRow("one-bin zone, wholes") << u"KTR23"_s << u"1.1."_s << QList<int>{230, 0, 230, 0};
+    QTest::newRow("two zones, empty") << u"KTR24"_s << u"...."_s << QList<int>{112, 112, 112, 112};
+    QTest::newRow("two zones, first whole") << u"KTR54"_s << u"1.22"_s << QList<int>{230, 0, 112, 112};
+    QTest::newRow("two zones, second whole") << u"KTR54"_s << u"221."_s << QList<int>{112, 112, 230, 0};
+}
+
+void TestRowLook::byTable()
+{
+    QFETCH(QString, model);
+    QFETCH(QString, fill);
+    QFETCH(QList<int>, widths);
+    const CabinetShape shape = cabinetShape(model.startsWith(u'Z') ? u"ZPV"_s : u"QHX"_s, model);
+    const binrows::Entries entries;
+    QList<int> shown;
+    for (const BinLook &look : rowLook(shape, entries.row(fill)))
+        shown.append(look.visible ? look.minimumWidth : 0);
+    QCOMPARE(shown, widths);
+}
+
+QTEST_APPLESS_MAIN(TestRowLook)
+#include "tst_rowlook.moc"
