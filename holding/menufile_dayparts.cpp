@@ -56,13 +56,16 @@ QString binText(const holding::SlotContent &content, int id)
     return content.filled ? MenuFile::tr("Id %1").arg(id) : QString();
 }
 
-QString binToolTip(const ProductInfo *entry, int unit)
+QString binToolTip(const ProductInfo *entry, const holding::CabinetConfiguration &configuration)
 {
     if (!entry)
         return {};
-    return MenuFile::tr("%1\nTemperature: %2 / %3\nHolding Time: %4")
-        .arg(shownName(entry->get_productName()), temperatureText(entry->get_upperTemp(), unit),
-             temperatureText(entry->get_lowerTemp(), unit),
+    const int unit = configuration.temperatureUnit;
+    QString temperatures = temperatureText(entry->get_upperTemp(), unit);
+    if (!holding::isZpv(configuration.type))
+        temperatures += u" / "_s + temperatureText(entry->get_lowerTemp(), unit);
+    return MenuFile::tr("%1\nTemperature: %2\nHolding Time: %3")
+        .arg(shownName(entry->get_productName()), temperatures,
              QTime(0, 0).addSecs(entry->get_holdTime()).toString(u"HH:mm:ss"_s));
 }
 
@@ -159,13 +162,14 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
     const holding::RowContent content = holding::rowContent(m_menu, daypart, row);
     const auto looks = holding::rowLook(m_shape, content);
     for (std::size_t slot = 0; slot < looks.size(); ++slot) {
-        QPushButton *button = m_grid.button({row, static_cast<int>(slot)});
+        const Bin bin{row, static_cast<int>(slot)};
+        QPushButton *button = m_grid.button(bin);
         if (!button)
             continue;
         const int id = daypart.bins[static_cast<std::size_t>(row)][slot];
         button->setMinimumWidth(looks[slot].minimumWidth);
-        button->setText(binText(content[slot], id));
-        button->setToolTip(binToolTip(content[slot].entry, getTemperatureUnit()));
+        m_grid.showContent(bin, binText(content[slot], id));
+        button->setToolTip(binToolTip(content[slot].entry, m_menu.configuration));
         button->setVisible(looks[slot].visible);
     }
 }

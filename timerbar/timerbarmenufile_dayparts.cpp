@@ -115,9 +115,8 @@ void TimerBarMenuFile::loadCurrentDaypart()
     for (const Bin bin : bins) {
         const int id = cellAt(*cells, bin);
         const ProductInfo *product = id == timerbar::emptyCell ? nullptr : getProductObject(id);
-        QPushButton *button = m_grid.button(bin);
-        button->setText(product ? product->get_productShortName() : QString());
-        button->setToolTip(toolTipOf(product, m_menu.temperatureUnit));
+        m_grid.showContent(bin, product ? product->get_productShortName() : QString());
+        m_grid.button(bin)->setToolTip(toolTipOf(product, m_menu.temperatureUnit));
     }
 }
 

@@ -29,8 +29,8 @@ void BinButton::paintEvent([[maybe_unused]] QPaintEvent *event)
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    option.text =
-        fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * textMargin, Qt::TextShowMnemonic);
+    option.text = fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * textMargin);
+    option.text.replace(u'&', u"&&"_s); // styles draw one ampersand as an underline
     QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
 }
 

@@ -63,6 +63,15 @@ QList<Bin> BinGrid::bins() const
     return bins;
 }
 
+void BinGrid::showContent(Bin bin, const QString &text) const
+{
+    QPushButton *shown = button(bin);
+    shown->setText(text);
+    shown->setShortcut({}); // an ampersand is part of the name, no key opens a bin
+    shown->setAccessibleName(
+        tr("Row %1, Bin %2: %3").arg(bin.row + 1).arg(bin.slot + 1).arg(text.isEmpty() ? tr("Empty") : text));
+}
+
 std::optional<Bin> BinGrid::binOf(const QPushButton *button) const
 {
     const auto found = std::find_if(m_places.begin(), m_places.end(),

@@ -18,9 +18,35 @@ private slots:
     void slotsAreInOrder();
 };
 
+namespace {
+
+// The third bin is missing in the last two rows, and the second zone has five rows of two.
+QStringList binButtonSlots()
+{
+    QStringList buttons;
+    for (const int row : {0, 1, 2, 3, 4, 5, 6, 7}) {
+        for (const int bin : {0, 1, 2}) {
+            if (row < 6 || bin < 2)
+                buttons.append(u"btnDaypartSelect%1_%2"_s.arg(row).arg(bin));
+        }
+    }
+    for (const int row : {0, 1, 2, 3, 4}) {
+        for (const int bin : {0, 1})
+            buttons.append(u"btnDaypartSelectB%1_%2"_s.arg(row).arg(bin));
+    }
+    QStringList names;
+    for (const QString &button : std::as_const(buttons)) {
+        for (const QString &signal : {u"pressed"_s, u"released"_s, u"clicked"_s})
+            names.append(u"on_%1_%2()"_s.arg(button, signal));
+    }
+    return names;
+}
+
+} // namespace
+
 void TestMenuFileSlots::slotsAreInOrder()
 {
-    const QStringList expected{
+    QStringList expected{
         // the file
         u"readMenuFile()"_s,
         u"loadDefaultMenu()"_s,
@@ -65,6 +91,27 @@ void TestMenuFileSlots::slotsAreInOrder()
         u"on_listWidgetProducts_itemChanged()"_s,
         u"on_btnSelectMultiGroup_clicked()"_s,
         u"on_listWidgetGroups_itemChanged()"_s,
+        // day parts
+        u"loadDayparts()"_s,
+        u"loadCurrentDaypart()"_s,
+        u"getDaypartButtonWidth(QString zoneSplits)"_s,
+        u"assignProductToBin(int rowIndex, int binIndex)"_s,
+        u"calculateButtonWidth(int binSize)"_s,
+        u"dayPartPressHoldDetected()"_s,
+    };
+    const QStringList ofButtons = binButtonSlots();
+    QCOMPARE(ofButtons.size(), 96);
+    expected += ofButtons;
+    expected += {
+        u"on_btnDaypartRemove_clicked()"_s,
+        u"on_btnCancelDaypartRemove_clicked()"_s,
+        u"on_comboDaypartSelect_currentIndexChanged(int index)"_s,
+        u"on_btnDeleteDaypart_clicked()"_s,
+        u"on_btnEditDaypart_clicked()"_s,
+        u"on_btnAddDaypart_clicked()"_s,
+        u"on_checkBoxDaypartInUse_stateChanged(int arg1)"_s,
+        // old menus
+        u"importQhxMenuFile(QString fileName)"_s,
     };
     QCOMPARE(ownSlots(MenuFile::staticMetaObject), expected);
 }

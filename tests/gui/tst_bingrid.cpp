@@ -1,0 +1,340 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/gui/openbins.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+
+/// The grid of bins as each cabinet shows it.
+class TestBinGrid : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void models_data();
+    void models();
+    void fullRows_data();
+    void fullRows();
+    void everyModelInEverySplit_data();
+    void everyModelInEverySplit();
+    void buttonsFillTheirZone();
+    void redrawRestoresEveryButton();
+    void buttonsTellTheirBin();
+    void namesAreElidedOnlyInPainting();
+    void namesAreShownAsTheyAre();
+    void toolTips_data();
+    void toolTips();
+    void widthsThatEditorsTell();
+};
+
+namespace {
+
+const QStringList &allButtons()
+{
+    static const QStringList names = [] {
+        QStringList all;
+        for (int row = 0; row < 8; ++row) {
+            for (int bin = 0; bin < (row < 6 ? 3 : 2); ++bin)
+                all.append(u"btnDaypartSelect%1_%2"_s.arg(row).arg(bin));
+        }
+        for (int row = 0; row < 5; ++row) {
+            for (int bin = 0; bin < 2; ++bin)
+                all.append(u"btnDaypartSelectB%1_%2"_s.arg(row).arg(bin));
+        }
+        return all;
+    }();
+    return names;
+}
+
+QPushButton &buttonNamed(OpenBins &editor, const QString &name)
+{
+    return ui::get<QPushButton>(*editor, name.toLatin1().constData());
+}
+
+QStringList visibleButtons(OpenBins &editor)
+{
+    QStringList names;
+    for (const QString &name : allButtons()) {
+        if (buttonNamed(editor, name).isVisible())
+            names.append(name);
+    }
+    return names;
+}
+
+// The least widths of a row's buttons, 0 where one is hidden.
+QList<int> widthsInRow(OpenBins &editor, int row, int slots_)
+{
+    QList<int> widths;
+    for (int slot = 0; slot < slots_; ++slot) {
+        QPushButton &button = editor.button(row, slot);
+        widths.append(button.isVisible() ? button.minimumWidth() : 0);
+    }
+    return widths;
+}
+
+void addModels()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("firstZone");
+    QTest::addColumn<int>("secondZone");
+    const auto add = [](const char *model, int rows, int firstZone, int secondZone) {
+        QTest::newRow(model) << QString::fromLatin1(model) << rows << firstZone << secondZone;
+    };
+    add("KTR22", 2, 2, 0);
+    add("KTR23", 2, 2, 1);
+    add("KTR24", 2, 2, 2);
+    add("KTR32", 3, 2, 0);
+    add("KTR33", 3, 3, 0);
+    add("KTR34", 3, 2, 2);
+    add("KTR42", 4, 2, 0);
+    add("KTR52", 5, 2, 0);
+    add("KTR54", 5, 2, 2);
+    add("KTR63", 6, 3, 0);
+    add("KTR82", 8, 2, 0);
+    add("ZPV43", 4, 3, 0);
+    add("ZPV23", 2, 3, 0);
+}
+
+} // namespace
+
+void TestBinGrid::models_data()
+{
+    addModels();
+}
+
+void TestBinGrid::models()
+{
+    QFETCH(QString, model);
+    QFETCH(int, rows);
+    QFETCH(int, firstZone);
+    QFETCH(int, secondZone);
+    OpenBins editor(bins::menuOf(model, {}));
+    QStringList expected;
+    for (const QString &name : allButtons()) {
+        const QString place = name.sliced(16);
+        const bool second = place.startsWith(u'B');
+        const int row = place[second ? 1 : 0].digitValue();
+        if (row < rows && place.back().digitValue() < (second ? secondZone : firstZone))
+            expected.append(name);
+    }
+    QCOMPARE(visibleButtons(editor), expected);
+    for (const QString &name : expected) {
+        QPushButton &button = buttonNamed(editor, name);
+        QCOMPARE(button.minimumWidth(), 112);
+        QVERIFY(button.isEnabled() && !button.isCheckable() && button.text().isEmpty());
+        QVERIFY(button.width() >= button.minimumWidth());
+    }
+    QWidget &frame = editor.widget("frameSecondZone");
+    QCOMPARE(frame.isVisible(), secondZone > 0);
+    if (secondZone > 0) {
+        QCOMPARE(frame.maximumWidth(), secondZone == 1 ? 177 : 340);
+        QVERIFY(frame.width() <= frame.maximumWidth());
+    }
+}
+
+void TestBinGrid::fullRows_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QList<int>>("ids");
+    QTest::addColumn<QList<int>>("widths");
+    QTest::newRow("KTR82, whole") << u"KTR82"_s << QList<int>{4, 0} << QList<int>{394, 0};
+    QTest::newRow("KTR82, halves") << u"KTR82"_s << QList<int>{2, 5} << QList<int>{194, 194};
+    QTest::newRow("KTR33, whole") << u"KTR33"_s << QList<int>{4, 0, 0} << QList<int>{394, 0, 0};
+    QTest::newRow("KTR33, whole hides filled ones")
+        << u"KTR33"_s << QList<int>{4, 1, 2} << QList<int>{394, 0, 0};
+    QTest::newRow("KTR33, halves") << u"KTR33"_s << QList<int>{2, 5, 0} << QList<int>{194, 194, 0};
+    QTest::newRow("KTR33, one half") << u"KTR33"_s << QList<int>{0, 2, 0} << QList<int>{194, 194, 0};
+    QTest::newRow("KTR33, thirds") << u"KTR33"_s << QList<int>{1, 1, 1} << QList<int>{127, 127, 127};
+    QTest::newRow("KTR33, two thirds and one")
+        << u"KTR33"_s << QList<int>{3, 0, 1} << QList<int>{265, 0, 127};
+    QTest::newRow("KTR33, one and two thirds")
+        << u"KTR33"_s << QList<int>{1, 3, 0} << QList<int>{127, 265, 0};
+    QTest::newRow("ZPV23, an unknown id") << u"ZPV23"_s << QList<int>{99, 1, 0} << QList<int>{112, 127, 112};
+    QTest::newRow("KTR23, wholes") << u"KTR23"_s << QList<int>{4, 0, 2} << QList<int>{230, 0, 112};
+    QTest::newRow("KTR54, halves") << u"KTR54"_s << QList<int>{2, 2, 5, 5} << QList<int>{112, 112, 112, 112};
+    QTest::newRow("KTR54, wholes") << u"KTR54"_s << QList<int>{4, 0, 4, 0} << QList<int>{230, 0, 230, 0};
+    QTest::newRow("KTR54, mixed") << u"KTR54"_s << QList<int>{2, 5, 4, 2} << QList<int>{112, 112, 230, 0};
+}
+
+void TestBinGrid::fullRows()
+{
+    QFETCH(QString, model);
+    QFETCH(QList<int>, ids);
+    QFETCH(QList<int>, widths);
+    OpenBins editor(bins::menuOf(model, ids));
+    QCOMPARE(widthsInRow(editor, 0, int(ids.size())), widths);
+    const QStringList names{QString(), u"Third"_s, u"Half"_s, u"Most"_s, u"Whole"_s, u"Halves"_s};
+    for (int slot = 0; slot < ids.size(); ++slot)
+        QVERIFY(ids[slot] == 99 || editor.button(0, slot).text() == names[ids[slot]]);
+    QVERIFY(editor.button(1, 0).text().isEmpty());
+    // Nothing that is out of sight is gone.
+    QCOMPARE(editor.savedBins(0).first(ids.size()), ids);
+}
+
+void TestBinGrid::everyModelInEverySplit_data()
+{
+    addModels();
+}
+
+// Each row of each cabinet in each split: the buttons stand side by side inside the zone, rows below one
+// another, the second zone beside the first with a gap that is wider than the one between bins.
+void TestBinGrid::everyModelInEverySplit()
+{
+    QFETCH(QString, model);
+    QFETCH(int, rows);
+    QFETCH(int, firstZone);
+    QFETCH(int, secondZone);
+    const int perRow = secondZone > 0 ? 4 : firstZone;
+    for (const int id : {0, 1, 2, 3, 4}) {
+        QList<int> ids(rows * perRow, 0);
+        for (int row = 0; row < rows; ++row)
+            ids[row * perRow] = id;
+        OpenBins editor(bins::menuOf(model, ids));
+        int bottom = -1;
+        for (int row = 0; row < rows; ++row) {
+            int right = -1;
+            for (int slot = 0; slot < firstZone + secondZone; ++slot) {
+                QPushButton &button = editor.button(row, slot);
+                if (button.isHidden())
+                    continue;
+                const QRect place(button.mapTo(&*editor, QPoint()), button.size());
+                QVERIFY(place.left() > right + (slot == firstZone ? 8 : 0));
+                QVERIFY(place.top() > bottom);
+                QVERIFY(button.width() >= button.minimumWidth());
+                QVERIFY(button.parentWidget()->rect().contains(button.geometry()));
+                QVERIFY(editor->rect().contains(place));
+                right = place.right();
+            }
+            bottom = editor.button(row, 0).mapTo(&*editor, editor.button(row, 0).rect().bottomLeft()).y();
+        }
+    }
+}
+
+// Whatever stands in a zone, its row is filled from edge to edge and the zone stays as wide as it was.
+void TestBinGrid::buttonsFillTheirZone()
+{
+    OpenBins editor(bins::menuOf(u"KTR54"_s, {2, 2, 2, 2, 4, 0, 4, 0, 2, 0, 0, 2}));
+    OpenBins empty(bins::menuOf(u"KTR54"_s, {}));
+    for (const char *name : {"frameFirstZone", "frameSecondZone"}) {
+        const int width = editor.widget(name).width();
+        QCOMPARE(empty.widget(name).width(), width);
+        const int first = qstrcmp(name, "frameFirstZone") == 0 ? 0 : 2;
+        for (int row = 0; row < 5; ++row) {
+            const QPushButton &left = editor.button(row, first);
+            const QPushButton &right = editor.button(row, first + 1);
+            QCOMPARE(left.geometry().left(), 0);
+            QCOMPARE((right.isVisible() ? right : left).geometry().right(), width - 1);
+        }
+    }
+    QCOMPARE(editor.widget("frameFirstZone").width(), editor.widget("frameSecondZone").width());
+}
+
+void TestBinGrid::redrawRestoresEveryButton()
+{
+    OpenBins editor(bins::menuOf(u"KTR33"_s, {4, 0, 0, 2, 0, 0, 3, 0, 1}, {1, 1, 1}));
+    QCOMPARE(widthsInRow(editor, 0, 3), (QList<int>{394, 0, 0}));
+    QCOMPARE(widthsInRow(editor, 1, 3), (QList<int>{194, 194, 0}));
+    QCOMPARE(widthsInRow(editor, 2, 3), (QList<int>{265, 0, 127}));
+    ui::choose(*editor, "comboDaypartSelect", u"Evening"_s);
+    QCOMPARE(widthsInRow(editor, 0, 3), (QList<int>{127, 127, 127}));
+    QCOMPARE(widthsInRow(editor, 1, 3), (QList<int>{112, 112, 112}));
+    QCOMPARE(widthsInRow(editor, 2, 3), (QList<int>{112, 112, 112}));
+    for (int slot = 0; slot < 3; ++slot) {
+        QCOMPARE(editor.button(0, slot).text(), u"Third"_s);
+        QVERIFY(editor.button(1, slot).text().isEmpty() && editor.button(1, slot).toolTip().isEmpty());
+    }
+    ui::choose(*editor, "comboDaypartSelect", u"Morning"_s);
+    QCOMPARE(widthsInRow(editor, 1, 3), (QList<int>{194, 194, 0}));
+}
+
+// For who cannot see where a button stands.
+void TestBinGrid::buttonsTellTheirBin()
+{
+    OpenBins editor(bins::menuOf(u"KTR54"_s, {2}));
+    QSet<QString> names;
+    for (int row = 0; row < 5; ++row) {
+        for (int slot = 0; slot < 4; ++slot) {
+            const QString name = editor.button(row, slot).accessibleName();
+            QVERIFY(!name.isEmpty());
+            names.insert(name);
+        }
+    }
+    QCOMPARE(names.size(), 20);
+    QVERIFY(editor.button(0, 0).accessibleName().contains(u"Half"_s));
+}
+
+void TestBinGrid::namesAreElidedOnlyInPainting()
+{
+    const QString name = u"Grilled Chicken Breast Fillet with Mushrooms, Large"_s;
+    samplefile::Menu menu = bins::menuOf(u"KTR54"_s, {8, 8, 2});
+    menu.products.append(samplefile::product(8, name));
+    OpenBins editor(menu);
+    QPushButton &button = editor.button(0, 0);
+    QCOMPARE(button.text(), name);
+    QVERIFY(button.fontMetrics().horizontalAdvance(name) > button.width());
+    const QImage painted = button.grab().toImage();
+    button.setText(button.fontMetrics().elidedText(name, Qt::ElideRight, button.width() - 12));
+    QVERIFY(button.text().endsWith(u'…'));
+    QCOMPARE(button.grab().toImage(), painted);
+}
+
+// An ampersand is a part of the name and makes no shortcut.
+void TestBinGrid::namesAreShownAsTheyAre()
+{
+    samplefile::Menu menu = bins::menuOf(u"KTR22"_s, {8, 9, 10});
+    menu.products.append(samplefile::product(8, u"Fish&Fries"_s));
+    menu.products.append(samplefile::product(9, u"FishFries"_s));
+    menu.products.append(samplefile::product(10, u"Fish &&& Fries && <b>Ham</b>"_s));
+    OpenBins editor(menu);
+    QPushButton &button = editor.button(0, 0);
+    QCOMPARE(button.text(), u"Fish&Fries"_s);
+    QVERIFY(button.shortcut().isEmpty());
+    const QImage painted = button.grab().toImage();
+    QVERIFY(painted != editor.button(0, 1).grab().toImage());
+    QCOMPARE(editor.button(1, 0).text(), u"Fish &&& Fries && <b>Ham</b>"_s);
+    QVERIFY(editor.button(1, 0).shortcut().isEmpty());
+    QVERIFY(editor.button(0, 0).accessibleName().contains(u"Fish&Fries"_s));
+}
+
+void TestBinGrid::toolTips_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<QString>("toolTip");
+    QTest::newRow("QHX in °F") << u"KTR22"_s << 0
+                               << u"Ham & Eggs\nTemperature: 210°F / 190°F\nHolding Time: 01:00:01"_s;
+    QTest::newRow("QHX in °C") << u"KTR22"_s << 1
+                               << u"Ham & Eggs\nTemperature: 99°C / 88°C\nHolding Time: 01:00:01"_s;
+    QTest::newRow("ZPV has one temperature")
+        << u"ZPV23"_s << 0 << u"Ham & Eggs\nTemperature: 210°F\nHolding Time: 01:00:01"_s;
+}
+
+void TestBinGrid::toolTips()
+{
+    QFETCH(QString, model);
+    QFETCH(int, unit);
+    QFETCH(QString, toolTip);
+    samplefile::Menu menu = bins::menuOf(model, {8, 99});
+    menu.header.insert(u"temperatureUnit"_s, unit);
+    menu.products.append(samplefile::product(
+        8, u"Ham & Eggs"_s, {{u"upperTemp"_s, 210}, {u"lowerTemp"_s, 190}, {u"holdingTime"_s, 3601}}));
+    OpenBins editor(menu);
+    QCOMPARE(editor.button(0, 0).toolTip(), toolTip);
+    QVERIFY(editor.button(1, 0).toolTip().isEmpty());
+}
+
+void TestBinGrid::widthsThatEditorsTell()
+{
+    OpenBins editor(bins::menuOf(u"KTR33"_s, {}));
+    QCOMPARE(editor->getDaypartButtonWidth(u"2/3"_s), 265);
+    QCOMPARE(editor->getDaypartButtonWidth(u"1/1"_s), 394);
+    QCOMPARE(editor->getDaypartButtonWidth({}), 112);
+    for (const int size : {-1, 0, 1, 2, 3, 1000})
+        QCOMPARE(editor->calculateButtonWidth(size), 55);
+}
+
+QTEST_MAIN(TestBinGrid)
+#include "tst_bingrid.moc"

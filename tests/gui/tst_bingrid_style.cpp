@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include "tests/gui/openbins.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+
+/// The colours of the bin buttons, as painted.
+class TestBinGridStyle : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QApplication::setStyle(QStyleFactory::create(u"Fusion"_s)); }
+    void init() { failOnWarnings(); }
+    void idle();
+    void pressed();
+    void hovered();
+    void checked();
+    void sheetIsOnTheGridAlone();
+};
+
+namespace {
+
+constexpr QColor lightGrey(0xd3, 0xd3, 0xd3);
+constexpr QColor darkGrey(0xa9, 0xa9, 0xa9);
+constexpr QColor silver(0xc0, 0xc0, 0xc0);
+
+// Left of the text and inside any border.
+QColor background(QPushButton &button)
+{
+    return button.grab().toImage().pixelColor(4, button.height() / 2);
+}
+
+QColor edge(QPushButton &button)
+{
+    return button.grab().toImage().pixelColor(0, button.height() / 2);
+}
+
+} // namespace
+
+void TestBinGridStyle::idle()
+{
+    OpenBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    for (const int slot : {0, 1}) {
+        QCOMPARE(background(editor.button(0, slot)), lightGrey);
+        QCOMPARE(edge(editor.button(0, slot)), lightGrey);
+    }
+}
+
+void TestBinGridStyle::pressed()
+{
+    OpenBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    editor.button(0, 1).setDown(true);
+    QCOMPARE(background(editor.button(0, 1)), darkGrey);
+    QCOMPARE(edge(editor.button(0, 1)), darkGrey);
+}
+
+void TestBinGridStyle::hovered()
+{
+    OpenBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    QPushButton &button = editor.button(0, 1);
+    const QPoint middle = button.mapTo(&*editor, button.rect().center());
+    QTest::mouseMove(editor->windowHandle(), middle + QPoint(0, 200));
+    QTest::mouseMove(editor->windowHandle(), middle);
+    QVERIFY(button.underMouse());
+    QTRY_COMPARE(background(button), silver);
+    button.setDown(true);
+    QCOMPARE(background(button), darkGrey);
+    button.setDown(false);
+    button.setCheckable(true);
+    button.setChecked(true);
+    QCOMPARE(background(button), darkGrey);
+}
+
+void TestBinGridStyle::checked()
+{
+    OpenBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    QPushButton &button = editor.button(0, 0);
+    button.setCheckable(true);
+    button.setChecked(true);
+    QCOMPARE(background(button), darkGrey);
+    const QImage image = button.grab().toImage();
+    // Two pixels of a black frame that looks raised: no pixel of it is lighter than the middle.
+    for (const int x : {0, 1})
+        QVERIFY(image.pixelColor(x, button.height() / 2) != darkGrey);
+    QCOMPARE(image.pixelColor(2, button.height() / 2), darkGrey);
+    QVERIFY(qGray(image.pixel(button.width() - 1, button.height() / 2)) < 0x40);
+}
+
+// A sheet on the editor would double the cost of opening it.
+void TestBinGridStyle::sheetIsOnTheGridAlone()
+{
+    OpenBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    QVERIFY(editor->styleSheet().isEmpty());
+    QVERIFY(!editor.widget("frameGrid").styleSheet().isEmpty());
+    const QWidget &grid = editor.widget("frameGrid");
+    for (const QWidget *widget : editor->findChildren<QWidget *>()) {
+        if (widget != &grid && (widget->isAncestorOf(&grid) || grid.isAncestorOf(widget)))
+            QVERIFY2(widget->styleSheet().isEmpty(), qPrintable(widget->objectName()));
+    }
+}
+
+QTEST_MAIN(TestBinGridStyle)
+#include "tst_bingrid_style.moc"
