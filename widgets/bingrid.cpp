@@ -31,6 +31,7 @@ BinGrid::BinGrid(QObject *parent)
     : QObject(parent)
 {
     m_holdTimer.setSingleShot(true);
+    m_holdTimer.setTimerType(Qt::PreciseTimer); // a coarse one may be early
     m_holdTimer.setInterval(holdTime);
     connect(&m_holdTimer, &QTimer::timeout, this, &BinGrid::holdDetected);
 }
