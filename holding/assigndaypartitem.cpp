@@ -22,6 +22,9 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
     m_ui->setupUi(this);
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     letEnterPressFocusedButton(this);
+    // Room for a name of three lines below the other details, in any font.
+    m_ui->spacerDetails->changeSize(0, 2 * fontMetrics().lineSpacing(), QSizePolicy::Minimum,
+                                    QSizePolicy::Expanding);
     fixDesignedSize(this);
     setWindowTitle(tr("Assign Product/Group"));
     loadProducts();

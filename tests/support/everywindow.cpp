@@ -9,7 +9,9 @@
 
 #include "app/aboutapp.h"
 #include "app/selectproductline.h"
+#include "holding/assigndaypartitem.h"
 #include "holding/configuration.h"
+#include "holding/daypartedit.h"
 #include "holding/groupedit.h"
 #include "holding/menufile.h"
 #include "holding/productedit.h"
@@ -37,6 +39,20 @@ std::unique_ptr<QWidget> makeProductEdit(MenuFile &editor)
 std::unique_ptr<QWidget> makeGroupEdit(MenuFile &editor)
 {
     return std::make_unique<GroupEdit>(*editor.getMenuGroups().constFirst(), &editor);
+}
+
+std::unique_ptr<QWidget> makeDaypartEdit(MenuFile &editor)
+{
+    return std::make_unique<DaypartEdit>(sameNameInAllLanguages(u"Breakfast"_s), &editor);
+}
+
+// With the first entry that fits shown in the details.
+std::unique_ptr<QWidget> makeAssignDaypartItem(MenuFile &editor)
+{
+    const QStringList splits{editor.getMenuProducts().constFirst()->get_zoneSplits()};
+    auto window = std::make_unique<AssignDaypartItem>(splits, 0, 0, 0, false, &editor);
+    ui::get<QListWidget>(*window, "listWidgetProducts").setCurrentRow(0);
+    return window;
 }
 
 std::unique_ptr<QWidget> makeEditor(MenuFile &editor)
@@ -77,6 +93,9 @@ const std::vector<WindowKind> &everyWindow()
         {"timer color", nullptr, windowmenu::fullCabinet(), makeWindow<TimerColorPicker>},
         {"group, all fields", "btnSave", windowmenu::fullCabinet(), makeGroupEdit},
         {"group, fewest fields", "btnSave", windowmenu::plainCabinet(), makeGroupEdit},
+        {"day part", "btnSave", windowmenu::fullCabinet(), makeDaypartEdit},
+        {"bin, all fields", "btnSelect", windowmenu::fullCabinet(), makeAssignDaypartItem},
+        {"bin, fewest fields", "btnSelect", windowmenu::plainCabinet(), makeAssignDaypartItem},
         {"holding editor, all fields", nullptr, windowmenu::fullCabinet(), makeEditor, true},
         {"holding editor, fewest fields", nullptr, windowmenu::plainCabinet(), makeEditor, true},
         {"lane editor, new", nullptr, windowmenu::plainCabinet(), makeLaneEditor, true},
