@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QComboBox>
+#include <QDir>
+#include <QListWidget>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include "holding/menufile.h"
+#include "tests/gui/programwindow.h"
+#include "tests/support/qhxbuilder.h"
+#include "tests/support/samplefile.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+
+/// Old binary menus, opened and saved through the main window.
+class TestOldMenus : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void opens_data();
+    void opens();
+    void showsWhatWasImported();
+    void saveAsksForANameAndKeepsTheOldFile();
+    void cancelledSaveWritesNothing();
+    void closingAsksForAName();
+    void savedMenuOpensAgain();
+    void faults_data();
+    void faults();
+    void fileThatIsNotThere();
+    void groupOfAnOldMenuCanBeEdited();
+};
+
+namespace {
+
+const QString saveCaption = u"Save JSON Menu"_s;
+const QString saveFilter = u"JSON Menu Files (*.json)"_s;
+
+QString write(const samplefile::Folder &folder, const QString &name = u"old.qhx"_s)
+{
+    return folder.write(name, qhx::sample().bytes());
+}
+
+} // namespace
+
+void TestOldMenus::opens_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"old.qhx", "OLD.QHX", "Old.Qhx", "old.json.qhx"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestOldMenus::opens()
+{
+    QFETCH(QString, name);
+    const samplefile::Folder folder;
+    ProgramWindow program;
+    ModalAnswers answers;
+    program.open(answers, write(folder, name));
+    QVERIFY(program.editor());
+    QVERIFY(program.editor()->isMenuValid());
+    QCOMPARE(program.editor()->windowTitle(), u"Menu File - "_s + name);
+    QCOMPARE(program.editor()->filePath(), QString());
+    QCOMPARE(program.subWindow()->objectName(), u"QhxMenuFile"_s);
+    QCOMPARE(program.menuCount(), 1);
+}
+
+void TestOldMenus::showsWhatWasImported()
+{
+    const samplefile::Folder folder;
+    MenuFile editor(write(folder));
+    ui::show(editor);
+    QCOMPARE(editor.getCabinetType(), u"QHX"_s);
+    QCOMPARE(editor.getCabinetModel(), u"KTR54"_s);
+    QCOMPARE(editor.getTemperatureUnit(), 1);
+    QVERIFY(!editor.getFanSpeedEnabled() && !editor.getProductIdEnabled());
+    QCOMPARE(editor.getMenuProducts().size(), 2);
+    QCOMPARE(editor.getMenuGroups().size(), 1);
+    QCOMPARE(ui::get<QListWidget>(editor, "listWidgetProducts").item(1)->text(), u"  2 Käse"_s);
+    ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(2);
+    const auto &selector = ui::get<QComboBox>(editor, "comboDaypartSelect");
+    QCOMPARE(selector.count(), 2);
+    QCOMPARE(selector.itemText(0), u"BREAKFAST"_s);
+    QCOMPARE(selector.itemText(1), u"LUNCH/DINNER"_s);
+    QVERIFY(ui::get<QAbstractButton>(editor, "checkBoxDaypartInUse").isChecked());
+    // The first bin of the file is the left one of the bottom row.
+    QCOMPARE(ui::get<QPushButton>(editor, "btnDaypartSelect4_0").text(), u"Bacon"_s);
+    QCOMPARE(ui::get<QPushButton>(editor, "btnDaypartSelectB4_1").text(), u"Bacon"_s);
+    QCOMPARE(ui::get<QPushButton>(editor, "btnDaypartSelect3_0").text(), QString());
+    ui::choose(editor, "comboDaypartSelect", u"LUNCH/DINNER"_s);
+    QVERIFY(ui::get<QAbstractButton>(editor, "checkBoxDaypartInUse").isChecked());
+    QCOMPARE(ui::get<QPushButton>(editor, "btnDaypartSelect0_0").text(), u"Meats"_s);
+}
+
+void TestOldMenus::saveAsksForANameAndKeepsTheOldFile()
+{
+    const samplefile::Folder folder;
+    const QString old = write(folder);
+    ProgramWindow program;
+    ModalAnswers answers;
+    program.open(answers, old);
+    answers.expectFileDialog(saveCaption, saveFilter, folder.path(u"new.json"_s), u""_s);
+    program.save();
+    program.activate();
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(program.editor()->filePath(), folder.path(u"new.json"_s));
+    QCOMPARE(program.editor()->windowTitle(), u"Menu File - new.json"_s);
+    program.save(); // to the same name, without asking
+    QCOMPARE(samplefile::bytesOf(old), qhx::sample().bytes());
+    QCOMPARE(samplefile::menuOf(folder.path(u"new.json"_s)).value(u"products"_s).toArray().size(), 2);
+}
+
+void TestOldMenus::cancelledSaveWritesNothing()
+{
+    const samplefile::Folder folder;
+    const QString old = write(folder);
+    ProgramWindow program;
+    ModalAnswers answers;
+    program.open(answers, old);
+    answers.expectFileDialog(saveCaption, saveFilter, {});
+    program.save();
+    QCOMPARE(program.editor()->filePath(), QString());
+    QCOMPARE(samplefile::bytesOf(old), qhx::sample().bytes());
+    QCOMPARE(QDir(QFileInfo(old).path()).entryList(QDir::Files), QStringList{u"old.qhx"_s});
+}
+
+void TestOldMenus::closingAsksForAName()
+{
+    const samplefile::Folder folder;
+    const QString old = write(folder);
+    ProgramWindow program;
+    ModalAnswers answers;
+    program.open(answers, old);
+    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
+    answers.expectFileDialog(saveCaption, saveFilter, folder.path(u"new.json"_s));
+    program.subWindow()->close();
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(samplefile::bytesOf(old), qhx::sample().bytes());
+    QVERIFY(!samplefile::menuOf(folder.path(u"new.json"_s)).isEmpty());
+}
+
+void TestOldMenus::savedMenuOpensAgain()
+{
+    const samplefile::Folder folder;
+    MenuFile imported(write(folder));
+    QVERIFY(imported.writeToFile(folder.path(u"new.json"_s)));
+    MenuFile opened(folder.path(u"new.json"_s));
+    QVERIFY(opened.isMenuValid());
+    QVERIFY(opened.writeToFile(folder.path(u"again.json"_s)));
+    QCOMPARE(samplefile::bytesOf(folder.path(u"again.json"_s)),
+             samplefile::bytesOf(folder.path(u"new.json"_s)));
+    const QJsonObject menu = samplefile::menuOf(folder.path(u"new.json"_s));
+    QCOMPARE(samplefile::binsOf(menu, 0),
+             (QList<int>{0, 0, 12, 0, 12, 0, 0, 12, 0, 12, 0, 0, 0, 0, 12, 0, 12, 0, 0, 12}));
+}
+
+void TestOldMenus::faults_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("message");
+    const auto add = [](const QString &message, const QByteArray &bytes) {
+        QTest::newRow(qPrintable(message)) << bytes << message;
+    };
+    const auto with = [](auto change) {
+        qhx::File file = qhx::sample();
+        change(file);
+        return file.bytes();
+    };
+    add(u"Invalid file header size!"_s, {});
+    add(u"Invalid file header CRC!"_s, with([](qhx::File &file) { file.brokenChecksums = {0}; }));
+    add(u"Unsupported file revision!"_s, with([](qhx::File &file) { file.revision = 6; }));
+    add(u"Invalid products count!"_s, with([](qhx::File &file) { file.count = 101; }));
+    add(u"Invalid configuration size!"_s, with([](qhx::File &file) { file.configurationOffset = 5000; }));
+    add(u"Invalid configuration CRC!"_s, with([](qhx::File &file) { file.brokenChecksums = {1}; }));
+    add(u"Invalid product size!"_s, with([](qhx::File &file) { file.entriesOffset = 0xFFFFFFFF; }));
+    add(u"Invalid product CRC!"_s, with([](qhx::File &file) { file.brokenChecksums = {4}; }));
+    add(u"Invalid daypart size!"_s, qhx::sample().bytes().chopped(1));
+    add(u"Invalid daypart CRC!"_s, with([](qhx::File &file) { file.brokenChecksums = {6}; }));
+}
+
+void TestOldMenus::faults()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, message);
+    const samplefile::Folder folder;
+    ProgramWindow program;
+    ModalAnswers answers;
+    const QString path = folder.write(u"old.qhx"_s, bytes);
+    ProgramWindow::expectOpenDialog(answers, path);
+    answers.expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
+    program.openNow();
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(program.menuCount(), 0);
+    QVERIFY(!program.area().findChild<MenuFile *>());
+    QCOMPARE(samplefile::bytesOf(path), bytes);
+}
+
+void TestOldMenus::fileThatIsNotThere()
+{
+    const samplefile::Folder folder;
+    const QString path = folder.path(u"missing.qhx"_s);
+    ModalAnswers answers;
+    answers.expectBox(ModalAnswers::fileFault(u"Failed to open the file:"_s + path), QMessageBox::Ok);
+    const MenuFile editor(path);
+    QVERIFY(!editor.isMenuValid());
+}
+
+// Its members are eight ids, the unused ones 0, and its default member may be none of them.
+void TestOldMenus::groupOfAnOldMenuCanBeEdited()
+{
+    qhx::File file = qhx::sample();
+    file.entries[2].defaultIndex = 255;
+    const samplefile::Folder folder;
+    MenuFile editor(folder.write(u"old.qhx"_s, file.bytes()));
+    ui::show(editor);
+    ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(1);
+    ModalAnswers answers;
+    answers.expect<QDialog>([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    ui::doubleClickRow(ui::get<QListWidget>(editor, "listWidgetGroups"), 0);
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(editor.getMenuGroups().constFirst()->get_productList(), (QList<int>{300, 12, 0, 0, 0, 0, 0, 0}));
+}
+
+QTEST_MAIN(TestOldMenus)
+#include "tst_oldmenus.moc"
