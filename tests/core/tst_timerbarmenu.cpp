@@ -1,0 +1,358 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QTest>
+
+#include "tests/support/sampletimerbar.h"
+#include "tests/support/warnings.h"
+#include "timerbar/menu.h"
+
+using namespace Qt::StringLiterals;
+
+class TestTimerBarMenu : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void newMenuIsEmpty();
+    void modelsAreInOrder();
+    void shapes_data();
+    void shapes();
+    void unknownModels_data();
+    void unknownModels();
+    void modelsOfShapes();
+    void daypartsAreNamed();
+    void defaultProducts();
+    void newProduct();
+    void duplicate();
+    void smallestFreeId_data();
+    void smallestFreeId();
+    void fullWithHundred();
+    void productById();
+    void removalEmptiesEveryCell();
+    void neighbours_data();
+    void neighbours();
+    void neighbourOfTheSelectedDaypart();
+    void fitting_data();
+    void fitting();
+};
+
+namespace {
+
+timerbar::Menu menuWithIds(const QList<int> &ids)
+{
+    timerbar::Menu menu;
+    for (const int id : ids)
+        menu.products.push_back(timerbar::newProduct(id));
+    return menu;
+}
+
+} // namespace
+
+void TestTimerBarMenu::newMenuIsEmpty()
+{
+    const timerbar::Menu menu;
+    QStringList expected{u"KTR22, unit 0"_s};
+    for (int index = 0; index < 6; ++index)
+        expected.append(u"100 100 100 100 / 100 100 100 100 / 100 100 100 100 / 100 100 100 100 / "_s);
+    QCOMPARE(sample::describe(menu), expected);
+}
+
+void TestTimerBarMenu::modelsAreInOrder()
+{
+    QCOMPARE(timerbar::cabinetModels(),
+             (QStringList{u"KTR22"_s, u"KTR23"_s, u"KTR24"_s, u"KTR32"_s, u"KTR34"_s, u"KTR42"_s}));
+}
+
+void TestTimerBarMenu::shapes_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("columnLayout");
+    QTest::addColumn<bool>("threeColumns");
+    QTest::addColumn<int>("bins");
+    QTest::newRow("KTR22") << 2 << 1 << false << 4;
+    QTest::newRow("KTR23") << 2 << 2 << true << 6;
+    QTest::newRow("KTR24") << 2 << 2 << false << 8;
+    QTest::newRow("KTR32") << 3 << 1 << false << 6;
+    QTest::newRow("KTR34") << 3 << 2 << false << 12;
+    QTest::newRow("KTR42") << 4 << 1 << false << 8;
+}
+
+void TestTimerBarMenu::shapes()
+{
+    QFETCH(int, rows);
+    QFETCH(int, columnLayout);
+    QFETCH(bool, threeColumns);
+    QFETCH(int, bins);
+    const timerbar::CabinetShape shape = timerbar::cabinetShape(QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(shape.rows, rows);
+    QCOMPARE(shape.columnLayout, columnLayout);
+    QCOMPARE(shape.threeColumns, threeColumns);
+    QCOMPARE(shape.columns() * rows, bins);
+    QCOMPARE(shape.bins(), bins);
+}
+
+void TestTimerBarMenu::unknownModels_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::newRow("none") << QString();
+    QTest::newRow("lower case") << u"ktr22"_s;
+    QTest::newRow("blank behind") << u"KTR22 "_s;
+    QTest::newRow("of the holding line") << u"KTR33"_s;
+    QTest::newRow("bare digits") << u"22"_s;
+}
+
+void TestTimerBarMenu::unknownModels()
+{
+    QFETCH(QString, model);
+    const timerbar::CabinetShape shape = timerbar::cabinetShape(model);
+    QCOMPARE(shape, timerbar::CabinetShape());
+    QCOMPARE(shape.rows, 0);
+    QCOMPARE(shape.columnLayout, 0);
+    QCOMPARE(shape.bins(), 0);
+}
+
+void TestTimerBarMenu::modelsOfShapes()
+{
+    const QHash<int, QString> known{{22, u"KTR22"_s}, {23, u"KTR23"_s}, {24, u"KTR24"_s},
+                                    {32, u"KTR32"_s}, {34, u"KTR34"_s}, {42, u"KTR42"_s}};
+    for (int rows = 0; rows < 256; ++rows) {
+        for (int columns = 0; columns < 256; ++columns) {
+            const QString expected = columns < 10 ? known.value(10 * rows + columns) : QString();
+            QCOMPARE(timerbar::modelOfShape(rows, columns), expected);
+        }
+    }
+}
+
+void TestTimerBarMenu::daypartsAreNamed()
+{
+    QCOMPARE(timerbar::daypartNames(), (QStringList{u"Breakfast"_s, u"ChangeOver 1"_s, u"Lunch"_s,
+                                                    u"ChangeOver 2"_s, u"Dinner"_s, u"ChangeOver 3"_s}));
+}
+
+void TestTimerBarMenu::defaultProducts()
+{
+    const QStringList expected{
+        u"0: Bacon \"BACN\" 215/215 °F 3600 s, alert 600 s"_s,
+        u"1: Biscuits \"BSCT\" 200/200 °F 3600 s, alert 1500 s"_s,
+        u"2: Hamburger Patties \"BURG\" 200/200 °F 5400 s, alert 300 s"_s,
+        u"3: Chili \"CHIL\" 190/190 °F 5400 s, alert 1500 s"_s,
+        u"4: Breaded Chicken Patties \"CKPT\" 225/225 °F 3600 s, alert 600 s"_s,
+        u"5: Chicken Nuggets \"CNUG\" 225/225 °F 3600 s, alert 600 s"_s,
+        u"6: Chicken Strips \"CSTR\" 225/225 °F 3600 s, alert 300 s"_s,
+        u"7: Eggs / Egg Patties \"EGGS\" 210/210 °F 5400 s, alert 300 s"_s,
+        u"8: Breaded Fish Fillets \"FISH\" 225/225 °F 3600 s, alert 300 s"_s,
+        u"9: Fruit Compote \"FRUT\" 190/190 °F 5400 s, alert 1500 s"_s,
+        u"10: French Toast \"FTOS\" 215/215 °F 4500 s, alert 900 s"_s,
+        u"11: Grilled Chicken \"GCHK\" 215/215 °F 5400 s, alert 600 s"_s,
+        u"12: Grilled Fish \"GFSH\" 215/215 °F 5400 s, alert 300 s"_s,
+        u"13: Gravy \"GRVY\" 190/190 °F 5400 s, alert 300 s"_s,
+        u"14: Grilled Steak \"GSTK\" 215/215 °F 5400 s, alert 600 s"_s,
+        u"15: Ham Steak \"HAM\" 215/215 °F 5400 s, alert 600 s"_s,
+        u"16: Hash Browns \"HASH\" 225/225 °F 3600 s, alert 300 s"_s,
+        u"17: Hot Dogs \"HDOG\" 225/225 °F 5400 s, alert 300 s"_s,
+        u"18: Mozzarella Sticks \"MOZZ\" 225/225 °F 3600 s, alert 300 s"_s,
+        u"19: Meat Balls \"MTBL\" 215/215 °F 5400 s, alert 1500 s"_s,
+        u"20: Meat Loaf \"MTLF\" 215/215 °F 5400 s, alert 300 s"_s,
+        u"21: Fried Mushrooms \"MUSH\" 225/225 °F 3600 s, alert 300 s"_s,
+        u"22: Pancakes \"PANC\" 225/225 °F 3600 s, alert 300 s"_s,
+        u"23: Pasta \"PAST\" 200/200 °F 5400 s, alert 1200 s"_s,
+        u"24: Poppers \"POPP\" 225/225 °F 900 s, alert 600 s"_s,
+        u"25: Product 1 \"PRD1\" 160/160 °F 3600 s, alert 600 s"_s,
+        u"26: Product 2 \"PRD2\" 170/170 °F 4200 s, alert 600 s"_s,
+        u"27: Product 3 \"PRD3\" 180/180 °F 4800 s, alert 600 s"_s,
+        u"28: Sausage Patties \"SAUS\" 215/215 °F 5400 s, alert 600 s"_s,
+        u"29: Scrambled Eggs \"SCEG\" 210/210 °F 5400 s, alert 600 s"_s,
+        u"30: Sausage Crumbles \"SSCR\" 215/215 °F 5400 s, alert 1500 s"_s,
+        u"31: Tater Tots \"TOTS\" 225/225 °F 3600 s, alert 600 s"_s,
+        u"32: Vegetables \"VEGE\" 200/200 °F 5400 s, alert 1800 s"_s,
+    };
+    timerbar::Menu menu;
+    menu.products = timerbar::defaultProducts();
+    QCOMPARE(sample::describe(menu).mid(1, 33), expected);
+    QCOMPARE(menu.products.size(), std::size_t(33));
+}
+
+void TestTimerBarMenu::newProduct()
+{
+    const auto product = timerbar::newProduct(17);
+    QCOMPARE(product->get_productId(), 17);
+    QCOMPARE(product->get_productName(), QStringList{QString()});
+    QCOMPARE(product->get_productShortName(), QString());
+    QCOMPARE(product->get_upperTemp(), 200);
+    QCOMPARE(product->get_lowerTemp(), 200);
+    QCOMPARE(product->get_holdTime(), 1800);
+    QCOMPARE(product->get_warningTime(), 300);
+    QCOMPARE(product->get_zoneSplits(), u"1/2"_s);
+}
+
+void TestTimerBarMenu::duplicate()
+{
+    ProductInfo source;
+    source.set_productId(3);
+    source.set_productLocked(true);
+    source.set_productName({u"Bacon"_s, u"Speck"_s});
+    source.set_productShortName(u"BACN"_s);
+    source.set_upperTemp(215);
+    source.set_lowerTemp(200);
+    source.set_holdTime(3661);
+    source.set_warningTime(61);
+    source.set_zoneSplits(u"1/3"_s);
+    source.set_lidType(u"Solid"_s);
+    source.set_bottomType(u"False"_s);
+    source.set_fanSpeed(60);
+    source.set_resetTime(30);
+    source.set_timerColor(u"#ff0000"_s);
+    const auto copy = timerbar::duplicateOf(source, 8);
+    QCOMPARE(copy->get_productId(), 8);
+    QCOMPARE(copy->get_productLocked(), true);
+    QCOMPARE(copy->get_productName(), source.get_productName());
+    QCOMPARE(copy->get_productShortName(), u"BACN"_s);
+    QCOMPARE(copy->get_upperTemp(), 215);
+    QCOMPARE(copy->get_lowerTemp(), 200);
+    QCOMPARE(copy->get_holdTime(), 3661);
+    QCOMPARE(copy->get_warningTime(), 61);
+    QCOMPARE(copy->get_zoneSplits(), u"1/3"_s);
+    QCOMPARE(copy->get_lidType(), u"Solid"_s);
+    QCOMPARE(copy->get_bottomType(), u"False"_s);
+    QCOMPARE(copy->get_fanSpeed(), 60);
+    QCOMPARE(copy->get_resetTime(), 30);
+    QCOMPARE(copy->get_timerColor(), u"#ff0000"_s);
+    QCOMPARE(source.get_productId(), 3);
+}
+
+void TestTimerBarMenu::smallestFreeId_data()
+{
+    QTest::addColumn<QList<int>>("ids");
+    QTest::addColumn<int>("free");
+    QTest::newRow("none") << QList<int>{} << 0;
+    QTest::newRow("0 free") << QList<int>{1, 2} << 0;
+    QTest::newRow("behind the last") << QList<int>{0, 1, 2} << 3;
+    QTest::newRow("gap") << QList<int>{0, 1, 3} << 2;
+    QTest::newRow("in any order") << QList<int>{3, 0, 2, 1, 5} << 4;
+    QTest::newRow("repeated") << QList<int>{0, 0, 1, 1} << 2;
+}
+
+void TestTimerBarMenu::smallestFreeId()
+{
+    QFETCH(QList<int>, ids);
+    QFETCH(int, free);
+    QCOMPARE(menuWithIds(ids).nextFreeId(), free);
+}
+
+void TestTimerBarMenu::fullWithHundred()
+{
+    timerbar::Menu menu = menuWithIds(QList<int>(98, 0));
+    QVERIFY(!menu.isFull());
+    menu.products.push_back(timerbar::newProduct(1));
+    QVERIFY(!menu.isFull());
+    menu.products.push_back(timerbar::newProduct(2));
+    QVERIFY(menu.isFull());
+}
+
+void TestTimerBarMenu::productById()
+{
+    const timerbar::Menu menu = menuWithIds({4, 0, 7, 4});
+    QCOMPARE(menu.product(4), menu.products[0].get()); // the first in the list's order
+    QCOMPARE(menu.product(7), menu.products[2].get());
+    QVERIFY(!menu.product(1));
+    QVERIFY(!menu.product(timerbar::emptyCell));
+}
+
+void TestTimerBarMenu::removalEmptiesEveryCell()
+{
+    timerbar::Menu menu = menuWithIds({1, 2});
+    menu.dayparts[0][0] = {1, 2, 1, 100};
+    menu.dayparts[2][3] = {1, 100, 100, 1}; // beyond the model
+    menu.dayparts[5][1] = {2, 2, 1, 2};
+    QVERIFY(menu.removeFromDayparts(1));
+    using Row = std::array<int, 4>;
+    QCOMPARE(menu.dayparts[0][0], (Row{100, 2, 100, 100}));
+    QCOMPARE(menu.dayparts[2][3], (Row{100, 100, 100, 100}));
+    QCOMPARE(menu.dayparts[5][1], (Row{2, 2, 100, 2}));
+    const QStringList before = sample::describe(menu);
+    QVERIFY(!menu.removeFromDayparts(1));
+    QVERIFY(!menu.removeFromDayparts(7));
+    QCOMPARE(sample::describe(menu), before);
+}
+
+void TestTimerBarMenu::neighbours_data()
+{
+    using Row = QList<int>;
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QList<int>>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("upper"); // the products' temperatures are 100 + id and 200 + id
+    QTest::addColumn<int>("lower");
+    QTest::newRow("left of a product") << u"KTR22"_s << Row{100, 1, 100, 100} << 0 << 101 << 201;
+    QTest::newRow("right of a product") << u"KTR22"_s << Row{2, 100, 100, 100} << 1 << 102 << 202;
+    QTest::newRow("empty neighbour") << u"KTR22"_s << Row{1, 100, 100, 100} << 0 << 0 << 0;
+    QTest::newRow("the bin's own product does not count")
+        << u"KTR22"_s << Row{1, 2, 100, 100} << 1 << 101 << 201;
+    QTest::newRow("unknown product") << u"KTR22"_s << Row{77, 100, 100, 100} << 1 << 0 << 0;
+    QTest::newRow("second pair, left") << u"KTR24"_s << Row{1, 1, 100, 2} << 2 << 102 << 202;
+    QTest::newRow("second pair, right") << u"KTR24"_s << Row{1, 1, 3, 2} << 3 << 103 << 203;
+    QTest::newRow("pairs are apart") << u"KTR34"_s << Row{1, 1, 100, 100} << 2 << 0 << 0;
+    QTest::newRow("first pair is apart too") << u"KTR34"_s << Row{100, 100, 2, 3} << 1 << 0 << 0;
+    QTest::newRow("single bin of a pair") << u"KTR23"_s << Row{1, 1, 100, 100} << 2 << 0 << 0;
+}
+
+void TestTimerBarMenu::neighbours()
+{
+    QFETCH(QString, model);
+    QFETCH(QList<int>, row);
+    QFETCH(int, column);
+    QFETCH(int, upper);
+    QFETCH(int, lower);
+    timerbar::Menu menu = menuWithIds({1, 2, 3});
+    menu.model = model;
+    for (const auto &product : menu.products) {
+        product->set_upperTemp(100 + product->get_productId());
+        product->set_lowerTemp(200 + product->get_productId());
+    }
+    std::copy(row.begin(), row.end(), menu.dayparts[4][1].begin());
+    const timerbar::ReferenceTemperatures expected{upper, lower};
+    QCOMPARE(timerbar::neighbourTemperatures(menu, 4, 1, column), expected);
+}
+
+void TestTimerBarMenu::neighbourOfTheSelectedDaypart()
+{
+    timerbar::Menu menu = menuWithIds({1});
+    menu.dayparts[0][0][1] = 1;
+    QCOMPARE(timerbar::neighbourTemperatures(menu, 0, 0, 0), (timerbar::ReferenceTemperatures{200, 200}));
+    QCOMPARE(timerbar::neighbourTemperatures(menu, 1, 0, 0), timerbar::ReferenceTemperatures());
+    QCOMPARE(timerbar::neighbourTemperatures(menu, 0, 1, 0), timerbar::ReferenceTemperatures());
+}
+
+void TestTimerBarMenu::fitting_data()
+{
+    QTest::addColumn<int>("upper");
+    QTest::addColumn<int>("lower");
+    QTest::addColumn<int>("referenceUpper");
+    QTest::addColumn<int>("referenceLower");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("no neighbour") << 215 << 200 << 0 << 0 << true;
+    QTest::newRow("no neighbour by its upper temperature alone") << 215 << 200 << 0 << 180 << true;
+    QTest::newRow("same") << 215 << 215 << 215 << 215 << true;
+    QTest::newRow("upper differs") << 216 << 215 << 215 << 215 << false;
+    QTest::newRow("lower differs") << 215 << 214 << 215 << 215 << false;
+    QTest::newRow("the reference's upper one is not compared") << 200 << 200 << 215 << 200 << true;
+    QTest::newRow("not even by the same product") << 215 << 200 << 215 << 200 << false;
+}
+
+void TestTimerBarMenu::fitting()
+{
+    QFETCH(int, upper);
+    QFETCH(int, lower);
+    QFETCH(int, referenceUpper);
+    QFETCH(int, referenceLower);
+    QFETCH(bool, fits);
+    ProductInfo product;
+    product.set_upperTemp(upper);
+    product.set_lowerTemp(lower);
+    QCOMPARE(timerbar::fitsNeighbour(product, {referenceUpper, referenceLower}), fits);
+}
+
+QTEST_APPLESS_MAIN(TestTimerBarMenu)
+#include "tst_timerbarmenu.moc"
