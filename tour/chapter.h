@@ -36,6 +36,22 @@ protected:
     };
 
     [[nodiscard]] QMdiSubWindow *activeSubWindow() const;
+    /// The active sub-window's editor; null for none or another line's.
+    template <typename Editor>
+    [[nodiscard]] Editor *activeEditor() const
+    {
+        return qobject_cast<Editor *>(activeWidget());
+    }
+    /// Brings a tab of the active editor to the front.
+    void clickTab(int index);
+    /// Chooses a product line for a new menu; the line's own question has to be expected behind it.
+    static void expectProductLine(Answers &answers, const QString &name);
+    void openFile(const QString &path);
+    void saveFileAs(const QString &caption, const QString &filter, const QString &path);
+    /// Closes the active sub-window, answering its question.
+    void closeEditor(QMessageBox::StandardButton answer);
+    /// Holds the mouse on a button of the grid until removal mode is on.
+    void holdBin(const char *button);
     /// The bytes of a file; a file that cannot be read fails the step.
     [[nodiscard]] static QByteArray contents(const QString &path);
 
@@ -44,6 +60,8 @@ private slots:
     void cleanup();
 
 private:
+    [[nodiscard]] QWidget *activeWidget() const;
+
     MainWindow &m_window;
     Album &m_album;
     bool m_failed = false;

@@ -10,10 +10,7 @@
 #include <QListWidget>
 #include <QMdiSubWindow>
 #include <QPushButton>
-#include <QTabBar>
-#include <QTabWidget>
 
-#include "app/selectproductline.h"
 #include "holding/configuration.h"
 #include "holding/groupedit.h"
 #include "holding/menufile.h"
@@ -26,8 +23,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString jsonFilter = u"JSON Menu Files (*.json)"_s;
-const QString openFilter = u"Varno Menu Files (*.json *.qhx *.txt *.cbr);;QHX Json Menu Files (*.json);;"
-                           "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"_s;
 
 QJsonObject elementById(const QJsonArray &array, QLatin1StringView idKey, int id)
 {
@@ -42,24 +37,13 @@ QJsonObject elementById(const QJsonArray &array, QLatin1StringView idKey, int id
 
 MenuFile *HoldingChapter::editor() const
 {
-    const QMdiSubWindow *subWindow = activeSubWindow();
-    return subWindow ? qobject_cast<MenuFile *>(subWindow->widget()) : nullptr;
-}
-
-void HoldingChapter::clickTab(int index)
-{
-    auto &tabs = ui::get<QTabWidget>(*editor(), "tabWidget");
-    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(index).center());
-    QCOMPARE(tabs.currentIndex(), index);
+    return activeEditor<MenuFile>();
 }
 
 void HoldingChapter::createMenu()
 {
     Answers answers(*this);
-    answers.expect<SelectProductLine>([](SelectProductLine &dialog) {
-        ui::choose(dialog, "comboProductLineSelect", u"QHX/ZPV"_s);
-        ui::click(dialog, "btnAccept");
-    });
+    expectProductLine(answers, u"QHX/ZPV"_s);
     answers.expect<Configuration>([this](Configuration &dialog) {
         ui::choose(dialog, "comboUnitType", u"QHX"_s);
         ui::choose(dialog, "comboUnitModel", u"KTR34"_s);
@@ -146,10 +130,7 @@ void HoldingChapter::buildGroup()
 
 void HoldingChapter::saveAs(const QString &path)
 {
-    Answers answers(*this);
-    answers.expectFileDialog(u"Save As JSON Menu"_s, jsonFilter, path);
-    ui::clickMenu(window(), "menuFile", "actionSaveAs");
-    QCOMPARE(editor()->filePath(), path);
+    saveFileAs(u"Save As JSON Menu"_s, jsonFilter, path);
 }
 
 void HoldingChapter::saveMenu()
@@ -184,21 +165,10 @@ void HoldingChapter::findEverythingInTheFile()
     QCOMPARE(group["defaultProd"_L1].toInt(), 1);
 }
 
-void HoldingChapter::closeEditor(QMessageBox::StandardButton answer)
-{
-    Answers answers(*this);
-    answers.expectBox(ModalAnswers::saveQuestion(), answer);
-    QTest::keyClick(editor(), Qt::Key_Escape);
-    QVERIFY(QTest::qWaitFor([this] { return !activeSubWindow(); }));
-}
-
 void HoldingChapter::closeAndReopen()
 {
     closeEditor(QMessageBox::No);
-    Answers answers(*this);
-    answers.expectFileDialog(u"Open JSON Menu"_s, openFilter, filePath(u"menu.json"_s));
-    ui::clickMenu(window(), "menuFile", "actionOpen");
-    QVERIFY(editor());
+    openFile(filePath(u"menu.json"_s));
     QCOMPARE(editor()->windowTitle(), u"Menu File - menu.json"_s);
     ui::clickRow(ui::get<QListWidget>(*editor(), "listWidgetProducts"), 0);
     shot(u"menu-reopened"_s);

@@ -33,8 +33,5 @@ private slots:
 
 private:
     [[nodiscard]] MenuFile *editor() const;
-    void clickTab(int index);
-    /// Closes the active sub-window, answering its question.
-    void closeEditor(QMessageBox::StandardButton answer);
     void saveAs(const QString &path);
 };

@@ -9,8 +9,11 @@
 #include <QTest>
 
 #include "app/mainwindow.h"
+#include "tour/grid.h"
 #include "tour/holding.h"
+#include "tour/lanes.h"
 #include "tour/shell.h"
+#include "tour/timerbar.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +29,10 @@ bool runChapters(MainWindow &window, Album &album)
 {
     ShellChapter shell(window, album);
     HoldingChapter holding(window, album);
-    for (Chapter *chapter : {static_cast<Chapter *>(&shell), static_cast<Chapter *>(&holding)}) {
+    GridChapter grid(window, album);
+    TimerBarChapter timerBar(window, album);
+    LanesChapter lanes(window, album);
+    for (Chapter *chapter : std::initializer_list<Chapter *>{&shell, &holding, &grid, &timerBar, &lanes}) {
         if (QTest::qExec(chapter, {u"tour"_s, u"-nocrashhandler"_s}) != 0)
             return false;
     }

@@ -65,7 +65,7 @@ signals:
 private:
     struct Place
     {
-        QPushButton *button;
+        QPushButton *button = nullptr;
         Bin bin;
     };
     [[nodiscard]] std::optional<Bin> binOf(const QPushButton *button) const;
