@@ -14,6 +14,7 @@
 #include "tests/support/lanefile.h"
 #include "tests/support/modalanswers.h"
 #include "tests/support/pseudotranslation.h"
+#include "tests/support/qhxbuilder.h"
 #include "tests/support/shownwidgets.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
@@ -40,9 +41,13 @@ private slots:
     void laneFaultsAreTranslated_data();
     void laneFaultsAreTranslated();
     void laneFilesStayTheSame();
+    void importFaultsAreTranslated_data();
+    void importFaultsAreTranslated();
     void workingIsTranslatedAndFilesStayTheSame();
 
 private:
+    void checkFault(const QString &name, const QByteArray &content);
+
     PseudoTranslator m_translator;
     QStringList m_names; ///< held in the menus
 };
@@ -89,9 +94,42 @@ void TestPseudoTranslation::readerFaultsAreTranslated_data()
 void TestPseudoTranslation::readerFaultsAreTranslated()
 {
     QFETCH(const QByteArray, content);
+    checkFault(u"menu.json"_s, content);
+}
+
+void TestPseudoTranslation::importFaultsAreTranslated_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const auto add = [](const char *what, auto change) {
+        qhx::File file = qhx::sample();
+        change(file);
+        QTest::newRow(what) << file.bytes();
+    };
+    QTest::newRow("no file") << QByteArray();
+    QTest::newRow("no header") << QByteArray("short");
+    add("header", [](qhx::File &file) { file.brokenChecksums = {0}; });
+    add("revision", [](qhx::File &file) { file.revision = 4; });
+    add("count", [](qhx::File &file) { file.count = 101; });
+    add("no configuration", [](qhx::File &file) { file.configurationOffset = 9999; });
+    add("configuration", [](qhx::File &file) { file.brokenChecksums = {1}; });
+    add("no product", [](qhx::File &file) { file.entriesOffset = 9999; });
+    add("product", [](qhx::File &file) { file.brokenChecksums = {2}; });
+    add("no day part", [](qhx::File &file) { file.daypartsOffset = 9999; });
+    add("day part", [](qhx::File &file) { file.brokenChecksums = {5}; });
+}
+
+void TestPseudoTranslation::importFaultsAreTranslated()
+{
+    QFETCH(const QByteArray, content);
+    checkFault(u"menu.qhx"_s, content);
+}
+
+// Opens a menu of this content, or none for an empty one.
+void TestPseudoTranslation::checkFault(const QString &name, const QByteArray &content)
+{
     QApplication::installTranslator(&m_translator);
     const QTemporaryDir folder;
-    QFile file(folder.filePath(u"menu.json"_s));
+    QFile file(folder.filePath(name));
     if (!content.isEmpty())
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush());
     ModalAnswers answers;

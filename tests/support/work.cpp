@@ -14,7 +14,9 @@
 
 #include "app/aboutapp.h"
 #include "app/selectproductline.h"
+#include "holding/assigndaypartitem.h"
 #include "holding/configuration.h"
+#include "holding/daypartedit.h"
 #include "holding/groupedit.h"
 #include "holding/menufile.h"
 #include "holding/menujson.h"
@@ -182,6 +184,52 @@ void Work::editGroup()
     look(editor());
 }
 
+void Work::fillBins()
+{
+    showTab(2);
+    look(editor());
+    expectDialog<AssignDaypartItem>([this](AssignDaypartItem &dialog) {
+        ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 4);
+        look(dialog);
+        ui::click(dialog, "btnSelect");
+    });
+    ui::click(editor(), "btnDaypartSelect1_0");
+    look(editor());
+}
+
+void Work::clearBins()
+{
+    auto &bin = ui::get<QPushButton>(editor(), "btnDaypartSelect1_0");
+    QTest::mousePress(&bin, Qt::LeftButton);
+    QTRY_VERIFY(bin.isCheckable());
+    QTest::mouseRelease(&bin, Qt::LeftButton);
+    look(editor());
+    ui::click(editor(), "btnDaypartRemove");
+}
+
+void Work::manageDayparts()
+{
+    const auto expectName = [this](const QString &name) {
+        expectDialog<DaypartEdit>([name](DaypartEdit &dialog) {
+            ui::type(dialog, "txtName", name);
+            ui::click(dialog, "btnSave");
+        });
+    };
+    expectName({});
+    expectBox(QMessageBox::Close);
+    ui::click(editor(), "btnAddDaypart");
+    for (int count = 2; count < holding::maxDayparts; ++count) {
+        expectName(u"Soup"_s);
+        ui::click(editor(), "btnAddDaypart");
+    }
+    expectBox(QMessageBox::Close); // no room for more
+    ui::click(editor(), "btnAddDaypart");
+    expectName(u"Soups"_s);
+    ui::click(editor(), "btnEditDaypart");
+    expectBox(QMessageBox::Yes);
+    ui::click(editor(), "btnDeleteDaypart");
+}
+
 void Work::deleteEntries(const char *select, const char *remove, const char *listName)
 {
     ui::clickRow(list(listName), 0);
@@ -239,6 +287,10 @@ QList<QByteArray> Work::run()
     addGroup();
     saveNew();
     openSample();
+    fillBins();
+    clearBins();
+    manageDayparts();
+    fillBins();
     editProduct(0); // in the group and in a bin
     editProduct(1); // in the group alone
     editProduct(2); // in a bin alone

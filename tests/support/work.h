@@ -54,6 +54,9 @@ private:
     void openSample();
     void editProduct(int row);
     void editGroup();
+    void fillBins();
+    void clearBins();
+    void manageDayparts();
     void deleteEntries(const char *select, const char *remove, const char *list);
     void changeModel();
     void fillUp();
