@@ -3,6 +3,8 @@
 
 #include "holding/menufile.h"
 
+#include <algorithm>
+
 #include <QSignalBlocker>
 #include <QTime>
 
@@ -167,7 +169,8 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
         if (!button)
             continue;
         const int id = daypart.bins[static_cast<std::size_t>(row)][slot];
-        button->setMinimumWidth(looks[slot].minimumWidth);
+        // What another cabinet left in the one-bin zone may ask for more than that zone has.
+        button->setMinimumWidth(std::min(looks[slot].minimumWidth, button->parentWidget()->maximumWidth()));
         m_grid.showContent(bin, binText(content[slot], id));
         button->setToolTip(binToolTip(content[slot].entry, m_menu.configuration));
         button->setVisible(looks[slot].visible);

@@ -190,8 +190,11 @@ void TestBinGrid::everyModelInEverySplit()
     const int perRow = secondZone > 0 ? 4 : firstZone;
     for (const int id : {0, 1, 2, 3, 4}) {
         QList<int> ids(rows * perRow, 0);
-        for (int row = 0; row < rows; ++row)
+        for (int row = 0; row < rows; ++row) {
             ids[row * perRow] = id;
+            if (secondZone > 0)
+                ids[row * perRow + firstZone] = id; // in the one-bin zone too, as another cabinet left it
+        }
         OpenBins editor(bins::menuOf(model, ids));
         int bottom = -1;
         for (int row = 0; row < rows; ++row) {
