@@ -17,7 +17,7 @@ constexpr int grey = 0xa0a0a0;
 
 struct Shade
 {
-    int color;
+    int color = noColor;
     int text = black;
 };
 

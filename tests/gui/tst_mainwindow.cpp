@@ -57,7 +57,7 @@ void TestMainWindow::windowIsAsDesigned()
         QVERIFY2(window.findChild<QWidget *>(QString::fromLatin1(name)), name);
     const QIcon icon = window.windowIcon();
     QVERIFY(icon.availableSizes().contains(QSize(16, 16)));
-    QVERIFY(icon.availableSizes().contains(QSize(256, 256)));
+    QVERIFY(icon.availableSizes().contains(QSize(128, 128)));
 }
 
 void TestMainWindow::documentAreaIsAsDesigned()
