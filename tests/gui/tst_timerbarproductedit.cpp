@@ -1,0 +1,353 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/gui/edittimerbarproduct.h"
+#include "tests/support/slotlist.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+
+class TestTimerBarProductEdit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void slotsAreInOrder();
+    void formShowsItsTexts_data();
+    void formShowsItsTexts();
+    void fieldsShowTheProduct();
+    void fieldsShowTheProductInCelsius();
+    void oddValuesAreClamped_data();
+    void oddValuesAreClamped();
+    void faultsComeInOrder();
+    void holdTimes_data();
+    void holdTimes();
+    void alertTimes_data();
+    void alertTimes();
+    void secondsCountForTheAlertOnly();
+    void everythingIsSaved();
+    void celsiusIsStoredInFahrenheit_data();
+    void celsiusIsStoredInFahrenheit();
+    void lowTemperaturesAreNoticed_data();
+    void lowTemperaturesAreNoticed();
+    void lowCelsiusIsNoticed();
+    void leavingChangesNothing_data();
+    void leavingChangesNothing();
+    void enterSaves();
+};
+
+namespace {
+
+const QString notice = u"Temperature values less than 155°F are supported in cabinet IO software version "
+                       "1.6.2 or newer"_s;
+
+using Editing = TimerBarProductEditing;
+
+} // namespace
+
+void TestTimerBarProductEdit::slotsAreInOrder()
+{
+    QCOMPARE(ownSlots(TimerBarProductEdit::staticMetaObject),
+             (QStringList{u"on_btnCancel_clicked()"_s, u"on_btnSave_clicked()"_s,
+                          u"on_txtShortName_textChanged(QString arg1)"_s,
+                          u"on_txtProductName_textChanged(QString arg1)"_s}));
+}
+
+void TestTimerBarProductEdit::formShowsItsTexts_data()
+{
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<int>("least");
+    QTest::addColumn<int>("most");
+    QTest::newRow("Fahrenheit") << 0 << u"(°F)"_s << 100 << 225;
+    QTest::newRow("Celsius") << 1 << u"(°C)"_s << 38 << 107;
+    QTest::newRow("any other unit") << 7 << u"(°F)"_s << 100 << 225;
+}
+
+void TestTimerBarProductEdit::formShowsItsTexts()
+{
+    QFETCH(int, unit);
+    QFETCH(QString, suffix);
+    QFETCH(int, least);
+    QFETCH(int, most);
+    const Editing editing(unit);
+    QCOMPARE(editing.dialog->windowTitle(), u"Product Edit"_s);
+    QCOMPARE(editing.get<QLabel>("lblTempUpper").text(), QString(u"Upper Temperature "_s + suffix));
+    QCOMPARE(editing.get<QLabel>("lblTempLower").text(), QString(u"Lower Temperature "_s + suffix));
+    for (const char *name : {"numTempUpper", "numTempLower"}) {
+        QCOMPARE(editing.get<QSpinBox>(name).minimum(), least);
+        QCOMPARE(editing.get<QSpinBox>(name).maximum(), most);
+    }
+    for (const char *name : {"timeHoldTime", "timeWarningTime"})
+        QCOMPARE(editing.get<QTimeEdit>(name).displayFormat(), u"HH:mm"_s);
+    QCOMPARE(editing.get<QLineEdit>("txtProductName").maxLength(), 25);
+    QCOMPARE(editing.get<QLineEdit>("txtShortName").maxLength(), 4);
+    QCOMPARE(editing.dialog->minimumSize(), editing.dialog->maximumSize());
+    QVERIFY(editing.get<QLineEdit>("txtProductName").hasFocus());
+}
+
+void TestTimerBarProductEdit::fieldsShowTheProduct()
+{
+    const Editing editing;
+    QCOMPARE(editing.get<QLineEdit>("txtProductName").text(), u"Bacon"_s);
+    QCOMPARE(editing.get<QLineEdit>("txtShortName").text(), u"BACN"_s);
+    QCOMPARE(editing.get<QSpinBox>("numTempUpper").value(), 215);
+    QCOMPARE(editing.get<QSpinBox>("numTempLower").value(), 200);
+    QCOMPARE(editing.get<QTimeEdit>("timeHoldTime").time(), QTime(1, 0));
+    QCOMPARE(editing.get<QTimeEdit>("timeWarningTime").time(), QTime(0, 10));
+}
+
+void TestTimerBarProductEdit::fieldsShowTheProductInCelsius()
+{
+    const Editing editing(1);
+    QCOMPARE(editing.get<QSpinBox>("numTempUpper").value(), 102);
+    QCOMPARE(editing.get<QSpinBox>("numTempLower").value(), 93);
+}
+
+void TestTimerBarProductEdit::oddValuesAreClamped_data()
+{
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<int>("fahrenheit");
+    QTest::addColumn<int>("shown");
+    QTest::newRow("none in °F") << 0 << 0 << 100;
+    QTest::newRow("99 °F") << 0 << 99 << 100;
+    QTest::newRow("354 °F") << 0 << 354 << 225;
+    QTest::newRow("none in °C") << 1 << 0 << 38;
+    QTest::newRow("99 °F in °C") << 1 << 99 << 38;
+    QTest::newRow("354 °F in °C") << 1 << 354 << 107;
+}
+
+void TestTimerBarProductEdit::oddValuesAreClamped()
+{
+    QFETCH(int, unit);
+    QFETCH(int, fahrenheit);
+    QFETCH(int, shown);
+    const Editing editing(unit, [fahrenheit](ProductInfo &product) {
+        product.set_upperTemp(fahrenheit);
+        product.set_lowerTemp(fahrenheit);
+    });
+    QCOMPARE(editing.get<QSpinBox>("numTempUpper").value(), shown);
+    QCOMPARE(editing.get<QSpinBox>("numTempLower").value(), shown);
+}
+
+void TestTimerBarProductEdit::faultsComeInOrder()
+{
+    Editing editing;
+    ui::type(*editing.dialog, "txtProductName", {});
+    ui::type(*editing.dialog, "txtShortName", {});
+    editing.enterTime("timeHoldTime", 0, 5);
+    editing.enterTime("timeWarningTime", 9, 0);
+    editing.saveRefused(u"Product name is empty!"_s);
+    ui::type(*editing.dialog, "txtProductName", u"Ham"_s);
+    editing.saveRefused(u"Product short name is empty!"_s);
+    ui::type(*editing.dialog, "txtShortName", u"ham"_s);
+    editing.saveRefused(u"Invalid hold time. Minimum value is 6 minutes!"_s);
+    editing.enterTime("timeHoldTime", 8, 1);
+    editing.saveRefused(u"Invalid hold time. Maximum value is 8 hours!"_s);
+    editing.enterTime("timeHoldTime", 8, 0);
+    editing.saveRefused(u"Invalid cook more alert time. Value must be less than hold time!"_s);
+    editing.enterTime("timeWarningTime", 7, 59);
+    editing.saveAccepted();
+    QCOMPARE(editing.record(), (QStringList{u"Ham"_s, u"ham"_s, u"215"_s, u"200"_s, u"28800"_s, u"28740"_s}));
+}
+
+void TestTimerBarProductEdit::holdTimes_data()
+{
+    QTest::addColumn<QTime>("time");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("00:00") << QTime(0, 0) << u"Invalid hold time. Minimum value is 6 minutes!"_s;
+    QTest::newRow("00:05") << QTime(0, 5) << u"Invalid hold time. Minimum value is 6 minutes!"_s;
+    QTest::newRow("00:06") << QTime(0, 6) << QString();
+    QTest::newRow("08:00") << QTime(8, 0) << QString();
+    QTest::newRow("08:01") << QTime(8, 1) << u"Invalid hold time. Maximum value is 8 hours!"_s;
+    QTest::newRow("23:59") << QTime(23, 59) << u"Invalid hold time. Maximum value is 8 hours!"_s;
+}
+
+void TestTimerBarProductEdit::holdTimes()
+{
+    QFETCH(QTime, time);
+    QFETCH(QString, message);
+    Editing editing(0, [](ProductInfo &product) { product.set_warningTime(0); });
+    editing.enterTime("timeHoldTime", time.hour(), time.minute());
+    if (!message.isEmpty()) {
+        editing.saveRefused(message);
+        return;
+    }
+    editing.saveAccepted();
+    QCOMPARE(editing.product.get_holdTime(), QTime(0, 0).secsTo(time));
+}
+
+void TestTimerBarProductEdit::alertTimes_data()
+{
+    QTest::addColumn<int>("minutes");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("none") << 0 << true;
+    QTest::newRow("one minute less than the hold time") << 29 << true;
+    QTest::newRow("the hold time") << 30 << false;
+    QTest::newRow("more") << 31 << false;
+}
+
+void TestTimerBarProductEdit::alertTimes()
+{
+    QFETCH(int, minutes);
+    QFETCH(bool, accepted);
+    Editing editing(0, [](ProductInfo &product) { product.set_holdTime(1800); });
+    editing.enterTime("timeWarningTime", 0, minutes);
+    if (!accepted) {
+        editing.saveRefused(u"Invalid cook more alert time. Value must be less than hold time!"_s);
+        return;
+    }
+    editing.saveAccepted();
+    QCOMPARE(editing.product.get_warningTime(), minutes * 60);
+}
+
+// A record's seconds stay in both fields, unseen.
+void TestTimerBarProductEdit::secondsCountForTheAlertOnly()
+{
+    Editing kept(0, [](ProductInfo &product) {
+        product.set_holdTime(3659);
+        product.set_warningTime(659);
+    });
+    kept.saveAccepted();
+    QCOMPARE(kept.product.get_holdTime(), 3600);
+    QCOMPARE(kept.product.get_warningTime(), 659);
+    Editing refused(0, [](ProductInfo &product) {
+        product.set_holdTime(659);
+        product.set_warningTime(601);
+    });
+    refused.saveRefused(u"Invalid cook more alert time. Value must be less than hold time!"_s);
+    Editing tooShort(0, [](ProductInfo &product) {
+        product.set_holdTime(359);
+        product.set_warningTime(0);
+    });
+    tooShort.saveRefused(u"Invalid hold time. Minimum value is 6 minutes!"_s);
+    Editing longest(0, [](ProductInfo &product) { product.set_holdTime(8 * 3600 + 59); });
+    longest.saveAccepted();
+    QCOMPARE(longest.product.get_holdTime(), 8 * 3600);
+}
+
+void TestTimerBarProductEdit::everythingIsSaved()
+{
+    Editing editing(0, [](ProductInfo &product) {
+        product.set_productName({u"Bacon"_s, u"Speck"_s});
+        product.set_productId(9);
+        product.set_fanSpeed(60);
+    });
+    ui::type(*editing.dialog, "txtProductName", u"Turkey Leg 2"_s);
+    ui::type(*editing.dialog, "txtShortName", u"tUr2"_s);
+    ui::type(*editing.dialog, "numTempUpper", u"225"_s);
+    ui::type(*editing.dialog, "numTempLower", u"155"_s);
+    editing.enterTime("timeHoldTime", 2, 30);
+    editing.enterTime("timeWarningTime", 1, 15);
+    editing.saveAccepted();
+    QCOMPARE(editing.record(),
+             (QStringList{u"Turkey Leg 2"_s, u"tUr2"_s, u"225"_s, u"155"_s, u"9000"_s, u"4500"_s}));
+    QCOMPARE(editing.product.get_productId(), 9);
+    QCOMPARE(editing.product.get_fanSpeed(), 60);
+}
+
+void TestTimerBarProductEdit::celsiusIsStoredInFahrenheit_data()
+{
+    QTest::addColumn<int>("celsius");
+    QTest::addColumn<int>("fahrenheit");
+    QTest::newRow("69") << 69 << 156;
+    QTest::newRow("93") << 93 << 199;
+    QTest::newRow("100") << 100 << 212;
+    QTest::newRow("102") << 102 << 216;
+    QTest::newRow("107") << 107 << 225;
+}
+
+void TestTimerBarProductEdit::celsiusIsStoredInFahrenheit()
+{
+    QFETCH(int, celsius);
+    QFETCH(int, fahrenheit);
+    Editing editing(1);
+    ui::type(*editing.dialog, "numTempUpper", QString::number(celsius));
+    ui::type(*editing.dialog, "numTempLower", QString::number(celsius));
+    editing.saveAccepted();
+    QCOMPARE(editing.product.get_upperTemp(), fahrenheit);
+    QCOMPARE(editing.product.get_lowerTemp(), fahrenheit);
+}
+
+void TestTimerBarProductEdit::lowTemperaturesAreNoticed_data()
+{
+    QTest::addColumn<int>("upper");
+    QTest::addColumn<int>("lower");
+    QTest::addColumn<bool>("noticed");
+    QTest::newRow("both 155") << 155 << 155 << false;
+    QTest::newRow("upper 154") << 154 << 155 << true;
+    QTest::newRow("lower 154") << 155 << 154 << true;
+    QTest::newRow("both 100, one box") << 100 << 100 << true;
+}
+
+void TestTimerBarProductEdit::lowTemperaturesAreNoticed()
+{
+    QFETCH(int, upper);
+    QFETCH(int, lower);
+    QFETCH(bool, noticed);
+    Editing editing;
+    ui::type(*editing.dialog, "numTempUpper", QString::number(upper));
+    ui::type(*editing.dialog, "numTempLower", QString::number(lower));
+    ModalAnswers answers;
+    if (noticed)
+        answers.expectBox(ModalAnswers::removalWarning(notice), QMessageBox::Ok);
+    editing.saveAccepted();
+    QCOMPARE(editing.product.get_upperTemp(), upper);
+    QCOMPARE(editing.product.get_lowerTemp(), lower);
+}
+
+void TestTimerBarProductEdit::lowCelsiusIsNoticed()
+{
+    Editing editing(1);
+    ui::type(*editing.dialog, "numTempLower", u"68"_s);
+    ui::type(*editing.dialog, "txtProductName", u"Ham"_s);
+    ModalAnswers answers;
+    answers.expect<QMessageBox>([&editing](QMessageBox &box) {
+        QCOMPARE(box.text(), notice);
+        QCOMPARE(editing.product.get_productName(), QStringList{u"Ham"_s}); // stored by then
+        QTest::keyClick(&box, Qt::Key_Escape);                              // a notice only
+    });
+    editing.saveAccepted();
+    QCOMPARE(editing.product.get_lowerTemp(), 154);
+}
+
+void TestTimerBarProductEdit::leavingChangesNothing_data()
+{
+    QTest::addColumn<bool>("escape");
+    QTest::newRow("Cancel") << false;
+    QTest::newRow("Escape") << true;
+}
+
+void TestTimerBarProductEdit::leavingChangesNothing()
+{
+    QFETCH(bool, escape);
+    Editing editing(1);
+    const QStringList before = editing.record();
+    ui::type(*editing.dialog, "txtProductName", u"Ham"_s);
+    ui::type(*editing.dialog, "txtShortName", u"HAM"_s);
+    ui::type(*editing.dialog, "numTempUpper", u"40"_s);
+    ui::type(*editing.dialog, "numTempLower", u"40"_s);
+    editing.enterTime("timeHoldTime", 2, 30);
+    editing.enterTime("timeWarningTime", 1, 15);
+    editing.dialog->setResult(1);
+    if (escape)
+        QTest::keyClick(editing.dialog.get(), Qt::Key_Escape);
+    else
+        ui::click(*editing.dialog, "btnCancel");
+    QVERIFY(editing.dialog->isHidden());
+    QCOMPARE(editing.dialog->result(), 0);
+    QCOMPARE(editing.record(), before);
+}
+
+void TestTimerBarProductEdit::enterSaves()
+{
+    Editing editing;
+    QTest::keyClicks(editing.dialog->focusWidget(), u"Ham"_s);
+    QTest::keyClick(editing.dialog->focusWidget(), Qt::Key_Return);
+    QCOMPARE(editing.dialog->result(), 1);
+    QVERIFY(editing.product.get_productName().constFirst().contains(u"Ham"_s));
+}
+
+QTEST_MAIN(TestTimerBarProductEdit)
+#include "tst_timerbarproductedit.moc"
