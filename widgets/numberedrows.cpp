@@ -56,7 +56,10 @@ void prepareColouredList(QListWidget *list)
 void preparePlainList(QListWidget *list)
 {
     prepare(list);
-    list->setFont(QFont(u"Courier New"_s, 11));
+    QFont font(u"Courier New"_s, 11);
+    font.setKerning(false); // a fixed pitch has none, and shaping rows in vain is most of painting them
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    list->setFont(font);
     list->setAlternatingRowColors(true);
 }
 
