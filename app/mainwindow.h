@@ -23,6 +23,10 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
+    /// Opens a file, or a new menu for an empty path, in a sub-window of its own. Nothing is left of an
+    /// editor that has refused it.
+    void openEditor(const ProductLine &line, const QString &path);
+
 public slots:
     void updateMenuItems();
     /// Asks once for all open menus. The editors' own question is not asked.
@@ -35,7 +39,6 @@ public slots:
     void on_actionSaveAs_triggered();
 
 private:
-    void openEditor(const ProductLine &line, const QString &path);
     [[nodiscard]] OpenMenu activeMenu() const;
     void saveUnderChosenName(const OpenMenu &menu, const SaveNameRequest &request);
     [[nodiscard]] bool saveAll();

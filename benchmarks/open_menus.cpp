@@ -62,14 +62,11 @@ private:
     const QObject *m_awaited = nullptr;
 };
 
-void open(const QString &path, QMdiArea &area, Watcher &watcher)
+void open(const QString &path, MainWindow &window, Watcher &watcher)
 {
-    MenuEditor *editor = productLineOfFile(path)->create(path, area.window());
-    QMdiSubWindow *subWindow = area.addSubWindow(editor);
-    subWindow->setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowMinimizeButtonHint |
-                              Qt::MSWindowsFixedSizeDialogHint);
-    subWindow->show();
-    watcher.waitUntilPainted(editor);
+    window.openEditor(*productLineOfFile(path), path);
+    const auto &area = *window.findChild<QMdiArea *>();
+    watcher.waitUntilPainted(area.subWindowList().constLast()->widget());
 }
 
 void closeAll(const QMdiArea &area)
@@ -82,18 +79,18 @@ void closeAll(const QMdiArea &area)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void openAsked(const QString &path, QMdiArea &area, Watcher &watcher)
+void openAsked(const QString &path, MainWindow &window, Watcher &watcher)
 {
     long memory = residentKib();
     int lineBefore = 0;
     for (int number = 1; number <= askedFor.back(); ++number) {
         if (std::find(askedFor.begin(), askedFor.end(), number) == askedFor.end()) {
-            open(path, area, watcher);
+            open(path, window, watcher);
             continue;
         }
         QElapsedTimer timer;
         timer.start();
-        measured([&] { open(path, area, watcher); });
+        measured([&] { open(path, window, watcher); });
         const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
         const long memoryNow = residentKib();
         std::printf("%d %.2f %ld\n", number, milliseconds, (memoryNow - memory) / (number - lineBefore));
@@ -120,11 +117,10 @@ int main(int argc, char *argv[])
     watcher.waitUntilPainted(window.menuBar());
 
     const long memoryAtStart = residentKib();
-    auto &area = *window.findChild<QMdiArea *>();
-    openAsked(path, area, watcher);
+    openAsked(path, window, watcher);
     if (QCoreApplication::arguments().contains(QStringLiteral("open-only")))
         return EXIT_SUCCESS;
-    closeAll(area);
+    closeAll(*window.findChild<QMdiArea *>());
     malloc_trim(0);
     std::printf("closed %ld\n", residentKib() - memoryAtStart);
     return EXIT_SUCCESS;
