@@ -142,10 +142,10 @@ int binButtonWidth(const CabinetShape &shape, const QString &zoneSplits)
 {
     struct Width
     {
-        int zones;
-        int binsPerZone;
+        int zones = 0;
+        int binsPerZone = 0;
         QLatin1StringView zoneSplits;
-        int pixels;
+        int pixels = 0;
     };
     // What is not listed is as wide as an empty bin.
     static constexpr std::array<Width, 7> widths{{

@@ -248,7 +248,7 @@ QString readRoot(const QByteArray &json, QJsonObject &root)
 QString readMenu(const QByteArray &json, Menu &menu, const AskConfiguration &askConfiguration)
 {
     QJsonObject root;
-    if (const QString fault = readRoot(json, root); !fault.isEmpty())
+    if (QString fault = readRoot(json, root); !fault.isEmpty())
         return fault;
     readHeader(root.value("header"_L1).toObject(), menu.configuration);
     if (!menu.shape().isKnown() && !askConfiguration(menu.configuration))
@@ -256,7 +256,7 @@ QString readMenu(const QByteArray &json, Menu &menu, const AskConfiguration &ask
     const QJsonObject content = root.value("menu"_L1).toObject();
     if (content.isEmpty())
         return tr("Menu is empty!");
-    if (const QString fault = readProductsAndGroups(content, menu); !fault.isEmpty())
+    if (QString fault = readProductsAndGroups(content, menu); !fault.isEmpty())
         return fault;
     return readLayout(content.value("layout"_L1), menu);
 }
@@ -268,7 +268,7 @@ QString readDefaultMenu(int binsPerZone, Menu &menu)
     if (!file.open(QIODevice::ReadOnly))
         return tr("Failed to open the file:") + path;
     QJsonObject root;
-    if (const QString fault = readRoot(file.readAll(), root); !fault.isEmpty())
+    if (QString fault = readRoot(file.readAll(), root); !fault.isEmpty())
         return fault;
     const QJsonObject content = root.value("menu"_L1).toObject();
     if (content.isEmpty())

@@ -237,9 +237,9 @@ QString importQhxMenu(const QByteArray &bytes, Menu &menu)
     const int count = header->u8(4);
     if (count > maxEntries)
         return tr("Invalid products count!");
-    if (const QString fault = readConfiguration(bytes, header->u32(6), menu.configuration); !fault.isEmpty())
+    if (QString fault = readConfiguration(bytes, header->u32(6), menu.configuration); !fault.isEmpty())
         return fault;
-    if (const QString fault = readEntries(bytes, header->u32(10), count, menu); !fault.isEmpty())
+    if (QString fault = readEntries(bytes, header->u32(10), count, menu); !fault.isEmpty())
         return fault;
     return readDayparts(bytes, header->u32(14), menu);
 }

@@ -228,7 +228,7 @@ QString readDayparts(RecordSource &source, Menu &menu)
 
 QString readMenu(const QByteArray &bytes, Menu &menu)
 {
-    if (const QString fault = checkHeader(bytes); !fault.isEmpty())
+    if (QString fault = checkHeader(bytes); !fault.isEmpty())
         return fault;
     menu.temperatureUnit = byteAt(bytes, 8);
     const QString model = modelOfShape(byteAt(bytes, 6), byteAt(bytes, 7));

@@ -54,7 +54,7 @@ struct Menu
     int temperatureUnit = unitFahrenheit; ///< only for showing; products are in °F
     Products products;
     /// Cells beyond the model keep what they hold, for when a larger model comes back.
-    std::array<DaypartCells, daypartCount> dayparts;
+    std::array<DaypartCells, daypartCount> dayparts{};
 
     [[nodiscard]] CabinetShape shape() const { return cabinetShape(model); }
     [[nodiscard]] bool isFull() const;
