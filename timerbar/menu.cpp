@@ -33,9 +33,9 @@ struct DefaultProduct
 {
     QLatin1StringView name;
     QLatin1StringView shortName;
-    int temperature; ///< °F, upper and lower
-    int holdSeconds;
-    int warningSeconds;
+    int temperature = 0; ///< °F, upper and lower
+    int holdSeconds = 0;
+    int warningSeconds = 0;
 };
 
 // Their ids are their places here.
