@@ -59,21 +59,3 @@ private:
     QPoint m_point; ///< where it was pressed
     QPoint m_at;    ///< where it is now
 };
-
-/// Tells when as much time has passed as a hold takes, by a bin of another editor. To be made before the
-/// press that it times: a window that comes up ends every press.
-class HoldClock
-{
-public:
-    explicit HoldClock(HoldBins &timed) { ui::activate(*timed); }
-
-    void wait()
-    {
-        QTest::mousePress(&m_editor.button(0, 0), Qt::LeftButton);
-        QTRY_VERIFY(m_editor.widget("btnDaypartRemove").isVisible());
-        QTest::mouseRelease(&m_editor.button(0, 0), Qt::LeftButton);
-    }
-
-private:
-    OpenBins m_editor{bins::menuOf(QStringLiteral("KTR22"), {2})};
-};

@@ -6,6 +6,7 @@
 
 #include "holding/assigndaypartitem.h"
 #include "tests/gui/holdbins.h"
+#include "tests/gui/holdtime.h"
 #include "tests/support/modalanswers.h"
 #include "tests/support/warnings.h"
 
@@ -122,10 +123,9 @@ void TestDaypartHold::pressThatIsLetGoNeverCountsAsHeld()
     HoldBins editor(bins::menuOf(u"KTR22"_s, {2}));
     ModalAnswers answers;
     answers.expect<AssignDaypartItem>([](AssignDaypartItem &picker) { ui::click(picker, "btnCancel"); });
-    HoldClock clock(editor);
     editor.press(0, 0);
     editor.release();
-    clock.wait();
+    waitForAHold();
     QVERIFY(!editor.isRemoving());
 }
 
@@ -133,11 +133,10 @@ void TestDaypartHold::pressThatLeavesTheBinNeverCountsAsHeld()
 {
     HoldBins editor(bins::menuOf(u"KTR22"_s, {2, 2}));
     const ModalAnswers answers;
-    HoldClock clock(editor);
     editor.press(0, 0);
     editor.move({0, 200});
     QVERIFY(!editor.button(0, 0).isDown());
-    clock.wait();
+    waitForAHold();
     QVERIFY(!editor.isRemoving());
     editor.release();
 }

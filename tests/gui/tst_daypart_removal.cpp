@@ -4,6 +4,7 @@
 #include "holding/configuration.h"
 #include "holding/productedit.h"
 #include "tests/gui/holdbins.h"
+#include "tests/gui/holdtime.h"
 #include "tests/support/modalanswers.h"
 #include "tests/support/warnings.h"
 
@@ -163,10 +164,9 @@ void TestDaypartRemoval::clearedWholeShowsWhatItHid()
 void TestDaypartRemoval::pressStartsNothing()
 {
     HoldBins editor(bins::menuOf(u"KTR22"_s, {2, 2}));
-    HoldClock clock(editor);
     enterRemoval(editor, 0, 0);
     editor.press(0, 1);
-    clock.wait();
+    waitForAHold();
     QVERIFY(editor.button(0, 1).isDown());
     QVERIFY(editor.button(0, 0).isChecked() && !editor.button(0, 1).isChecked());
     editor.release();
