@@ -13,6 +13,7 @@
 #include "holding/daypartedit.h"
 #include "ui_menufile.h"
 #include "widgets/messages.h"
+#include "widgets/plaintext.h"
 
 using namespace Qt::StringLiterals;
 
@@ -172,7 +173,7 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
         // What another cabinet left in the one-bin zone may ask for more than that zone has.
         button->setMinimumWidth(std::min(looks[slot].minimumWidth, button->parentWidget()->maximumWidth()));
         m_grid.showContent(bin, binText(content[slot], id));
-        button->setToolTip(binToolTip(content[slot].entry, m_menu.configuration));
+        button->setToolTip(asPlainText(binToolTip(content[slot].entry, m_menu.configuration)));
         button->setVisible(looks[slot].visible);
     }
 }

@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int nameLength = 25;
 constexpr QSize samplePadding(16, 4);
 
 QString timeText(int seconds)
@@ -54,11 +53,9 @@ ProductDetails::ProductDetails(QWidget *parent)
 
 ProductDetails::~ProductDetails() = default;
 
-// The editor's size is fixed, whatever it shows later: room for a name of ordinary length and for the
-// sample's text, in any font.
+// The editor's size is fixed, whatever it shows later: room for the sample's text, in any font.
 void ProductDetails::reserveRoom()
 {
-    m_ui->txtName->setMinimumWidth(nameLength * m_ui->txtName->fontMetrics().averageCharWidth());
     QLabel *sample = m_ui->txtTimerColor;
     sample->setText(holding::timerColorSample(holding::timerPalette().back()).text);
     sample->setFixedSize(sample->minimumSize().expandedTo(sample->sizeHint() + samplePadding));
@@ -100,9 +97,10 @@ void ProductDetails::showRows(const holding::CabinetConfiguration &configuration
 
 void ProductDetails::clear()
 {
-    for (QLabel *value : {m_ui->txtProductId, m_ui->txtName, m_ui->txtTemp1, m_ui->txtTemp2,
-                          m_ui->txtHoldTime, m_ui->txtWarningTime, m_ui->txtResetTime, m_ui->txtFanSpeed,
-                          m_ui->txtLidType, m_ui->txtBottomType, m_ui->txtZoneSplits, m_ui->txtTimerColor})
+    for (QLabel *value : std::initializer_list<QLabel *>{
+             m_ui->txtProductId, m_ui->txtName, m_ui->txtTemp1, m_ui->txtTemp2, m_ui->txtHoldTime,
+             m_ui->txtWarningTime, m_ui->txtResetTime, m_ui->txtFanSpeed, m_ui->txtLidType,
+             m_ui->txtBottomType, m_ui->txtZoneSplits, m_ui->txtTimerColor})
         value->clear();
     m_ui->txtTimerColor->setStyleSheet({});
 }

@@ -9,6 +9,7 @@
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/numberedrows.h"
+#include "widgets/plaintext.h"
 
 TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTemp, TimerBarMenuFile *menuFile)
     : QDialog(menuFile)
@@ -40,7 +41,7 @@ void TimerBarDaypartAssignItem::loadProducts()
         const ProductInfo &product = *m_products[row];
         QListWidgetItem *item = numberedrows::append(list, product.get_productShortName());
         item->setData(Qt::UserRole, product.get_productId());
-        item->setToolTip(shownName(product.get_productName()));
+        item->setToolTip(asPlainText(shownName(product.get_productName())));
         if (timerbar::fitsNeighbour(product, m_reference))
             numberedrows::colourFitting(item, row);
         else

@@ -8,6 +8,7 @@
 #include "timerbar/timerbarmenufile.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/messages.h"
+#include "widgets/plaintext.h"
 
 using namespace Qt::StringLiterals;
 
@@ -116,7 +117,7 @@ void TimerBarMenuFile::loadCurrentDaypart()
         const int id = cellAt(*cells, bin);
         const ProductInfo *product = id == timerbar::emptyCell ? nullptr : getProductObject(id);
         m_grid.showContent(bin, product ? product->get_productShortName() : QString());
-        m_grid.button(bin)->setToolTip(toolTipOf(product, m_menu.temperatureUnit));
+        m_grid.button(bin)->setToolTip(asPlainText(toolTipOf(product, m_menu.temperatureUnit)));
     }
 }
 

@@ -33,8 +33,9 @@ TimerBarProductDetails::~TimerBarProductDetails() = default;
 void TimerBarProductDetails::showProduct(const ProductInfo *product, int temperatureUnit)
 {
     if (!product) {
-        for (QLabel *value : {m_ui->txtName, m_ui->txtShortName, m_ui->txtTempUpper, m_ui->txtTempLower,
-                              m_ui->txtHoldTime, m_ui->txtWarningTime})
+        for (QLabel *value :
+             std::initializer_list<QLabel *>{m_ui->txtName, m_ui->txtShortName, m_ui->txtTempUpper,
+                                             m_ui->txtTempLower, m_ui->txtHoldTime, m_ui->txtWarningTime})
             value->clear();
         return;
     }

@@ -4,6 +4,11 @@
 #include "widgets/messages.h"
 
 #include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+#include <QScreen>
+
+#include "widgets/plaintext.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,14 +23,32 @@ QString tr(const char *text)
 
 } // namespace
 
+namespace {
+
+// With a least width of their own the labels no longer ask for the room of their longest word, which may be
+// the name of a file.
+void makeRoomForWords(QMessageBox &box)
+{
+    int width = 0;
+    const QList<QLabel *> labels = box.findChildren<QLabel *>();
+    for (const QLabel *label : labels)
+        width = qMax(width, label->minimumSizeHint().width());
+    auto *grid = qobject_cast<QGridLayout *>(box.layout());
+    grid->setColumnMinimumWidth(grid->columnCount() - 1,
+                                qMin(width, box.screen()->availableSize().width() / 2));
+}
+
+} // namespace
+
 void fileFault(const QString &message)
 {
     QMessageBox box;
     box.setWindowTitle(tr("Error"));
     box.setText(tr("Error"));
-    box.setInformativeText(message);
+    box.setInformativeText(asPlainText(message));
     box.setStandardButtons(QMessageBox::Ok);
     box.setStyleSheet(u"QLabel{min-width: 220px;}"_s);
+    makeRoomForWords(box);
     box.exec();
 }
 

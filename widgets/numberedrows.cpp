@@ -7,6 +7,8 @@
 #include <QFont>
 #include <QListWidget>
 
+#include "widgets/plaintext.h"
+
 using namespace Qt::StringLiterals;
 
 namespace numberedrows {
@@ -72,7 +74,7 @@ QListWidgetItem *append(QListWidget *list, const QString &name)
 {
     auto *item = new QListWidgetItem(text(list->count() + 1, name));
     item->setSizeHint(rowSize);
-    item->setToolTip(name);
+    item->setToolTip(asPlainText(name));
     list->addItem(item);
     return item;
 }

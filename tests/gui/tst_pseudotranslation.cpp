@@ -61,7 +61,8 @@ void TestPseudoTranslation::initTestCase()
     }
     for (const holding::Daypart &daypart : menu.dayparts)
         m_names.append(shownName(daypart.names));
-    m_names.append({u"Bacon"_s, u"Soup"_s, u"Soups"_s}); // of the default menu, and as entered
+    m_names.append({u"Bacon"_s, u"Soup"_s, u"Soups"_s});       // of the default menu, and as entered
+    m_names.append({QString(25, u'W'), u"WWWW"_s, u"BACN"_s}); // of the Timer Bar menu
 }
 
 void TestPseudoTranslation::windowsAreTranslated()

@@ -17,9 +17,14 @@
 #include "holding/productedit.h"
 #include "holding/timercolorpicker.h"
 #include "lanes/svrxmenufile.h"
+#include "tests/support/cbrbuilder.h"
 #include "tests/support/lanefile.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/windowmenu.h"
+#include "timerbar/timerbarconfig.h"
+#include "timerbar/timerbardaypartassignitem.h"
+#include "timerbar/timerbarmenufile.h"
+#include "timerbar/timerbarproductedit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -63,6 +68,56 @@ std::unique_ptr<QWidget> makeEditor(MenuFile &editor)
     return window;
 }
 
+QString writeBeside(const MenuFile &editor, const QString &ending, const QByteArray &content)
+{
+    QFile file(editor.filePath() + ending);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) < content.size())
+        qFatal("Cannot write a file beside the menu");
+    return file.fileName();
+}
+
+// Two products of which the first fills a bin.
+QString writeTimerBarMenu(const MenuFile &editor)
+{
+    const cbr::Menu menu{.model = u"KTR34"_s,
+                         .unit = 1,
+                         .products = {{.name = QByteArray(25, 'W'), .shortName = "WWWW"},
+                                      {.name = "Bacon", .shortName = "BACN"}},
+                         .dayparts = {QList<int>{0}}};
+    return writeBeside(editor, u".cbr"_s, menu.bytes());
+}
+
+// The editor that a Timer Bar dialog belongs to, never shown; it goes with the other.
+TimerBarMenuFile &timerBarOwner(MenuFile &editor)
+{
+    return *new TimerBarMenuFile(writeTimerBarMenu(editor), &editor);
+}
+
+std::unique_ptr<QWidget> makeTimerBarConfig(MenuFile &)
+{
+    return std::make_unique<TimerBarConfig>();
+}
+
+std::unique_ptr<QWidget> makeTimerBarProductEdit(MenuFile &editor)
+{
+    TimerBarMenuFile &owner = timerBarOwner(editor);
+    return std::make_unique<TimerBarProductEdit>(*owner.products().constFirst(), &owner);
+}
+
+std::unique_ptr<QWidget> makeTimerBarAssignItem(MenuFile &editor)
+{
+    auto window = std::make_unique<TimerBarDaypartAssignItem>(0, 0, &timerBarOwner(editor));
+    ui::get<QListWidget>(*window, "listWidgetProducts").setCurrentRow(0);
+    return window;
+}
+
+std::unique_ptr<QWidget> makeTimerBarEditor(MenuFile &editor)
+{
+    auto window = std::make_unique<TimerBarMenuFile>(writeTimerBarMenu(editor));
+    ui::get<QListWidget>(*window, "listWidgetProducts").setCurrentRow(0);
+    return window;
+}
+
 std::unique_ptr<QWidget> makeLaneEditor(MenuFile &)
 {
     return std::make_unique<SvrxMenuFile>(QString());
@@ -71,13 +126,8 @@ std::unique_ptr<QWidget> makeLaneEditor(MenuFile &)
 // Beside every box stands that the file holds another number.
 std::unique_ptr<QWidget> makeLaneEditorWithNotes(MenuFile &editor)
 {
-    QFile file(editor.filePath() + u".txt"_s);
-    const bool open = file.open(QIODevice::WriteOnly);
     const QByteArray contents = "T1=9999,T2=9999,T3=9999,T4=9999,F1=99999,F2=99999,F3=99999,F4=99999";
-    if (!open || file.write(lanefile::text(contents)) < contents.size())
-        qFatal("Cannot write a lane configuration");
-    file.close();
-    return std::make_unique<SvrxMenuFile>(file.fileName());
+    return std::make_unique<SvrxMenuFile>(writeBeside(editor, u".txt"_s, lanefile::text(contents)));
 }
 
 } // namespace
@@ -101,6 +151,10 @@ const std::vector<WindowKind> &everyWindow()
         {"lane editor, new", nullptr, windowmenu::plainCabinet(), makeLaneEditor, true},
         {"lane editor, values beyond the limits", nullptr, windowmenu::plainCabinet(),
          makeLaneEditorWithNotes, true},
+        {"Timer Bar configuration", "btnAccept", windowmenu::plainCabinet(), makeTimerBarConfig},
+        {"Timer Bar product", "btnSave", windowmenu::plainCabinet(), makeTimerBarProductEdit},
+        {"Timer Bar bin", "btnSelect", windowmenu::plainCabinet(), makeTimerBarAssignItem},
+        {"Timer Bar editor", nullptr, windowmenu::plainCabinet(), makeTimerBarEditor, true},
     };
     return kinds;
 }
@@ -133,6 +187,8 @@ OpenWindow::~OpenWindow() = default;
 QByteArray OpenWindow::menuBytes() const
 {
     const QString path = m_folder.filePath(u"now.json"_s);
-    const bool written = m_editor->writeToFile(path);
-    return written ? windowmenu::contentOf(path) : QByteArray();
+    QByteArray bytes = m_editor->writeToFile(path) ? windowmenu::contentOf(path) : QByteArray();
+    for (auto *timerBar : m_editor->findChildren<TimerBarMenuFile *>())
+        bytes += timerBar->writeToFile(path) ? windowmenu::contentOf(path) : QByteArray();
+    return bytes;
 }

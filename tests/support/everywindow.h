@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] QWidget &window() const { return *m_window; }
     [[nodiscard]] MenuFile &editor() const { return *m_editor; }
-    /// What the editor would save now.
+    /// What the editor would save now, and the Timer Bar editor that the window may belong to.
     [[nodiscard]] QByteArray menuBytes() const;
 
 private:

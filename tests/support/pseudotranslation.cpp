@@ -22,7 +22,7 @@ bool isData(const QString &text, const QStringList &names)
 {
     static const QRegularExpression data(
         u"^(QHX|ZPV|QHX/ZPV|Savorix|Timer Bar Cabinet|KTR\\d\\d|ZPV\\d\\d" // cabinets
-        u"|-?\\d+(°[FC])?|°[FC]|\\d/\\d|\\d\\d:\\d\\d:\\d\\d"              // numbers
+        u"|-?\\d+(°[FC])?|°[FC]|\\d/\\d|\\d\\d:\\d\\d(:\\d\\d)?"           // numbers
         u"|#[0-9a-f]{6})$"_s);                                             // colours
     static const QRegularExpression rowNumber(u"^ *\\d+ "_s);
     QString name = text;

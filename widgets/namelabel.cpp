@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/namelabel.h"
+
+#include <QPainter>
+#include <QTextLayout>
+#include <QTextOption>
+#include <QtMath>
+
+namespace {
+
+constexpr int ordinaryNameLength = 25; // in characters
+constexpr int longestShownName = 4 * ordinaryNameLength;
+
+// On one paragraph: a file may hold any characters.
+QString shownPart(QString name)
+{
+    name.replace(u'\n', u' ');
+    return name.size() <= longestShownName ? name : name.first(longestShownName) + u'\u2026';
+}
+
+QTextOption wrapping()
+{
+    QTextOption option(Qt::AlignLeft | Qt::AlignVCenter);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
+} // namespace
+
+NameLabel::NameLabel(QWidget *parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true); // makes the layout ask for heightForWidth()
+}
+
+QSize NameLabel::sizeHint() const
+{
+    return minimumSizeHint();
+}
+
+QSize NameLabel::minimumSizeHint() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    return {ordinaryNameLength * metrics.averageCharWidth(), metrics.height()};
+}
+
+int NameLabel::heightForWidth(int width) const
+{
+    QTextLayout layout(shownPart(text()), font());
+    layout.setTextOption(wrapping());
+    layout.beginLayout();
+    qreal height = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        height += line.height();
+    }
+    layout.endLayout();
+    return qMax(qCeil(height), fontMetrics().height());
+}
+
+void NameLabel::paintEvent([[maybe_unused]] QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(QRectF(rect()), shownPart(text()), wrapping());
+}
