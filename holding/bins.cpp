@@ -48,12 +48,12 @@ QStringList zoneSplitsForRun(int binsPerZone, int run)
 
 Zone firstZone(const CabinetShape &shape)
 {
-    return {0, shape.binsPerZone, false};
+    return {0, shape.binsPerZone};
 }
 
 Zone secondZone(const CabinetShape &shape)
 {
-    return {shape.binsPerZone, shape.singleBinSecondZone ? 1 : shape.binsPerZone, shape.singleBinSecondZone};
+    return {shape.binsPerZone, shape.singleBinSecondZone ? 1 : shape.binsPerZone};
 }
 
 // Two halves of a zone of three bins: its third button goes, the other two share the width.
@@ -124,7 +124,7 @@ int freeRun(const RowContent &row, const Zone &zone, int slot)
 QStringList allowedZoneSplits(const CabinetShape &shape, const RowContent &row, int slot)
 {
     const Zone zone = zoneOfSlot(shape, slot);
-    if (zone.isOneBin || (shape.binsPerZone == 3 && isZoneOfHalves(row, zone)))
+    if (zone.count == 1 || (shape.binsPerZone == 3 && isZoneOfHalves(row, zone)))
         return {u"1/2"_s};
     return zoneSplitsForRun(shape.binsPerZone, freeRun(row, zone, slot));
 }
@@ -182,6 +182,19 @@ std::array<BinLook, maxSlots> rowLook(const CabinetShape &shape, const RowConten
         }
     }
     return looks;
+}
+
+void fitIntoZone(std::array<BinLook, maxSlots> &looks, const Zone &zone, int zoneWidth, int gap)
+{
+    int excess = -gap - zoneWidth;
+    for (int slot = zone.first; slot < zone.first + zone.count; ++slot)
+        excess += at(looks, slot).visible ? at(looks, slot).minimumWidth + gap : 0;
+    for (int slot = zone.first + zone.count - 1; slot >= zone.first && excess > 0; --slot) {
+        BinLook &look = at(looks, slot);
+        const int cut = look.visible ? std::min(excess, look.minimumWidth - emptyBinButtonWidth) : 0;
+        look.minimumWidth -= cut;
+        excess -= cut;
+    }
 }
 
 bool isShowableRowCount(int rows)

@@ -17,8 +17,7 @@ namespace holding {
 struct Zone
 {
     int first = 0;
-    int count = 0;
-    bool isOneBin = false; ///< the one-bin second zone of a cabinet that has such
+    int count = 0; ///< 1 only for the second zone of a cabinet whose second zone has one bin
 
     friend bool operator==(const Zone &, const Zone &) = default;
 };
@@ -76,6 +75,10 @@ struct BinLook
 
 /// A row's buttons. An entry that takes more than its own bin hides the bins that it covers.
 [[nodiscard]] std::array<BinLook, maxSlots> rowLook(const CabinetShape &shape, const RowContent &row);
+
+/// What a file holds, or another cabinet left, may ask for more than a zone has: the last bins then give way,
+/// down to the width of an empty one. Both widths are in pixels, `gap` between two bins.
+void fitIntoZone(std::array<BinLook, maxSlots> &looks, const Zone &zone, int zoneWidth, int gap);
 
 /// The rows of a cabinet that the grid can show.
 [[nodiscard]] bool isShowableRowCount(int rows);

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int leastHeight = 44;
-constexpr int textMargin = 6; // on each side, the border of a checked button included
+constexpr int textMargin = 8; // on each side, the border of a checked button included
 
 } // namespace
 
@@ -37,10 +37,12 @@ void BinButton::paintEvent([[maybe_unused]] QPaintEvent *event)
 QString binButtonStyle()
 {
     // The texts are black in every palette, as the greys are the same in every palette.
-    return u"QPushButton { background-color: LightGray; border: none; color: black; }"
+    // The margin makes the gaps between bins that their layout has no room for.
+    return u"QPushButton { background-color: LightGray; border: none; color: black; margin: 0 2px; }"
            "QPushButton:disabled { color: #505050; }"
            "QPushButton:focus { border: 1px dotted black; }"
            "QPushButton:pressed { background-color: DarkGrey; }"
            "QPushButton:checked { background-color: DarkGrey; border: 2px outset black; }"
+           "QPushButton:checked:focus { text-decoration: underline; }"
            "QPushButton:hover:!pressed:!checked { background-color: Silver; }"_s;
 }

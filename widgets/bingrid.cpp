@@ -4,6 +4,7 @@
 #include "widgets/bingrid.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QMouseEvent>
@@ -25,6 +26,16 @@ void releaseOutside(QPushButton *button)
     QCoreApplication::sendEvent(button, &release);
 }
 
+void endPress(QPushButton *button)
+{
+    const bool hadFocus = button->hasFocus();
+    releaseOutside(button);
+    button->setEnabled(false);
+    button->setEnabled(true);
+    if (hadFocus)
+        button->setFocus();
+}
+
 } // namespace
 
 BinGrid::BinGrid(QObject *parent)
@@ -40,7 +51,6 @@ void BinGrid::clear()
 {
     leaveRemovalMode();
     release();
-    m_pressed = nullptr;
     m_places.clear();
 }
 
@@ -91,6 +101,7 @@ void BinGrid::press(QPushButton *button)
 void BinGrid::release()
 {
     m_holdTimer.stop();
+    m_pressed = nullptr;
 }
 
 std::optional<Bin> BinGrid::clickedBin(const QPushButton *button) const
@@ -100,25 +111,16 @@ std::optional<Bin> BinGrid::clickedBin(const QPushButton *button) const
 
 void BinGrid::settleHold(const std::function<bool(Bin)> &isFilled)
 {
-    const std::optional<Bin> held = m_pressed ? binOf(m_pressed) : std::nullopt;
-    endHold();
-    if (held && isFilled(*held))
-        enterRemovalMode(isFilled);
-}
-
-void BinGrid::endHold()
-{
-    if (!m_pressed)
+    QPushButton *held = std::exchange(m_pressed, nullptr);
+    if (!held)
         return;
-    const bool hadFocus = m_pressed->hasFocus();
-    releaseOutside(m_pressed);
-    m_pressed->setEnabled(false);
-    m_pressed->setEnabled(true);
-    if (hadFocus)
-        m_pressed->setFocus();
+    endPress(held);
+    const std::optional<Bin> bin = binOf(held);
+    if (bin && isFilled(*bin))
+        enterRemovalMode(held, isFilled);
 }
 
-void BinGrid::enterRemovalMode(const std::function<bool(Bin)> &isFilled)
+void BinGrid::enterRemovalMode(const QPushButton *held, const std::function<bool(Bin)> &isFilled)
 {
     for (const Place &place : std::as_const(m_places)) {
         if (place.button->isHidden())
@@ -126,7 +128,7 @@ void BinGrid::enterRemovalMode(const std::function<bool(Bin)> &isFilled)
         const bool filled = isFilled(place.bin);
         place.button->setEnabled(filled);
         place.button->setCheckable(filled);
-        place.button->setChecked(filled && place.button == m_pressed);
+        place.button->setChecked(filled && place.button == held);
     }
     emit removalModeChanged(true);
 }

@@ -69,11 +69,10 @@ private:
         Bin bin;
     };
     [[nodiscard]] std::optional<Bin> binOf(const QPushButton *button) const;
-    void endHold();
-    void enterRemovalMode(const std::function<bool(Bin)> &isFilled);
+    void enterRemovalMode(const QPushButton *held, const std::function<bool(Bin)> &isFilled);
 
     QList<Place> m_places;
-    QPushButton *m_pressed = nullptr;
+    QPushButton *m_pressed = nullptr; ///< while it may become held
     QTimer m_holdTimer;
 };
 

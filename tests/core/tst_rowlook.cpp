@@ -20,10 +20,13 @@ private slots:
     void buttonWidths_data();
     void buttonWidths();
     void otherShapesHaveOneWidth();
-    void everyRow_data() { binrows::addShapes(); }
+    void everyRow_data() { binrows::addModels(); }
     void everyRow();
     void byTable_data();
     void byTable();
+    void everyRowFitsItsZones_data() { binrows::addModels(); }
+    void everyRowFitsItsZones();
+    void whatFitsStaysAsItIs();
 };
 
 void TestRowLook::buttonWidths_data()
@@ -109,8 +112,6 @@ void TestRowLook::everyRow()
 {
     QFETCH(CabinetShape, shape);
     QFETCH(QString, layout);
-    if (shape.binsPerZone > 3)
-        return; // no cabinet to show
     const binrows::Entries entries;
     binrows::forEachRow([&](const QString &fill) {
         const auto looks = rowLook(shape, entries.row(fill));
@@ -167,6 +168,62 @@ void TestRowLook::byTable()
     for (const BinLook &look : rowLook(shape, entries.row(fill)))
         shown.append(look.visible ? look.minimumWidth : 0);
     QCOMPARE(shown, widths);
+}
+
+namespace {
+
+int totalWidth(const std::array<BinLook, maxSlots> &looks, const Zone &zone, int gap)
+{
+    int width = -gap;
+    for (int slot = zone.first; slot < zone.first + zone.count; ++slot) {
+        const BinLook &look = looks[std::size_t(slot)];
+        width += look.visible ? look.minimumWidth + gap : 0;
+    }
+    return width;
+}
+
+} // namespace
+
+void TestRowLook::everyRowFitsItsZones()
+{
+    QFETCH(CabinetShape, shape);
+    QFETCH(QString, layout);
+    const binrows::Entries entries;
+    constexpr int gap = 2;
+    binrows::forEachRow([&](const QString &fill) {
+        auto looks = rowLook(shape, entries.row(fill));
+        const auto before = looks;
+        for (const QChar name : {u'a', u'b'}) {
+            if (!layout.contains(name))
+                continue;
+            const Zone zone = zoneOfSlot(shape, int(layout.indexOf(name)));
+            const int width = zone.count == 1 ? 177 : shape.zones == 2 ? 340 : 394;
+            fitIntoZone(looks, zone, width, gap);
+            QVERIFY2(totalWidth(looks, zone, gap) == std::min(width, totalWidth(before, zone, gap)),
+                     qPrintable(fill));
+        }
+        for (std::size_t slot = 0; slot < looks.size(); ++slot) {
+            QCOMPARE(looks[slot].visible, before[slot].visible);
+            QVERIFY(looks[slot].minimumWidth >= 112);
+        }
+    });
+}
+
+// What a user can assign asks for no more than the zone has.
+void TestRowLook::whatFitsStaysAsItIs()
+{
+    const binrows::Entries entries;
+    const auto check = [&entries](const char16_t *model, const QStringList &fills) {
+        const CabinetShape shape = cabinetShape(u"QHX"_s, QString::fromUtf16(model));
+        for (const QString &fill : fills) {
+            auto looks = rowLook(shape, entries.row(fill));
+            const auto before = looks;
+            fitIntoZone(looks, zoneOfSlot(shape, 0), 394, 2);
+            QVERIFY2(looks == before, qPrintable(fill));
+        }
+    };
+    check(u"KTR33", {u"T.3."_s, u"3T.."_s, u"333."_s, u"22.."_s, u"2..."_s, u"1..."_s});
+    check(u"KTR22", {u"1..."_s, u"22.."_s, u".2.."_s});
 }
 
 QTEST_APPLESS_MAIN(TestRowLook)

@@ -20,6 +20,9 @@ private slots:
     void everyModelInEverySplit_data();
     void everyModelInEverySplit();
     void buttonsFillTheirZone();
+    void nothingMovesTheBins_data();
+    void nothingMovesTheBins();
+    void assignedBinsNeverLookEmpty();
     void redrawRestoresEveryButton();
     void buttonsTellTheirBin();
     void namesAreElidedOnlyInPainting();
@@ -233,6 +236,47 @@ void TestBinGrid::buttonsFillTheirZone()
         }
     }
     QCOMPARE(editor.widget("frameFirstZone").width(), editor.widget("frameSecondZone").width());
+}
+
+void TestBinGrid::nothingMovesTheBins_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QList<int>>("row");
+    QTest::newRow("two thirds and one") << u"KTR33"_s << QList<int>{3, 0, 1};
+    QTest::newRow("one third and two") << u"KTR33"_s << QList<int>{1, 3, 0};
+    QTest::newRow("halves") << u"KTR33"_s << QList<int>{2, 2, 0};
+    QTest::newRow("a whole") << u"KTR33"_s << QList<int>{4, 0, 0};
+    QTest::newRow("a whole of two") << u"KTR22"_s << QList<int>{4, 0};
+    // What a file may hold, although no editor assigns it.
+    QTest::newRow("a whole in the last of three") << u"KTR33"_s << QList<int>{3, 3, 4};
+    QTest::newRow("a whole in the last of two") << u"KTR22"_s << QList<int>{0, 4};
+    QTest::newRow("wholes in the last of two zones") << u"KTR24"_s << QList<int>{2, 4, 2, 4};
+}
+
+// The rows above and below stay where they are.
+void TestBinGrid::nothingMovesTheBins()
+{
+    QFETCH(QString, model);
+    QFETCH(QList<int>, row);
+    OpenBins empty(bins::menuOf(model, {}));
+    OpenBins filled(bins::menuOf(model, row));
+    for (const char *name : {"frameFirstZone", "frameSecondZone"})
+        QCOMPARE(filled.widget(name).geometry(), empty.widget(name).geometry());
+    for (int slot = 0; slot < row.size(); ++slot) {
+        QCOMPARE(filled.button(1, slot).geometry(), empty.button(1, slot).geometry());
+        QVERIFY(filled.button(0, slot).parentWidget()->rect().contains(filled.button(0, slot).geometry()));
+    }
+}
+
+void TestBinGrid::assignedBinsNeverLookEmpty()
+{
+    samplefile::Menu menu = bins::menuOf(u"KTR22"_s, {2, 99, 6, 0});
+    menu.products.append(samplefile::product(6, QString()));
+    OpenBins editor(menu);
+    QCOMPARE(editor.button(0, 0).text(), u"Half"_s);
+    QCOMPARE(editor.button(0, 1).text(), u"Id 99"_s);
+    QCOMPARE(editor.button(1, 0).text(), u"Id 6"_s);
+    QCOMPARE(editor.button(1, 1).text(), QString());
 }
 
 void TestBinGrid::redrawRestoresEveryButton()

@@ -21,6 +21,8 @@ private slots:
     void pressed();
     void hovered();
     void checked();
+    void focusIsSeenOnACheckedBin();
+    void sheetComesWithTheFirstLook();
     void sheetIsOnTheGridAlone();
 };
 
@@ -33,12 +35,12 @@ constexpr QColor silver(0xc0, 0xc0, 0xc0);
 // Left of the text and inside any border.
 QColor background(QPushButton &button)
 {
-    return button.grab().toImage().pixelColor(4, button.height() / 2);
+    return button.grab().toImage().pixelColor(6, button.height() / 2);
 }
 
 QColor edge(QPushButton &button)
 {
-    return button.grab().toImage().pixelColor(0, button.height() / 2);
+    return button.grab().toImage().pixelColor(2, button.height() / 2);
 }
 
 } // namespace
@@ -85,11 +87,39 @@ void TestBinGridStyle::checked()
     button.setChecked(true);
     QCOMPARE(background(button), darkGrey);
     const QImage image = button.grab().toImage();
-    // Two pixels of a black frame that looks raised: no pixel of it is lighter than the middle.
-    for (const int x : {0, 1})
-        QVERIFY(image.pixelColor(x, button.height() / 2) != darkGrey);
-    QCOMPARE(image.pixelColor(2, button.height() / 2), darkGrey);
-    QVERIFY(qGray(image.pixel(button.width() - 1, button.height() / 2)) < 0x40);
+    // Two pixels of a black frame, inside the margin, that looks raised.
+    const int middle = button.height() / 2;
+    for (const int x : {2, 3})
+        QVERIFY(image.pixelColor(x, middle) != darkGrey);
+    QCOMPARE(image.pixelColor(4, middle), darkGrey);
+    QVERIFY(qGray(image.pixel(button.width() - 3, middle)) < 0x40);
+}
+
+// Which of the checked bins Space acts on.
+void TestBinGridStyle::focusIsSeenOnACheckedBin()
+{
+    OpenBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    QPushButton &button = editor.button(0, 0);
+    button.setCheckable(true);
+    button.setChecked(true);
+    editor.selector().setFocus();
+    const QImage without = button.grab().toImage();
+    button.setFocus();
+    QVERIFY(button.grab().toImage() != without);
+}
+
+// The grid is the costliest part of an editor to style.
+void TestBinGridStyle::sheetComesWithTheFirstLook()
+{
+    OpenBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    MenuFile other(editor->filePath());
+    const auto &grid = ui::get<QWidget>(other, "frameGrid");
+    ui::show(other);
+    QVERIFY(grid.styleSheet().isEmpty());
+    ui::get<QTabWidget>(other, "tabWidget").setCurrentIndex(1);
+    QVERIFY(grid.styleSheet().isEmpty());
+    ui::get<QTabWidget>(other, "tabWidget").setCurrentIndex(2);
+    QCOMPARE(grid.styleSheet(), editor.widget("frameGrid").styleSheet());
 }
 
 // A sheet on the editor would double the cost of opening it.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QElapsedTimer>
+#include <QTimer>
 #include <QWindow>
 
 #include "holding/assigndaypartitem.h"
@@ -21,6 +22,8 @@ class TestDaypartHold : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void heldForItsTime();
+    void heldForNoLonger();
+    void onlyAPressCanBeHeld();
     void heldFilledBinIsChecked_data() { addReleases(); }
     void heldFilledBinIsChecked();
     void heldEmptyBinDoesNothing_data() { addReleases(); }
@@ -60,6 +63,33 @@ void TestDaypartHold::heldForItsTime()
     QTRY_VERIFY(editor.isRemoving());
     QVERIFY2(timer.elapsed() >= 800, qPrintable(QString::number(timer.elapsed())));
     editor.release();
+}
+
+void TestDaypartHold::heldForNoLonger()
+{
+    HoldBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    const ModalAnswers answers;
+    QTimer late;
+    late.setSingleShot(true);
+    late.setTimerType(Qt::PreciseTimer);
+    bool inTime = false;
+    connect(&late, &QTimer::timeout, &late, [&] { inTime = editor.isRemoving(); });
+    editor.press(0, 0);
+    late.start(900);
+    QTRY_VERIFY(!late.isActive());
+    QVERIFY(inTime);
+    editor.release();
+}
+
+void TestDaypartHold::onlyAPressCanBeHeld()
+{
+    HoldBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    ModalAnswers answers;
+    answers.expect<AssignDaypartItem>([](AssignDaypartItem &picker) { ui::click(picker, "btnCancel"); });
+    editor.press(0, 0);
+    editor.release();
+    editor->dayPartPressHoldDetected();
+    QVERIFY(!editor.isRemoving());
 }
 
 void TestDaypartHold::heldFilledBinIsChecked()

@@ -27,6 +27,8 @@ private slots:
     void hiddenBinsTakeNoPart();
     void clearedWholeShowsWhatItHid();
     void pressStartsNothing();
+    void timePassesWithoutEffect();
+    void savingKeepsTheMarkedBins();
     void modeCanBeEnteredAgain();
     void otherTabsLeaveTheMode_data();
     void otherTabsLeaveTheMode();
@@ -171,6 +173,23 @@ void TestDaypartRemoval::pressStartsNothing()
     QVERIFY(editor.button(0, 0).isChecked() && !editor.button(0, 1).isChecked());
     editor.release();
     QVERIFY(editor.button(0, 0).isChecked() && editor.button(0, 1).isChecked());
+}
+
+void TestDaypartRemoval::timePassesWithoutEffect()
+{
+    HoldBins editor(bins::menuOf(u"KTR22"_s, {2, 2}));
+    enterRemoval(editor, 0, 0);
+    ui::click(editor.button(0, 0));
+    waitForAHold();
+    QVERIFY(editor.isRemoving() && !editor.button(0, 0).isChecked());
+}
+
+void TestDaypartRemoval::savingKeepsTheMarkedBins()
+{
+    HoldBins editor(bins::menuOf(u"KTR22"_s, {2, 2}));
+    enterRemoval(editor, 0, 0);
+    QCOMPARE(editor.savedBins(0), (QList<int>{2, 2, 0, 0}));
+    QVERIFY(editor.isRemoving() && editor.button(0, 0).isChecked());
 }
 
 void TestDaypartRemoval::modeCanBeEnteredAgain()

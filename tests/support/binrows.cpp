@@ -16,7 +16,7 @@ const QString entryFills = u"123T"_s;
 
 } // namespace
 
-void addShapes()
+void addModels()
 {
     QTest::addColumn<CabinetShape>("shape");
     QTest::addColumn<QString>("layout");
@@ -38,6 +38,11 @@ void addShapes()
         QTest::newRow(model) << cabinetShape(name.first(1) == u'Z' ? u"ZPV"_s : u"QHX"_s, name)
                              << QString::fromLatin1(layout);
     }
+}
+
+void addShapes()
+{
+    addModels();
     QTest::newRow("four bins a zone") << CabinetShape{2, 4, 1, false} << u"aaaa"_s;
 }
 

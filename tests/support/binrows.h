@@ -19,7 +19,9 @@ Q_DECLARE_METATYPE(holding::CabinetShape)
 /// "aab" for two bins beside one; it is as long as the row.
 namespace binrows {
 
-/// Test columns "shape" and "layout": every model, and a shape with four bins a zone.
+/// Test columns "shape" and "layout": every model.
+void addModels();
+/// The same, and a shape with four bins a zone, which no model has.
 void addShapes();
 
 /// Calls `look` with every way to fill four slots.
