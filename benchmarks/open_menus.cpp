@@ -28,6 +28,7 @@
 #include "benchmarks/bigmenu.h"
 #include "benchmarks/measured.h"
 #include "benchmarks/memory.h"
+#include "benchmarks/painted.h"
 #include "holding/menujson.h"
 #include "model/files.h"
 
@@ -35,38 +36,25 @@ namespace {
 
 constexpr std::array askedFor{1, 2, 10, 100, 200};
 
-/// Notes when an editor has been painted, and answers every message box with No.
-class Watcher final : public QObject
+/// Answers every message box with No.
+class Answerer final : public QObject
 {
 public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint && watched == m_awaited)
-            m_awaited = nullptr;
         auto *box = event->type() == QEvent::Show ? qobject_cast<QMessageBox *>(watched) : nullptr;
         if (box)
             QMetaObject::invokeMethod(
                 box, [box] { box->done(QMessageBox::No); }, Qt::QueuedConnection);
         return false;
     }
-
-    void waitUntilPainted(const QWidget *widget)
-    {
-        m_awaited = widget;
-        while (m_awaited)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        QCoreApplication::processEvents();
-    }
-
-private:
-    const QObject *m_awaited = nullptr;
 };
 
-void open(const QString &path, MainWindow &window, Watcher &watcher)
+void open(const QString &path, MainWindow &window, PaintWatch &watch)
 {
     window.openEditor(*productLineOfFile(path), path);
     const auto &area = *window.findChild<QMdiArea *>();
-    watcher.waitUntilPainted(area.subWindowList().constLast()->widget());
+    watch.waitUntilPainted(area.subWindowList().constLast()->widget());
 }
 
 void closeAll(const QMdiArea &area)
@@ -79,18 +67,18 @@ void closeAll(const QMdiArea &area)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void openAsked(const QString &path, MainWindow &window, Watcher &watcher)
+void openAsked(const QString &path, MainWindow &window, PaintWatch &watch)
 {
     long memory = residentKib();
     int lineBefore = 0;
     for (int number = 1; number <= askedFor.back(); ++number) {
         if (std::find(askedFor.begin(), askedFor.end(), number) == askedFor.end()) {
-            open(path, window, watcher);
+            open(path, window, watch);
             continue;
         }
         QElapsedTimer timer;
         timer.start();
-        measured([&] { open(path, window, watcher); });
+        measured([&] { open(path, window, watch); });
         const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
         const long memoryNow = residentKib();
         std::printf("%d %.2f %ld\n", number, milliseconds, (memoryNow - memory) / (number - lineBefore));
@@ -111,13 +99,14 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
     }
     MainWindow window;
-    Watcher watcher;
-    qApp->installEventFilter(&watcher);
+    PaintWatch watch;
+    Answerer answerer;
+    qApp->installEventFilter(&answerer);
     window.showMaximized();
-    watcher.waitUntilPainted(window.menuBar());
+    watch.waitUntilPainted(window.menuBar());
 
     const long memoryAtStart = residentKib();
-    openAsked(path, window, watcher);
+    openAsked(path, window, watch);
     if (QCoreApplication::arguments().contains(QStringLiteral("open-only")))
         return EXIT_SUCCESS;
     closeAll(*window.findChild<QMdiArea *>());
