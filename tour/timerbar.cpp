@@ -95,16 +95,26 @@ void TimerBarChapter::lookAtEveryModel_data()
         QTest::newRow(qPrintable(model)) << model;
 }
 
+namespace {
+
+void chooseCelsiusModel(TimerBarConfig &dialog, const QString &model)
+{
+    ui::choose(dialog, "comboUnitModel", model);
+    ui::click(dialog, "rbTempUnitC");
+    ui::click(dialog, "btnAccept");
+}
+
+} // namespace
+
 void TimerBarChapter::lookAtEveryModel()
 {
     QFETCH(QString, model);
-    Answers answers(*this);
-    answers.expect<TimerBarConfig>([&model](TimerBarConfig &dialog) {
-        ui::choose(dialog, "comboUnitModel", model);
-        ui::click(dialog, "rbTempUnitC");
-        ui::click(dialog, "btnAccept");
-    });
-    ui::click(*activeEditor<TimerBarMenuFile>(), "btnConfig");
+    {
+        Answers answers(*this);
+        answers.expect<TimerBarConfig>(
+            [&model](TimerBarConfig &dialog) { chooseCelsiusModel(dialog, model); });
+        ui::click(*activeEditor<TimerBarMenuFile>(), "btnConfig");
+    }
     clickTab(daypartsTab);
     shot(u"timer-bar-model-"_s + model.toLower());
     if (model == timerbar::cabinetModels().constLast())

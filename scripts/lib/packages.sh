@@ -13,7 +13,7 @@
     packages_display=(x11-utils)
     packages_wayland=(qt6-wayland)
     packages_tour=(openbox x11-utils xvfb)
-    packages_lint=(appstream clang-14 clang-format-14 clang-tidy-14 desktop-file-utils libxml2-utils
+    packages_lint=(appstream clang-14 clang-format-14 clang-tidy-14 clazy desktop-file-utils libxml2-utils
                    shellcheck)
     packages_bench=(valgrind)
 }
