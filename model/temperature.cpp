@@ -44,6 +44,12 @@ int storedTemperature(int shown, int unit)
     return unit == unitCelsius ? fahrenheitFromCelsius(shown) : shown;
 }
 
+int enteredTemperature(int boxValue, int storedFahrenheit, int unit)
+{
+    const bool untouched = boxValue == shownTemperature(storedFahrenheit, unit);
+    return untouched ? storedFahrenheit : storedTemperature(boxValue, unit);
+}
+
 QString unitText(int unit)
 {
     return unit == unitCelsius ? u"°C"_s : u"°F"_s;

@@ -17,6 +17,10 @@ inline constexpr int unitCelsius = 1;
 /// A stored temperature (°F) as a number of the given unit, and what is entered in that unit in °F.
 [[nodiscard]] int shownTemperature(int fahrenheit, int unit);
 [[nodiscard]] int storedTemperature(int shown, int unit);
+/// The temperature to store (°F) after an edit: what the box holds now, but the stored one to the degree
+/// while the box still shows what it was filled with. Otherwise 200 °F, shown as 93 °C, would become 199 °F
+/// by saving it untouched. `boxValue` is what the box really shows, also where its range moved it.
+[[nodiscard]] int enteredTemperature(int boxValue, int storedFahrenheit, int unit);
 
 /// "°C" for Celsius, else "°F".
 [[nodiscard]] QString unitText(int unit);

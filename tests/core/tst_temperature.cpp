@@ -25,6 +25,9 @@ private slots:
     void enteredCelsiusIsShownAgain();
     void followsUnit_data();
     void followsUnit();
+    void keepsUntouched_data();
+    void keepsUntouched();
+    void keepsEveryUntouched();
 };
 
 void TestTemperature::toCelsius_data()
@@ -127,6 +130,44 @@ void TestTemperature::followsUnit()
     QCOMPARE(storedTemperature(shown, unit), stored);
     QCOMPARE(temperatureText(stored, unit), text);
     QCOMPARE(unitText(unit), text.last(2));
+}
+
+void TestTemperature::keepsUntouched_data()
+{
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<int>("stored");
+    QTest::addColumn<int>("boxValue");
+    QTest::addColumn<int>("entered");
+    QTest::newRow("Fahrenheit, untouched") << unitFahrenheit << 200 << 200 << 200;
+    QTest::newRow("Fahrenheit, changed") << unitFahrenheit << 200 << 199 << 199;
+    QTest::newRow("Fahrenheit, moved into the box's range") << unitFahrenheit << 99 << 100 << 100;
+    QTest::newRow("Celsius, untouched between two degrees") << unitCelsius << 200 << 93 << 200;
+    QTest::newRow("Celsius, untouched on the degree") << unitCelsius << 199 << 93 << 199;
+    QTest::newRow("Celsius, one degree up") << unitCelsius << 200 << 94 << 201;
+    QTest::newRow("Celsius, one degree down") << unitCelsius << 200 << 92 << 198;
+    QTest::newRow("Celsius, untouched next to the notice") << unitCelsius << 155 << 68 << 155;
+    QTest::newRow("Celsius, entered next to the notice") << unitCelsius << 200 << 68 << 154;
+    QTest::newRow("Celsius, moved into the box's range") << unitCelsius << 99 << 38 << 100;
+    QTest::newRow("Celsius, nothing set") << unitCelsius << 0 << 0 << 0;
+    QTest::newRow("Celsius, set to nothing") << unitCelsius << 200 << 0 << 0;
+    QTest::newRow("Celsius, set from nothing") << unitCelsius << 0 << 93 << 199;
+}
+
+void TestTemperature::keepsUntouched()
+{
+    QFETCH(int, unit);
+    QFETCH(int, stored);
+    QFETCH(int, boxValue);
+    QFETCH(int, entered);
+    QCOMPARE(enteredTemperature(boxValue, stored, unit), entered);
+}
+
+void TestTemperature::keepsEveryUntouched()
+{
+    for (int stored = 0; stored <= 400; ++stored) {
+        for (const int unit : {unitFahrenheit, unitCelsius})
+            QCOMPARE(enteredTemperature(shownTemperature(stored, unit), stored, unit), stored);
+    }
 }
 
 QTEST_APPLESS_MAIN(TestTemperature)
