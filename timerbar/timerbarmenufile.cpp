@@ -54,7 +54,7 @@ TimerBarMenuFile::~TimerBarMenuFile() = default;
 
 bool TimerBarMenuFile::createMenu()
 {
-    TimerBarConfig dialog(this);
+    TimerBarConfig dialog(parentWidget()); // this editor is not shown yet, nothing can be centred on it
     dialog.setWindowTitle(tr("Configuration"));
     if (dialog.exec() != Accepted)
         return false;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QDir>
+#include <QPointer>
 
 #include "tests/gui/opentimerbar.h"
 #include "tests/gui/timerbarmenus.h"
@@ -26,6 +27,7 @@ class TestTimerBarMainWindow : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void cancelledConfigurationOpensNothing();
+    void configurationStandsOverTheMainWindow();
     void brokenFileOpensNothing_data();
     void brokenFileOpensNothing();
     void failedSaveUnderANewNameKeepsTheMenuOpen();
@@ -44,6 +46,17 @@ void TestTimerBarMainWindow::cancelledConfigurationOpensNothing()
     QCOMPARE(menus.menuCount(), 0);
     QVERIFY(menus.window().findChildren<TimerBarMenuFile *>().isEmpty());
     QVERIFY(menus.window().close()); // nothing is open: it does not ask
+}
+
+// The editor behind it is not shown yet: a dialog cannot be centred on it.
+void TestTimerBarMainWindow::configurationStandsOverTheMainWindow()
+{
+    TimerBarMenus menus;
+    ModalAnswers answers;
+    QPointer<QWidget> parent;
+    answers.onShown([&parent](const QDialog &dialog) { parent = dialog.parentWidget(); });
+    menus.newMenu(answers);
+    QCOMPARE(parent.data(), &menus.window());
 }
 
 void TestTimerBarMainWindow::brokenFileOpensNothing_data()
