@@ -116,8 +116,11 @@ void TimerBarProductEdit::writeRecord()
 {
     m_product.set_productName({m_ui->txtProductName->text()});
     m_product.set_productShortName(m_ui->txtShortName->text());
-    m_product.set_upperTemp(storedTemperature(m_ui->numTempUpper->value(), m_temperatureUnit));
-    m_product.set_lowerTemp(storedTemperature(m_ui->numTempLower->value(), m_temperatureUnit));
+    const auto entered = [this](const QSpinBox *box, int stored) {
+        return enteredTemperature(box->value(), stored, m_temperatureUnit);
+    };
+    m_product.set_upperTemp(entered(m_ui->numTempUpper, m_product.get_upperTemp()));
+    m_product.set_lowerTemp(entered(m_ui->numTempLower, m_product.get_lowerTemp()));
     if (std::min(m_product.get_lowerTemp(), m_product.get_upperTemp()) < leastCommonTemperature)
         messages::warning(this, tr("Temperature values less than 155°F are supported in cabinet IO software "
                                    "version 1.6.2 or newer"));

@@ -14,6 +14,8 @@ class TestTimerBarEdits : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void renamingKeepsTheBins();
+    void savingUnchangedKeepsTheBins_data();
+    void savingUnchangedKeepsTheBins();
     void newTemperatureEmptiesTheBins_data();
     void newTemperatureEmptiesTheBins();
     void newTemperatureOfAProductInNoBin();
@@ -53,6 +55,28 @@ void TestTimerBarEdits::renamingKeepsTheBins()
     menu.products[0] = soup;
     menu.products[0].upper = menu.products[0].lower = 116;
     menu.products[0].holdMinutes = 120;
+    QCOMPARE(editor.saved(), hex(menu));
+}
+
+void TestTimerBarEdits::savingUnchangedKeepsTheBins_data()
+{
+    QTest::addColumn<int>("unit");
+    QTest::newRow("Fahrenheit") << 0;
+    QTest::newRow("Celsius, which shows 93 for 200 °F") << 1;
+}
+
+void TestTimerBarEdits::savingUnchangedKeepsTheBins()
+{
+    QFETCH(int, unit);
+    cbr::Menu menu = baconHamChili(u"KTR22"_s, unit);
+    menu.products[0].upper = menu.products[0].lower = 101; // 200 °F
+    menu.dayparts[0] = {0, 100, 2, 0};
+    menu.dayparts[4] = {100, 0};
+    OpenTimerBar editor(menu);
+    ui::clickRow(editor.products(), 0);
+    open(editor, "btnEditProduct", // no warning follows
+         [](TimerBarProductEdit &dialog) { ui::click(dialog, "btnSave"); });
+    QCOMPARE(editor.button("btnDaypartSelect1_0").text(), u"BACN"_s);
     QCOMPARE(editor.saved(), hex(menu));
 }
 

@@ -29,6 +29,9 @@ private slots:
     void everythingIsSaved();
     void celsiusIsStoredInFahrenheit_data();
     void celsiusIsStoredInFahrenheit();
+    void untouchedCelsiusKeepsItsFahrenheit_data();
+    void untouchedCelsiusKeepsItsFahrenheit();
+    void celsiusChangedBackIsUntouched();
     void lowTemperaturesAreNoticed_data();
     void lowTemperaturesAreNoticed();
     void lowCelsiusIsNoticed();
@@ -262,12 +265,48 @@ void TestTimerBarProductEdit::celsiusIsStoredInFahrenheit()
 {
     QFETCH(int, celsius);
     QFETCH(int, fahrenheit);
-    Editing editing(1);
+    Editing editing(1, [](ProductInfo &product) {
+        product.set_upperTemp(190);
+        product.set_lowerTemp(190);
+    });
     ui::type(*editing.dialog, "numTempUpper", QString::number(celsius));
     ui::type(*editing.dialog, "numTempLower", QString::number(celsius));
     editing.saveAccepted();
     QCOMPARE(editing.product.get_upperTemp(), fahrenheit);
     QCOMPARE(editing.product.get_lowerTemp(), fahrenheit);
+}
+
+void TestTimerBarProductEdit::untouchedCelsiusKeepsItsFahrenheit_data()
+{
+    QTest::addColumn<int>("upper");
+    QTest::addColumn<int>("lower");
+    QTest::addColumn<QStringList>("stored");
+    QTest::newRow("93 °C would be 199 °F") << 215 << 200 << QStringList{u"215"_s, u"200"_s};
+    QTest::newRow("68 °C would be 154 °F and a notice") << 155 << 155 << QStringList{u"155"_s, u"155"_s};
+    QTest::newRow("beyond the boxes") << 354 << 240 << QStringList{u"225"_s, u"225"_s};
+}
+
+void TestTimerBarProductEdit::untouchedCelsiusKeepsItsFahrenheit()
+{
+    QFETCH(int, upper);
+    QFETCH(int, lower);
+    QFETCH(QStringList, stored);
+    Editing editing(1, [upper, lower](ProductInfo &product) {
+        product.set_upperTemp(upper);
+        product.set_lowerTemp(lower);
+    });
+    const ModalAnswers noBoxes;
+    editing.saveAccepted();
+    QCOMPARE(editing.record().sliced(2, 2), stored);
+}
+
+void TestTimerBarProductEdit::celsiusChangedBackIsUntouched()
+{
+    Editing editing(1);
+    ui::type(*editing.dialog, "numTempLower", u"94"_s);
+    ui::type(*editing.dialog, "numTempLower", u"93"_s);
+    editing.saveAccepted();
+    QCOMPARE(editing.product.get_lowerTemp(), 200);
 }
 
 void TestTimerBarProductEdit::lowTemperaturesAreNoticed_data()
