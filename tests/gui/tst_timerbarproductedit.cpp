@@ -18,8 +18,6 @@ private slots:
     void formShowsItsTexts();
     void fieldsShowTheProduct();
     void fieldsShowTheProductInCelsius();
-    void oddValuesAreClamped_data();
-    void oddValuesAreClamped();
     void faultsComeInOrder();
     void holdTimes_data();
     void holdTimes();
@@ -27,23 +25,12 @@ private slots:
     void alertTimes();
     void secondsCountForTheAlertOnly();
     void everythingIsSaved();
-    void celsiusIsStoredInFahrenheit_data();
-    void celsiusIsStoredInFahrenheit();
-    void untouchedCelsiusKeepsItsFahrenheit_data();
-    void untouchedCelsiusKeepsItsFahrenheit();
-    void celsiusChangedBackIsUntouched();
-    void lowTemperaturesAreNoticed_data();
-    void lowTemperaturesAreNoticed();
-    void lowCelsiusIsNoticed();
     void leavingChangesNothing_data();
     void leavingChangesNothing();
     void enterSaves();
 };
 
 namespace {
-
-const QString notice = u"Temperature values less than 155°F are supported in cabinet IO software version "
-                       "1.6.2 or newer"_s;
 
 using Editing = TimerBarProductEditing;
 
@@ -106,32 +93,6 @@ void TestTimerBarProductEdit::fieldsShowTheProductInCelsius()
     const Editing editing(1);
     QCOMPARE(editing.get<QSpinBox>("numTempUpper").value(), 102);
     QCOMPARE(editing.get<QSpinBox>("numTempLower").value(), 93);
-}
-
-void TestTimerBarProductEdit::oddValuesAreClamped_data()
-{
-    QTest::addColumn<int>("unit");
-    QTest::addColumn<int>("fahrenheit");
-    QTest::addColumn<int>("shown");
-    QTest::newRow("none in °F") << 0 << 0 << 100;
-    QTest::newRow("99 °F") << 0 << 99 << 100;
-    QTest::newRow("354 °F") << 0 << 354 << 225;
-    QTest::newRow("none in °C") << 1 << 0 << 38;
-    QTest::newRow("99 °F in °C") << 1 << 99 << 38;
-    QTest::newRow("354 °F in °C") << 1 << 354 << 107;
-}
-
-void TestTimerBarProductEdit::oddValuesAreClamped()
-{
-    QFETCH(int, unit);
-    QFETCH(int, fahrenheit);
-    QFETCH(int, shown);
-    const Editing editing(unit, [fahrenheit](ProductInfo &product) {
-        product.set_upperTemp(fahrenheit);
-        product.set_lowerTemp(fahrenheit);
-    });
-    QCOMPARE(editing.get<QSpinBox>("numTempUpper").value(), shown);
-    QCOMPARE(editing.get<QSpinBox>("numTempLower").value(), shown);
 }
 
 void TestTimerBarProductEdit::faultsComeInOrder()
@@ -248,107 +209,6 @@ void TestTimerBarProductEdit::everythingIsSaved()
              (QStringList{u"Turkey Leg 2"_s, u"tUr2"_s, u"225"_s, u"155"_s, u"9000"_s, u"4500"_s}));
     QCOMPARE(editing.product.get_productId(), 9);
     QCOMPARE(editing.product.get_fanSpeed(), 60);
-}
-
-void TestTimerBarProductEdit::celsiusIsStoredInFahrenheit_data()
-{
-    QTest::addColumn<int>("celsius");
-    QTest::addColumn<int>("fahrenheit");
-    QTest::newRow("69") << 69 << 156;
-    QTest::newRow("93") << 93 << 199;
-    QTest::newRow("100") << 100 << 212;
-    QTest::newRow("102") << 102 << 216;
-    QTest::newRow("107") << 107 << 225;
-}
-
-void TestTimerBarProductEdit::celsiusIsStoredInFahrenheit()
-{
-    QFETCH(int, celsius);
-    QFETCH(int, fahrenheit);
-    Editing editing(1, [](ProductInfo &product) {
-        product.set_upperTemp(190);
-        product.set_lowerTemp(190);
-    });
-    ui::type(*editing.dialog, "numTempUpper", QString::number(celsius));
-    ui::type(*editing.dialog, "numTempLower", QString::number(celsius));
-    editing.saveAccepted();
-    QCOMPARE(editing.product.get_upperTemp(), fahrenheit);
-    QCOMPARE(editing.product.get_lowerTemp(), fahrenheit);
-}
-
-void TestTimerBarProductEdit::untouchedCelsiusKeepsItsFahrenheit_data()
-{
-    QTest::addColumn<int>("upper");
-    QTest::addColumn<int>("lower");
-    QTest::addColumn<QStringList>("stored");
-    QTest::newRow("93 °C would be 199 °F") << 215 << 200 << QStringList{u"215"_s, u"200"_s};
-    QTest::newRow("68 °C would be 154 °F and a notice") << 155 << 155 << QStringList{u"155"_s, u"155"_s};
-    QTest::newRow("beyond the boxes") << 354 << 240 << QStringList{u"225"_s, u"225"_s};
-}
-
-void TestTimerBarProductEdit::untouchedCelsiusKeepsItsFahrenheit()
-{
-    QFETCH(int, upper);
-    QFETCH(int, lower);
-    QFETCH(QStringList, stored);
-    Editing editing(1, [upper, lower](ProductInfo &product) {
-        product.set_upperTemp(upper);
-        product.set_lowerTemp(lower);
-    });
-    const ModalAnswers noBoxes;
-    editing.saveAccepted();
-    QCOMPARE(editing.record().sliced(2, 2), stored);
-}
-
-void TestTimerBarProductEdit::celsiusChangedBackIsUntouched()
-{
-    Editing editing(1);
-    ui::type(*editing.dialog, "numTempLower", u"94"_s);
-    ui::type(*editing.dialog, "numTempLower", u"93"_s);
-    editing.saveAccepted();
-    QCOMPARE(editing.product.get_lowerTemp(), 200);
-}
-
-void TestTimerBarProductEdit::lowTemperaturesAreNoticed_data()
-{
-    QTest::addColumn<int>("upper");
-    QTest::addColumn<int>("lower");
-    QTest::addColumn<bool>("noticed");
-    QTest::newRow("both 155") << 155 << 155 << false;
-    QTest::newRow("upper 154") << 154 << 155 << true;
-    QTest::newRow("lower 154") << 155 << 154 << true;
-    QTest::newRow("both 100, one box") << 100 << 100 << true;
-}
-
-void TestTimerBarProductEdit::lowTemperaturesAreNoticed()
-{
-    QFETCH(int, upper);
-    QFETCH(int, lower);
-    QFETCH(bool, noticed);
-    Editing editing;
-    ui::type(*editing.dialog, "numTempUpper", QString::number(upper));
-    ui::type(*editing.dialog, "numTempLower", QString::number(lower));
-    ModalAnswers answers;
-    if (noticed)
-        answers.expectBox(ModalAnswers::removalWarning(notice), QMessageBox::Ok);
-    editing.saveAccepted();
-    QCOMPARE(editing.product.get_upperTemp(), upper);
-    QCOMPARE(editing.product.get_lowerTemp(), lower);
-}
-
-void TestTimerBarProductEdit::lowCelsiusIsNoticed()
-{
-    Editing editing(1);
-    ui::type(*editing.dialog, "numTempLower", u"68"_s);
-    ui::type(*editing.dialog, "txtProductName", u"Ham"_s);
-    ModalAnswers answers;
-    answers.expect<QMessageBox>([&editing](QMessageBox &box) {
-        QCOMPARE(box.text(), notice);
-        QCOMPARE(editing.product.get_productName(), QStringList{u"Ham"_s}); // stored by then
-        QTest::keyClick(&box, Qt::Key_Escape);                              // a notice only
-    });
-    editing.saveAccepted();
-    QCOMPARE(editing.product.get_lowerTemp(), 154);
 }
 
 void TestTimerBarProductEdit::leavingChangesNothing_data()
