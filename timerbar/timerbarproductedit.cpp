@@ -25,14 +25,17 @@ constexpr int maxHoldSeconds = 8 * 60 * 60;
 // Cabinets with older software know no lower temperatures.
 constexpr int leastCommonTemperature = 155;
 
-int wholeMinutesOf(const QTimeEdit *edit)
+QTime timeOfDay(int seconds)
 {
-    return edit->time().hour() * 3600 + edit->time().minute() * 60;
+    return QTime(0, 0).addSecs(seconds);
 }
 
-int secondsOf(const QTimeEdit *edit)
+// A box shows a time of day, whereas files can hold times of 24 h and more: 24:30 is shown as 00:30. While a
+// box still shows what it was filled with, the product's own time counts, in the checks as in the record. So
+// saving never turns such a time into a short one unseen; it is refused until another one is entered.
+int enteredSeconds(const QTimeEdit *edit, int storedSeconds)
 {
-    return QTime(0, 0).secsTo(edit->time());
+    return edit->time() == timeOfDay(storedSeconds) ? storedSeconds : QTime(0, 0).secsTo(edit->time());
 }
 
 bool isLetterOrDigit(QChar character)
@@ -77,8 +80,8 @@ void TimerBarProductEdit::fillFields()
         box->setRange(celsius ? 38 : 100, celsius ? 107 : 225);
     m_ui->numTempUpper->setValue(shownTemperature(m_product.get_upperTemp(), m_temperatureUnit));
     m_ui->numTempLower->setValue(shownTemperature(m_product.get_lowerTemp(), m_temperatureUnit));
-    m_ui->timeHoldTime->setTime(QTime(0, 0).addSecs(m_product.get_holdTime()));
-    m_ui->timeWarningTime->setTime(QTime(0, 0).addSecs(m_product.get_warningTime()));
+    m_ui->timeHoldTime->setTime(timeOfDay(m_product.get_holdTime()));
+    m_ui->timeWarningTime->setTime(timeOfDay(m_product.get_warningTime()));
 }
 
 void TimerBarProductEdit::on_btnCancel_clicked()
@@ -92,40 +95,59 @@ void TimerBarProductEdit::on_btnSave_clicked()
         messages::entryFault(this, fault);
         return;
     }
-    writeRecord();
+    storeNamesAndTemperatures();
+    noticeLowTemperatures();
+    storeTimes();
     done(1);
+}
+
+int TimerBarProductEdit::holdSeconds() const
+{
+    return enteredSeconds(m_ui->timeHoldTime, m_product.get_holdTime()) / 60 * 60; // whole minutes
+}
+
+int TimerBarProductEdit::alertSeconds() const
+{
+    return enteredSeconds(m_ui->timeWarningTime, m_product.get_warningTime());
 }
 
 QString TimerBarProductEdit::firstFault() const
 {
-    const int holdSeconds = wholeMinutesOf(m_ui->timeHoldTime);
     if (m_ui->txtProductName->text().isEmpty())
         return tr("Product name is empty!");
     if (m_ui->txtShortName->text().isEmpty())
         return tr("Product short name is empty!");
-    if (holdSeconds < minHoldSeconds)
+    if (holdSeconds() < minHoldSeconds)
         return tr("Invalid hold time. Minimum value is 6 minutes!");
-    if (holdSeconds > maxHoldSeconds)
+    if (holdSeconds() > maxHoldSeconds)
         return tr("Invalid hold time. Maximum value is 8 hours!");
-    if (holdSeconds <= secondsOf(m_ui->timeWarningTime))
+    if (holdSeconds() <= alertSeconds())
         return tr("Invalid cook more alert time. Value must be less than hold time!");
     return {};
 }
 
-void TimerBarProductEdit::writeRecord()
+void TimerBarProductEdit::storeNamesAndTemperatures()
 {
-    m_product.set_productName({m_ui->txtProductName->text()});
-    m_product.set_productShortName(m_ui->txtShortName->text());
     const auto entered = [this](const QSpinBox *box, int stored) {
         return enteredTemperature(box->value(), stored, m_temperatureUnit);
     };
+    m_product.set_productName({m_ui->txtProductName->text()});
+    m_product.set_productShortName(m_ui->txtShortName->text());
     m_product.set_upperTemp(entered(m_ui->numTempUpper, m_product.get_upperTemp()));
     m_product.set_lowerTemp(entered(m_ui->numTempLower, m_product.get_lowerTemp()));
+}
+
+void TimerBarProductEdit::noticeLowTemperatures()
+{
     if (std::min(m_product.get_lowerTemp(), m_product.get_upperTemp()) < leastCommonTemperature)
         messages::warning(this, tr("Temperature values less than 155°F are supported in cabinet IO software "
                                    "version 1.6.2 or newer"));
-    m_product.set_holdTime(wholeMinutesOf(m_ui->timeHoldTime));
-    m_product.set_warningTime(secondsOf(m_ui->timeWarningTime));
+}
+
+void TimerBarProductEdit::storeTimes()
+{
+    m_product.set_holdTime(holdSeconds());
+    m_product.set_warningTime(alertSeconds());
 }
 
 void TimerBarProductEdit::on_txtShortName_textChanged(const QString &arg1)

@@ -35,7 +35,11 @@ private:
     void fillFields();
     void revert(QLineEdit *edit, const QString &acceptedText, const QString &message);
     [[nodiscard]] QString firstFault() const;
-    void writeRecord();
+    [[nodiscard]] int holdSeconds() const;
+    [[nodiscard]] int alertSeconds() const;
+    void storeNamesAndTemperatures();
+    void noticeLowTemperatures();
+    void storeTimes();
 
     std::unique_ptr<Ui::TimerBarProductEdit> m_ui;
     ProductInfo &m_product;

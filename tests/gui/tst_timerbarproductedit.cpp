@@ -24,6 +24,9 @@ private slots:
     void alertTimes_data();
     void alertTimes();
     void secondsCountForTheAlertOnly();
+    void timesOfADayAndMoreAreRefused_data();
+    void timesOfADayAndMoreAreRefused();
+    void timeOfADayAndMoreCanBeReplaced();
     void everythingIsSaved();
     void leavingChangesNothing_data();
     void leavingChangesNothing();
@@ -189,6 +192,54 @@ void TestTimerBarProductEdit::secondsCountForTheAlertOnly()
     Editing longest(0, [](ProductInfo &product) { product.set_holdTime(8 * 3600 + 59); });
     longest.saveAccepted();
     QCOMPARE(longest.product.get_holdTime(), 8 * 3600);
+}
+
+void TestTimerBarProductEdit::timesOfADayAndMoreAreRefused_data()
+{
+    QTest::addColumn<int>("holdMinutes");
+    QTest::addColumn<int>("alertMinutes");
+    QTest::addColumn<QTime>("shownHold");
+    QTest::addColumn<QTime>("shownAlert");
+    QTest::addColumn<QString>("message");
+    const QString tooLong = u"Invalid hold time. Maximum value is 8 hours!"_s;
+    const QString lateAlert = u"Invalid cook more alert time. Value must be less than hold time!"_s;
+    QTest::newRow("hold 24:00") << 1440 << 10 << QTime(0, 0) << QTime(0, 10) << tooLong;
+    QTest::newRow("hold 24:30, shown as one that may be saved")
+        << 1470 << 10 << QTime(0, 30) << QTime(0, 10) << tooLong;
+    QTest::newRow("the longest of a file") << 65535 << 10 << QTime(12, 15) << QTime(0, 10) << tooLong;
+    QTest::newRow("alert 24:10") << 60 << 1450 << QTime(1, 0) << QTime(0, 10) << lateAlert;
+}
+
+// Nothing is changed behind the user's back.
+void TestTimerBarProductEdit::timesOfADayAndMoreAreRefused()
+{
+    QFETCH(int, holdMinutes);
+    QFETCH(int, alertMinutes);
+    QFETCH(QTime, shownHold);
+    QFETCH(QTime, shownAlert);
+    QFETCH(QString, message);
+    Editing editing(0, [holdMinutes, alertMinutes](ProductInfo &product) {
+        product.set_holdTime(holdMinutes * 60);
+        product.set_warningTime(alertMinutes * 60);
+    });
+    QCOMPARE(editing.get<QTimeEdit>("timeHoldTime").time(), shownHold);
+    QCOMPARE(editing.get<QTimeEdit>("timeWarningTime").time(), shownAlert);
+    ui::type(*editing.dialog, "txtProductName", u"Ham"_s);
+    editing.saveRefused(message);
+}
+
+void TestTimerBarProductEdit::timeOfADayAndMoreCanBeReplaced()
+{
+    Editing editing(0, [](ProductInfo &product) {
+        product.set_holdTime(1470 * 60);
+        product.set_warningTime(1450 * 60);
+    });
+    editing.enterTime("timeHoldTime", 0, 45);
+    editing.saveRefused(u"Invalid cook more alert time. Value must be less than hold time!"_s);
+    editing.enterTime("timeWarningTime", 0, 5);
+    editing.saveAccepted();
+    QCOMPARE(editing.product.get_holdTime(), 45 * 60);
+    QCOMPARE(editing.product.get_warningTime(), 5 * 60);
 }
 
 void TestTimerBarProductEdit::everythingIsSaved()
