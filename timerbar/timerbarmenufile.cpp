@@ -84,6 +84,7 @@ bool TimerBarMenuFile::readMenuFile()
 {
     const QString path = filePath();
     const std::optional<QByteArray> bytes = readFile(path);
+    m_menu = {};
     const QString fault = bytes ? timerbar::readMenu(*bytes, m_menu) : tr("Failed to open the file:") + path;
     if (!fault.isEmpty()) {
         messages::fileFault(fault);
