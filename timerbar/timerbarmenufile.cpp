@@ -114,7 +114,6 @@ void TimerBarMenuFile::loadDefaultMenu()
 void TimerBarMenuFile::loadMenuFile()
 {
     m_products.setMultiSelecting(false);
-    m_ui->lblCabinet->setText(tr("Cabinet: Timer Bar %1, %2").arg(model(), unitText(temperatureUnit())));
     loadProducts();
     loadProductInfo();
     loadDayparts();
@@ -122,7 +121,7 @@ void TimerBarMenuFile::loadMenuFile()
 
 void TimerBarMenuFile::loadCabinetInfo()
 {
-    m_shape = m_menu.shape();
+    m_ui->lblCabinet->setText(tr("Cabinet: Timer Bar %1, %2").arg(model(), unitText(temperatureUnit())));
 }
 
 void TimerBarMenuFile::on_btnConfig_clicked()

@@ -47,7 +47,7 @@ public slots:
     void loadDefaultMenu();
     /// Shows everything anew, with no current row.
     void loadMenuFile();
-    void loadCabinetInfo();
+    void loadCabinetInfo(); ///< the line above the tabs
     void loadProducts();
     void loadProductInfo();
     void loadDayparts();
@@ -83,12 +83,11 @@ private:
 
     void prepareGrid();
     void showRemovalMode(bool removing);
-    void registerBins();
+    void registerBins(const timerbar::CabinetShape &shape);
     [[nodiscard]] timerbar::DaypartCells *currentCells(); ///< null while no day part is selected
 
     std::unique_ptr<Ui::TimerBarMenuFile> m_ui;
     timerbar::Menu m_menu;
-    timerbar::CabinetShape m_shape; ///< of the model, kept up by loadCabinetInfo()
     EntryPane m_products;
     BinGrid m_grid;
 };

@@ -80,11 +80,12 @@ void TimerBarMenuFile::loadDayparts()
 #define HIDE_BIN_BUTTON(button) m_ui->button->hide();
     FOR_EACH_TIMER_BAR_BIN_BUTTON(HIDE_BIN_BUTTON)
 #undef HIDE_BIN_BUTTON
-    m_ui->frameRightPair->setVisible(m_shape.columnLayout == 2);
+    const timerbar::CabinetShape shape = m_menu.shape();
+    m_ui->frameRightPair->setVisible(shape.columnLayout == 2);
     m_ui->frameLeftPair->setFixedWidth(pairWidth);
-    m_ui->frameRightPair->setFixedWidth(m_shape.threeColumns ? oneBinPairWidth : pairWidth);
-    if (m_shape.rows >= 2 && m_shape.rows <= timerbar::maxRows)
-        registerBins();
+    m_ui->frameRightPair->setFixedWidth(shape.threeColumns ? oneBinPairWidth : pairWidth);
+    if (shape.rows >= 2 && shape.rows <= timerbar::maxRows)
+        registerBins(shape);
     else
         messages::fileFault(tr("Invalid number of rows!"));
     {
@@ -95,10 +96,10 @@ void TimerBarMenuFile::loadDayparts()
     loadCurrentDaypart();
 }
 
-void TimerBarMenuFile::registerBins()
+void TimerBarMenuFile::registerBins(const timerbar::CabinetShape &shape)
 {
-    for (int row = 0; row < m_shape.rows; ++row) {
-        for (int column = 0; column < m_shape.columns(); ++column) {
+    for (int row = 0; row < shape.rows; ++row) {
+        for (int column = 0; column < shape.columns(); ++column) {
             QPushButton *button = (*m_ui).*cellAt(binButtons, {row, column});
             m_grid.add(button, {row, column});
             button->show();
