@@ -3,13 +3,14 @@
 
 #include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTimer>
 
 #include "tests/gui/holdtime.h"
-#include "tests/gui/opentimerbar.h"
+#include "tests/gui/timerbarlist.h"
 #include "tests/support/warnings.h"
 #include "timerbar/timerbarconfig.h"
 #include "timerbar/timerbardaypartassignitem.h"
-#include "timerbar/timerbarproductedit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +23,7 @@ private slots:
     void init();
     void cleanup() { m_editor.reset(); }
     void holdEntersTheMode();
+    void holdIsDetectedInTime();
     void shortPressAssigns();
     void holdOnAnEmptyBinDoesNothing();
     void pressThatLeavesTheButtonDoesNothing();
@@ -35,6 +37,9 @@ private slots:
     void gridStaysInPlace();
     void acceptedConfigurationLeavesTheMode();
     void deletedProductLeavesTheMode();
+    void acceptedEditLeavesTheMode();
+    void otherProductWorkKeepsTheMode_data();
+    void otherProductWorkKeepsTheMode();
     void modeCanBeEnteredAgain();
 
 private:
@@ -155,6 +160,23 @@ void TestTimerBarRemoval::holdEntersTheMode()
     release(held);
     QCOMPARE(marks(), u".x...."_s);
     QCOMPARE(m_editor->saved(), hex(m_menu));
+}
+
+// Without a clock: a timer that starts later and runs a little longer must not come first.
+void TestTimerBarRemoval::holdIsDetectedInTime()
+{
+    QPushButton &held = bin(bins[0]);
+    QTimer late;
+    late.setSingleShot(true);
+    late.setTimerType(Qt::PreciseTimer);
+    bool wasInTime = false;
+    connect(&late, &QTimer::timeout, this, [&held, &wasInTime] { wasInTime = held.isCheckable(); });
+    QSignalSpy over(&late, &QTimer::timeout);
+    press(held);
+    late.start(900);
+    QVERIFY(over.wait());
+    QVERIFY(wasInTime);
+    release(held);
 }
 
 void TestTimerBarRemoval::shortPressAssigns()
@@ -308,6 +330,53 @@ void TestTimerBarRemoval::deletedProductLeavesTheMode()
     m_editor->showTab(1);
     checkNormal();
     QCOMPARE(bin(bins[0]).text(), QString());
+}
+
+// The bins show the product anew.
+void TestTimerBarRemoval::acceptedEditLeavesTheMode()
+{
+    hold(bins[0]);
+    m_editor->showTab(0);
+    ui::clickRow(m_editor->products(), 0);
+    timerbarlist::open(*m_editor, "btnEditProduct",
+                       [](TimerBarProductEdit &dialog) { ui::click(dialog, "btnSave"); });
+    m_editor->showTab(1);
+    checkNormal();
+    QCOMPARE(m_editor->saved(), hex(m_menu));
+}
+
+void TestTimerBarRemoval::otherProductWorkKeepsTheMode_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("Add") << QByteArray("btnAddProduct") << true;
+    QTest::newRow("Duplicate") << QByteArray("btnDuplicateProduct") << true;
+    QTest::newRow("Edit, cancelled") << QByteArray("btnEditProduct") << false;
+    QTest::newRow("Add, cancelled") << QByteArray("btnAddProduct") << false;
+}
+
+// What it does touches no bin, so the marks stand where they were.
+void TestTimerBarRemoval::otherProductWorkKeepsTheMode()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(bool, accepted);
+    hold(bins[0]);
+    m_editor->showTab(0);
+    ui::clickRow(m_editor->products(), 0);
+    timerbarlist::open(*m_editor, button.constData(),
+                       accepted ? timerbarlist::saveAsSoup : timerbarlist::cancel);
+    m_editor->showTab(1);
+    QCOMPARE(states(), u"cccdcc"_s);
+    QCOMPARE(marks(), u"x....."_s);
+    ui::click(bin("btnDaypartRemove"));
+    checkNormal();
+    cbr::Menu expected = m_menu;
+    if (accepted)
+        expected.products.append(timerbarlist::soup);
+    if (button == "btnDuplicateProduct") // with the temperatures and times of bacon
+        expected.products.last().upper = expected.products.last().lower = 116;
+    expected.dayparts[0][0] = 100;
+    QCOMPARE(m_editor->saved(), hex(expected));
 }
 
 void TestTimerBarRemoval::modeCanBeEnteredAgain()
