@@ -19,6 +19,8 @@ private slots:
     void newTemperatureEmptiesTheBins_data();
     void newTemperatureEmptiesTheBins();
     void newTemperatureOfAProductInNoBin();
+    void lowTemperatureIsNoticedBeforeTheBins();
+    void timesOfADayAndMoreStay();
     void doubleClickEdits();
     void cancelledEditChangesNothing();
     void deleteAsks_data();
@@ -123,6 +125,52 @@ void TestTimerBarEdits::newTemperatureOfAProductInNoBin()
     });
     QCOMPARE(editor.detail("TempUpper"), u"200°F"_s);
     menu.products[2].upper = 101;
+    QCOMPARE(editor.saved(), hex(menu));
+}
+
+void TestTimerBarEdits::lowTemperatureIsNoticedBeforeTheBins()
+{
+    cbr::Menu menu = baconHamChili();
+    menu.dayparts[0] = {0, 1, 100, 0};
+    OpenTimerBar editor(menu);
+    ui::clickRow(editor.products(), 0);
+    ModalAnswers answers;
+    answers.expect<TimerBarProductEdit>([](TimerBarProductEdit &dialog) {
+        ui::type(dialog, "numTempLower", u"154"_s);
+        ui::click(dialog, "btnSave");
+    });
+    answers.expect<QMessageBox>([&editor](QMessageBox &box) {
+        QCOMPARE(box.text(), u"Temperature values less than 155°F are supported in cabinet IO software "
+                             "version 1.6.2 or newer"_s);
+        QCOMPARE(editor.button("btnDaypartSelect1_0").text(), u"BACN"_s); // still there
+        ui::click(*box.button(QMessageBox::Ok));
+    });
+    answers.expectBox(leftTheDayparts(), QMessageBox::Close);
+    ui::click(*editor, "btnEditProduct");
+    menu.products[0].lower = 55;
+    menu.dayparts[0] = {100, 1, 100, 100};
+    QCOMPARE(editor.saved(), hex(menu));
+}
+
+// Shown as a time of day, but not made one.
+void TestTimerBarEdits::timesOfADayAndMoreStay()
+{
+    cbr::Menu menu = baconHamChili();
+    menu.products[0].holdMinutes = 1470;
+    menu.products[0].alertMinutes = 1445;
+    OpenTimerBar editor(menu);
+    ui::clickRow(editor.products(), 0);
+    QCOMPARE(editor.detail("HoldTime"), u"00:30"_s);
+    QCOMPARE(editor.detail("WarningTime"), u"00:05"_s);
+    ModalAnswers answers;
+    answers.expect<TimerBarProductEdit>([](TimerBarProductEdit &dialog) {
+        ui::click(dialog, "btnSave");
+        ui::activate(dialog);
+        ui::click(dialog, "btnCancel");
+    });
+    answers.expectBox(ModalAnswers::entryFault(u"Invalid hold time. Maximum value is 8 hours!"_s),
+                      QMessageBox::Close);
+    ui::click(*editor, "btnEditProduct");
     QCOMPARE(editor.saved(), hex(menu));
 }
 

@@ -23,6 +23,7 @@ private slots:
     void everyBinIsAssignedByItsButton();
     void toolTipsTellTheProduct_data();
     void toolTipsTellTheProduct();
+    void toolTipsFollowTheConfiguredUnit();
     void neighbourDecidesWhatFits_data();
     void neighbourDecidesWhatFits();
     void otherDaypartsStayAsTheyAre();
@@ -83,11 +84,12 @@ QList<bool> fittingRows(OpenTimerBar &editor, const QByteArray &bin)
     return fitting;
 }
 
-void configure(OpenTimerBar &editor, const QString &model)
+void configure(OpenTimerBar &editor, const QString &model, const char *unit = "rbTempUnitF")
 {
     ModalAnswers answers;
-    answers.expect<TimerBarConfig>([&model](TimerBarConfig &dialog) {
+    answers.expect<TimerBarConfig>([&model, unit](TimerBarConfig &dialog) {
         ui::choose(dialog, "comboUnitModel", model);
+        ui::click(dialog, unit);
         ui::click(dialog, "btnAccept");
     });
     ui::click(*editor, "btnConfig");
@@ -196,6 +198,18 @@ void TestTimerBarGrid::toolTipsTellTheProduct()
     QCOMPARE(binButton(editor, "11").toolTip(), QString());
     editor.showDaypart(u"Lunch"_s);
     QCOMPARE(binButton(editor, "10").toolTip(), QString());
+}
+
+void TestTimerBarGrid::toolTipsFollowTheConfiguredUnit()
+{
+    cbr::Menu menu = baconHamChili();
+    menu.dayparts[0] = {2};
+    OpenTimerBar editor(menu);
+    configure(editor, u"KTR22"_s, "rbTempUnitC");
+    QCOMPARE(binButton(editor, "10").toolTip(), u"Chili\nTemperature: 88°C / 82°C"_s);
+    configure(editor, u"KTR22"_s, "rbTempUnitF");
+    QCOMPARE(binButton(editor, "10").toolTip(), u"Chili\nTemperature: 190°F / 180°F"_s);
+    QCOMPARE(editor.saved(), hex(menu));
 }
 
 void TestTimerBarGrid::neighbourDecidesWhatFits_data()

@@ -19,6 +19,8 @@ private slots:
     void rowsAreChosen();
     void deleteTakesTheSelectedRows();
     void deleteTakesAll();
+    void everyRowIsChosenAtOnce();
+    void refusedDeleteKeepsTheSelection_data();
     void refusedDeleteKeepsTheSelection();
     void editNeedsTheModeOff();
     void addKeepsTheMode();
@@ -164,14 +166,35 @@ void TestTimerBarMultiSelection::deleteTakesAll()
     QCOMPARE(enabledButtons(editor), u"A..."_s);
 }
 
+void TestTimerBarMultiSelection::everyRowIsChosenAtOnce()
+{
+    OpenTimerBar editor(fiveProducts());
+    switchMode(editor);
+    ui::clickRow(editor.products(), 2);
+    QTest::keyClick(&editor.products(), Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(chosenRows(editor), (QList<int>{0, 1, 2, 3, 4}));
+    QCOMPARE(enabledButtons(editor), u"A..X"_s);
+}
+
+void TestTimerBarMultiSelection::refusedDeleteKeepsTheSelection_data()
+{
+    QTest::addColumn<bool>("escape");
+    QTest::newRow("No") << false;
+    QTest::newRow("Escape") << true;
+}
+
 void TestTimerBarMultiSelection::refusedDeleteKeepsTheSelection()
 {
+    QFETCH(bool, escape);
     OpenTimerBar editor(fiveProducts());
     switchMode(editor);
     ui::clickRow(editor.products(), 2);
     ui::clickRow(editor.products(), 3);
     ModalAnswers answers;
-    answers.expectBox(deleteQuestion(), QMessageBox::No);
+    if (escape)
+        answers.expectBoxEscaped(deleteQuestion());
+    else
+        answers.expectBox(deleteQuestion(), QMessageBox::No);
     ui::click(*editor, "btnDeleteProduct");
     QCOMPARE(chosenRows(editor), (QList<int>{2, 3}));
     QCOMPARE(editor.button("btnSelectMultiProduct").text(), u"Cancel Selection"_s);

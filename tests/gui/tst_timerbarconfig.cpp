@@ -24,6 +24,7 @@ private slots:
     void formShowsItsTexts();
     void valuesAreShown_data();
     void valuesAreShown();
+    void unknownModelIsNotShown();
     void saveTakesTheValues_data();
     void saveTakesTheValues();
     void leavingTakesNothing_data();
@@ -98,6 +99,19 @@ void TestTimerBarConfig::valuesAreShown()
     QCOMPARE(shownUnit(dialog), shown);
     QCOMPARE(shownModel(dialog), u"KTR34"_s);
     QCOMPARE(int(dialog.getTempUnit()), unit);
+    QCOMPARE(dialog.getCabinetModel(), u"KTR34"_s);
+}
+
+// It is kept, while the list goes on offering what it has; Save takes what is shown.
+void TestTimerBarConfig::unknownModelIsNotShown()
+{
+    TimerBarConfig dialog;
+    dialog.setCabinetModel(u"KTR34"_s);
+    dialog.setCabinetModel(u"ktr42"_s);
+    ui::show(dialog);
+    QCOMPARE(dialog.getCabinetModel(), u"ktr42"_s);
+    QCOMPARE(shownModel(dialog), u"KTR34"_s);
+    ui::click(dialog, "btnAccept");
     QCOMPARE(dialog.getCabinetModel(), u"KTR34"_s);
 }
 

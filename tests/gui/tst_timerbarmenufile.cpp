@@ -45,6 +45,11 @@ std::unique_ptr<TimerBarMenuFile> newMenu()
     return newMenu([](TimerBarConfig &dialog) { ui::click(dialog, "btnAccept"); });
 }
 
+QString shownCabinet(const TimerBarMenuFile &editor)
+{
+    return ui::get<QLabel>(editor, "lblCabinet").text();
+}
+
 QByteArray written(TimerBarMenuFile &editor)
 {
     const TestFolder folder;
@@ -113,6 +118,7 @@ void TestTimerBarMenuFile::newMenuAsksForTheCabinet()
     QCOMPARE(editor->windowTitle(), u"TimerBar Menu File - "_s);
     QCOMPARE(editor->model(), u"KTR34"_s);
     QCOMPARE(editor->temperatureUnit(), 1);
+    QCOMPARE(shownCabinet(*editor), u"Cabinet: Timer Bar KTR34, °C"_s);
     ui::show(*editor);
     QCOMPARE(ui::get<QTabWidget>(*editor, "tabWidget").currentIndex(), 0);
     QVERIFY(ui::get<QListWidget>(*editor, "listWidgetProducts").isVisible());
@@ -172,6 +178,7 @@ void TestTimerBarMenuFile::openedMenuIsShown()
     QCOMPARE(editor.windowTitle(), u"Menu File - Lunch.v2.cbr"_s);
     QCOMPARE(editor.model(), u"KTR23"_s);
     QCOMPARE(editor.temperatureUnit(), 1);
+    QCOMPARE(shownCabinet(editor), u"Cabinet: Timer Bar KTR23, °C"_s);
     QCOMPARE(editor.products().size(), 12);
     QVERIFY(editor.save());
     QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(menu));
@@ -222,6 +229,7 @@ void TestTimerBarMenuFile::configurationChangesTheMenu()
     ui::click(*editor, "btnConfig");
     QCOMPARE(editor->model(), u"KTR24"_s);
     QCOMPARE(editor->temperatureUnit(), 0);
+    QCOMPARE(shownCabinet(*editor), u"Cabinet: Timer Bar KTR24, °F"_s);
     QCOMPARE(editor.products().currentRow(), -1);
     QVERIFY(editor.products().selectedItems().isEmpty());
     QCOMPARE(editor.detail("Name"), QString());
@@ -240,6 +248,7 @@ void TestTimerBarMenuFile::cancelledConfigurationChangesNothing()
         ui::click(dialog, "btnCancel");
     });
     ui::click(*editor, "btnConfig");
+    QCOMPARE(shownCabinet(*editor), u"Cabinet: Timer Bar KTR42, °C"_s);
     QCOMPARE(editor.products().currentRow(), 1);
     QCOMPARE(editor.detail("TempUpper"), u"102°C"_s);
     QCOMPARE(editor.saved(), hex(baconHamChili(u"KTR42"_s, 1)));

@@ -27,6 +27,7 @@ private slots:
     void timesOfADayAndMoreAreRefused_data();
     void timesOfADayAndMoreAreRefused();
     void timeOfADayAndMoreCanBeReplaced();
+    void blankNameIsAName();
     void everythingIsSaved();
     void leavingChangesNothing_data();
     void leavingChangesNothing();
@@ -240,6 +241,15 @@ void TestTimerBarProductEdit::timeOfADayAndMoreCanBeReplaced()
     editing.saveAccepted();
     QCOMPARE(editing.product.get_holdTime(), 45 * 60);
     QCOMPARE(editing.product.get_warningTime(), 5 * 60);
+}
+
+// Only an empty one is refused, although files lose a name's blanks at its end.
+void TestTimerBarProductEdit::blankNameIsAName()
+{
+    Editing editing;
+    ui::type(*editing.dialog, "txtProductName", u"  "_s);
+    editing.saveAccepted();
+    QCOMPARE(editing.product.get_productName(), QStringList{u"  "_s});
 }
 
 void TestTimerBarProductEdit::everythingIsSaved()
