@@ -3,6 +3,8 @@
 
 #include "holding/productedit.h"
 
+#include <algorithm>
+
 #include <QTime>
 
 #include "holding/menu.h"
@@ -167,11 +169,22 @@ void ProductEdit::on_btnSave_clicked()
     accept();
 }
 
+// A menu's hundredth entry and products of a file may have an id outside the box's range: as long as the box
+// shows what it made of that id, it stands for the id itself.
+int ProductEdit::enteredId() const
+{
+    const QSpinBox *box = m_ui->numProductId;
+    const int ownId = m_product.get_productId();
+    const bool showsOwnId = box->value() == std::clamp(ownId, box->minimum(), box->maximum());
+    return showsOwnId ? ownId : box->value();
+}
+
 bool ProductEdit::isIdTaken() const
 {
+    const int id = enteredId();
     const QList<ProductInfo *> products = m_menuFile->getMenuProducts();
     for (qsizetype i = 0; i < products.size(); ++i) {
-        if (i != m_productIndex && products[i]->get_productId() == m_ui->numProductId->value())
+        if (i != m_productIndex && products[i]->get_productId() == id)
             return true;
     }
     return false;

@@ -40,6 +40,7 @@ private:
     void loadTypes();
     void loadTimerColor();
     void showTimerColor(const holding::TimerColor &entry);
+    [[nodiscard]] int enteredId() const;
     [[nodiscard]] bool isIdTaken() const;
     [[nodiscard]] QString firstFault() const;
     void writeRecord();

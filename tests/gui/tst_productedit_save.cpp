@@ -22,6 +22,9 @@ private slots:
     void idIsCheckedOnlyWhileItIsShown();
     void groupsMayShareAnId();
     void newProductMayNotTakeAnId();
+    void idOutsideTheBoxIsItsOwn_data();
+    void idOutsideTheBoxIsItsOwn();
+    void hundredthProductCanBeSaved();
     void resetTimeIsCheckedOnlyWhileItIsShown();
     void blankIsAName();
     void longNameIsKept();
@@ -204,6 +207,48 @@ void TestProductEditSave::newProductMayNotTakeAnId()
     });
     ui::click(*editor, "btnAddProduct");
     QCOMPARE(editor->getMenuProducts().size(), 4);
+}
+
+void TestProductEditSave::idOutsideTheBoxIsItsOwn_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<int>("otherId"); // what the box shows for the id
+    QTest::newRow("one too many") << 100 << 99;
+    QTest::newRow("far above") << 150 << 99;
+    QTest::newRow("negative") << -5 << 1;
+}
+
+void TestProductEditSave::idOutsideTheBoxIsItsOwn()
+{
+    QFETCH(int, id);
+    QFETCH(int, otherId);
+    samplefile::Menu menu = menuWith(samplefile::headerWithAllSwitches());
+    menu.products = {samplefile::product(id, u"Bacon"_s), samplefile::product(otherId, u"Chili"_s)};
+    OpenEditor editor(menu);
+    edit(editor, [otherId](ProductEdit &dialog, ModalAnswers &) {
+        QCOMPARE(spinBox(dialog, "numProductId").value(), otherId);
+        ui::type(dialog, "txtName", u"Ham"_s);
+        save(dialog);
+    });
+    QCOMPARE(savedProduct(editor), samplefile::product(id, u"Ham"_s));
+}
+
+void TestProductEditSave::hundredthProductCanBeSaved()
+{
+    samplefile::Menu menu = menuWith(samplefile::headerWithAllSwitches());
+    menu.products = {};
+    for (int id = 1; id <= 99; ++id)
+        menu.products.append(samplefile::product(id, u"Bacon"_s));
+    OpenEditor editor(menu);
+    ModalAnswers answers;
+    answers.expect<ProductEdit>([](ProductEdit &dialog) {
+        ui::type(dialog, "txtName", u"Ham"_s);
+        save(dialog);
+    });
+    ui::click(*editor, "btnAddProduct");
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(editor->getMenuProducts().size(), 100);
+    QCOMPARE(editor->getMenuProducts().constLast()->get_productId(), 100);
 }
 
 void TestProductEditSave::resetTimeIsCheckedOnlyWhileItIsShown()
