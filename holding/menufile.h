@@ -122,6 +122,7 @@ private:
     void addGroup(std::unique_ptr<ProductInfo> group);
     [[nodiscard]] bool refuseWhenFull(const QString &message);
     void loadGroupMembers();
+    void reloadEntries();
 
     void prepareGrid();
     void showRemovalMode(bool removing);

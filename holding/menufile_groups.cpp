@@ -42,13 +42,14 @@ void MenuFile::loadGroupMembers()
 
 void MenuFile::addGroup(std::unique_ptr<ProductInfo> group)
 {
-    GroupEdit dialog(*group, this);
-    if (dialog.exec() != Accepted)
+    const int row = static_cast<int>(m_menu.groups.size());
+    if (GroupEdit(*group, this).exec() != Accepted)
         return;
-    m_groups.setCurrentRow(static_cast<int>(m_menu.groups.size()));
     m_menu.groups.push_back(std::move(group));
+    m_groups.setCurrentRow(row);
     loadGroups();
     loadGroupInfo();
+    loadCurrentDaypart();
 }
 
 void MenuFile::on_btnAddGroup_clicked()

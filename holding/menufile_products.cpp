@@ -81,16 +81,24 @@ bool MenuFile::refuseWhenFull(const QString &message)
     return true;
 }
 
+// Groups and bins show products too, also those whose ids they held before there was such a product.
+void MenuFile::reloadEntries()
+{
+    loadProducts();
+    loadProductInfo();
+    loadGroups();
+    loadGroupInfo();
+    loadCurrentDaypart();
+}
+
 void MenuFile::addProduct(std::unique_ptr<ProductInfo> product)
 {
     const int row = static_cast<int>(m_menu.products.size());
-    ProductEdit dialog(*product, row, this);
-    if (dialog.exec() != Accepted)
+    if (ProductEdit(*product, row, this).exec() != Accepted)
         return;
     m_menu.products.push_back(std::move(product));
     m_products.setCurrentRow(row);
-    loadProducts();
-    loadProductInfo();
+    reloadEntries();
 }
 
 void MenuFile::on_btnAddProduct_clicked()
@@ -119,11 +127,7 @@ void MenuFile::on_btnEditProduct_clicked()
     const bool changed = holding::holdingSettings(*product, getFanSpeedEnabled()) != before;
     const bool leftGroups = changed && removeIdFromAllGroups(product->get_productId());
     const bool leftDayparts = changed && removeIdFromAllDayparts(product->get_productId());
-    loadProducts();
-    loadProductInfo();
-    loadGroups();
-    loadGroupInfo();
-    loadCurrentDaypart();
+    reloadEntries();
     if (leftGroups && leftDayparts)
         messages::warning(this, tr("Product has been removed from group(s) and daypart(s) assignemnts"));
     else if (leftDayparts)
@@ -153,11 +157,7 @@ void MenuFile::deleteEntries(EntryPane &pane, holding::Entries &entries)
         removeIdFromAllDayparts((*place)->get_productId());
         entries.erase(place);
     });
-    loadProducts();
-    loadProductInfo();
-    loadGroups();
-    loadGroupInfo();
-    loadCurrentDaypart();
+    reloadEntries();
 }
 
 void MenuFile::on_listWidgetProducts_itemSelectionChanged()
