@@ -211,11 +211,12 @@ QString ProductEdit::firstFault() const
 void ProductEdit::writeRecord()
 {
     const int unit = m_menuFile->getTemperatureUnit();
-    const int upperTemp = storedTemperature(m_ui->numTemp1->value(), unit);
+    const int upperTemp = enteredTemperature(m_ui->numTemp1->value(), m_product.get_upperTemp(), unit);
+    const int lowerTemp = enteredTemperature(m_ui->numTemp2->value(), m_product.get_lowerTemp(), unit);
     const bool oneTemperature = m_ui->frameTemp2->isHidden();
     m_product.set_productName(sameNameInAllLanguages(m_ui->txtName->text()));
     m_product.set_upperTemp(upperTemp);
-    m_product.set_lowerTemp(oneTemperature ? upperTemp : storedTemperature(m_ui->numTemp2->value(), unit));
+    m_product.set_lowerTemp(oneTemperature ? upperTemp : lowerTemp);
     m_product.set_holdTime(secondsOf(m_ui->timeHoldTime));
     m_product.set_warningTime(secondsOf(m_ui->timeWarningTime));
     m_product.set_resetTime(m_menuFile->getResetTimeEnabled() ? secondsOf(m_ui->timeResetTime) : 0);

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
+
 #include "holding/configuration.h"
 #include "holding/groupedit.h"
 #include "holding/productedit.h"
@@ -72,6 +74,16 @@ QJsonArray membersOf(const QJsonObject &saved, int group)
     return groups.at(group).toObject().value(u"products"_s).toArray();
 }
 
+int rowOfTemperature(MenuFile &editor, int upperTemp)
+{
+    const QList<ProductInfo *> products = editor.getMenuProducts();
+    const auto found =
+        std::find_if(products.begin(), products.end(), [upperTemp](const ProductInfo *product) {
+            return product->get_upperTemp() == upperTemp;
+        });
+    return static_cast<int>(found - products.begin());
+}
+
 } // namespace
 
 class TestMenuFileRemovals : public QObject
@@ -86,7 +98,9 @@ private slots:
     void everySettingOfAProductCounts();
     void otherValuesOfAProductDoNotCount();
     void unusedFanSpeedDoesNotCount();
+    void freshMenuKeepsItsGroupsOnANewHoldTime_data();
     void freshMenuKeepsItsGroupsOnANewHoldTime();
+    void unitRoundTripIsNoChange_data();
     void unitRoundTripIsNoChange();
     void temperatureMadeUpByTheRangeIsAChange();
     void productsBinsAreLeftBeyondTheCabinetToo();
@@ -186,16 +200,28 @@ void TestMenuFileRemovals::unusedFanSpeedDoesNotCount()
     QCOMPARE(after.value(u"layout"_s), before.value(u"layout"_s));
 }
 
+void TestMenuFileRemovals::freshMenuKeepsItsGroupsOnANewHoldTime_data()
+{
+    QTest::addColumn<QByteArray>("unitButton");
+    QTest::newRow("°F") << QByteArray("rbTempUnitF");
+    QTest::newRow("°C") << QByteArray("rbTempUnitC");
+}
+
 void TestMenuFileRemovals::freshMenuKeepsItsGroupsOnANewHoldTime()
 {
+    QFETCH(QByteArray, unitButton);
     ModalAnswers answers;
-    answers.expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnAccept"); });
+    answers.expect<Configuration>([&unitButton](Configuration &dialog) {
+        ui::click(dialog, unitButton.constData());
+        ui::click(dialog, "btnAccept");
+    });
     MenuFile editor({});
     ui::show(editor);
+    const int row = rowOfTemperature(editor, 215); // 102 °C, which alone would be 216 °F
     ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(1);
-    answers.expect<GroupEdit>([](GroupEdit &dialog) {
+    answers.expect<GroupEdit>([row](GroupEdit &dialog) {
         ui::type(dialog, "txtName", u"Meats"_s);
-        ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 0);
+        ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), row);
         ui::click(dialog, "btnAddProduct");
         ui::click(dialog, "btnSave");
     });
@@ -205,24 +231,41 @@ void TestMenuFileRemovals::freshMenuKeepsItsGroupsOnANewHoldTime()
         ui::enterTime(dialog, "timeHoldTime", {2, 0});
         ui::click(dialog, "btnSave");
     });
-    ui::clickRow(ui::get<QListWidget>(editor, "listWidgetProducts"), 0);
+    ui::clickRow(ui::get<QListWidget>(editor, "listWidgetProducts"), row);
     ui::click(editor, "btnEditProduct");
     QVERIFY(answers.allAnswered());
-    const int bacon = editor.getMenuProducts().constFirst()->get_productId();
-    QCOMPARE(editor.getMenuProducts().constFirst()->get_holdTime(), 7200);
-    QCOMPARE(editor.getMenuGroups().constFirst()->get_productList(), QList<int>{bacon});
+    const ProductInfo *product = editor.getMenuProducts().at(row);
+    QCOMPARE(product->get_holdTime(), 7200);
+    QCOMPARE(product->get_upperTemp(), 215);
+    QCOMPARE(product->get_lowerTemp(), 215);
+    QCOMPARE(editor.getMenuGroups().constFirst()->get_productList(), QList<int>{product->get_productId()});
+}
+
+void TestMenuFileRemovals::unitRoundTripIsNoChange_data()
+{
+    QTest::addColumn<int>("upperTemp");
+    QTest::addColumn<int>("lowerTemp");
+    QTest::newRow("whole degrees of both") << 212 << 160;
+    QTest::newRow("between two °C") << 215 << 200;
+    QTest::newRow("no temperature") << 0 << 0;
 }
 
 void TestMenuFileRemovals::unitRoundTripIsNoChange()
 {
+    QFETCH(int, upperTemp);
+    QFETCH(int, lowerTemp);
     samplefile::Menu menu = menuWith(samplefile::header({{u"temperatureUnit"_s, 1}}));
-    menu.products[0] = samplefile::product(1, u"Both"_s, {{u"upperTemp"_s, 212}, {u"lowerTemp"_s, 160}});
+    menu.products[0] =
+        samplefile::product(1, u"Both"_s, {{u"upperTemp"_s, upperTemp}, {u"lowerTemp"_s, lowerTemp}});
     OpenEditor editor(menu);
     const QJsonObject before = editor.saved();
-    editProduct(editor, 0, [](ProductEdit &) {}, {});
+    editProduct(editor, 0, [](ProductEdit &dialog) { ui::enterTime(dialog, "timeHoldTime", {2, 0}); }, {});
     const QJsonObject after = editor.saved();
     QCOMPARE(after.value(u"layout"_s), before.value(u"layout"_s));
     QCOMPARE(after.value(u"productGroups"_s), before.value(u"productGroups"_s));
+    QJsonObject product = before.value(u"products"_s).toArray().at(0).toObject();
+    product.insert(u"holdingTime"_s, 7200);
+    QCOMPARE(after.value(u"products"_s).toArray().at(0).toObject(), product);
 }
 
 void TestMenuFileRemovals::temperatureMadeUpByTheRangeIsAChange()

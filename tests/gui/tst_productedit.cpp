@@ -227,7 +227,10 @@ void TestProductEdit::temperatures_data()
     QTest::newRow("90 °F in °C") << true << 90 << 32 << 90;
     QTest::newRow("225 °F in °C") << true << 225 << 107 << 225;
     QTest::newRow("300 °F in °C is lowered") << true << 300 << 107 << 225;
-    QTest::newRow("201 °F in °C moves") << true << 201 << 94 << 201;
+    QTest::newRow("201 °F in °C") << true << 201 << 94 << 201;
+    QTest::newRow("200 °F in °C stays") << true << 200 << 93 << 200;
+    QTest::newRow("215 °F in °C stays") << true << 215 << 102 << 215;
+    QTest::newRow("226 °F in °C is lowered") << true << 226 << 107 << 225;
     QTest::newRow("a negative one in °C") << true << -40 << 32 << 90;
 }
 

@@ -32,6 +32,7 @@ private slots:
     void lidAndBottomAreSavedAsWords_data();
     void lidAndBottomAreSavedAsWords();
     void zpvSavesOneTemperature();
+    void enteredCelsiusIsStored();
 };
 
 void TestProductEditSave::savedValuesAreWritten()
@@ -321,6 +322,19 @@ void TestProductEditSave::zpvSavesOneTemperature()
     edit(editor, [](ProductEdit &dialog, ModalAnswers &) { save(dialog); });
     QCOMPARE(savedProduct(editor).value(u"upperTemp"_s).toInt(), 210);
     QCOMPARE(savedProduct(editor).value(u"lowerTemp"_s).toInt(), 210);
+}
+
+void TestProductEditSave::enteredCelsiusIsStored()
+{
+    OpenEditor editor(
+        menuWith(samplefile::header(celsius()), {{u"upperTemp"_s, 200}, {u"lowerTemp"_s, 200}}));
+    edit(editor, [](ProductEdit &dialog, ModalAnswers &) {
+        ui::type(dialog, "numTemp1", u"94"_s);
+        ui::type(dialog, "numTemp2", u"92"_s);
+        save(dialog);
+    });
+    QCOMPARE(savedProduct(editor).value(u"upperTemp"_s).toInt(), 201);
+    QCOMPARE(savedProduct(editor).value(u"lowerTemp"_s).toInt(), 198);
 }
 
 QTEST_MAIN(TestProductEditSave)
