@@ -79,6 +79,8 @@ bool Menu::removeFromGroups(int id)
 
 bool Menu::removeFromDayparts(int id)
 {
+    if (id == emptyBin)
+        return false;
     bool removed = false;
     for (Daypart &daypart : dayparts) {
         for (auto &row : daypart.bins) {

@@ -64,6 +64,7 @@ private slots:
     void removeFromEveryGroup();
     void removeFromDayparts();
     void removeFromVacantPlaces();
+    void nothingIsRemovedForNoEntry();
     void clearBins();
     void shapeFollowsConfiguration();
 };
@@ -225,6 +226,14 @@ void TestMenu::removeFromVacantPlaces()
     menu.dayparts[9].bins[7][3] = 5;
     QVERIFY(menu.removeFromDayparts(5));
     QCOMPARE(menu.dayparts[9].bins[7][3], emptyBin);
+}
+
+void TestMenu::nothingIsRemovedForNoEntry()
+{
+    Menu menu;
+    menu.dayparts[0].bins[0] = {5, 0, 5, 0};
+    QVERIFY(!menu.removeFromDayparts(emptyBin));
+    QVERIFY(menu.dayparts[0].bins[0] == (std::array<int, 4>{5, 0, 5, 0}));
 }
 
 void TestMenu::clearBins()
