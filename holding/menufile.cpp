@@ -55,7 +55,7 @@ bool MenuFile::load(const QString &path)
 {
     if (path.isEmpty())
         return createMenu();
-    return isOldMenu(path) ? importQhxMenuFile(path) : readMenuFile();
+    return isOldMenu(path) ? importQhxMenuFile(path) : readIntoMenu();
 }
 
 bool MenuFile::createMenu()
@@ -69,6 +69,13 @@ bool MenuFile::createMenu()
 }
 
 bool MenuFile::readMenuFile()
+{
+    const bool read = readIntoMenu();
+    loadMenuFile(); // else the lists would go on showing entries that are gone
+    return read;
+}
+
+bool MenuFile::readIntoMenu()
 {
     const QString path = filePath();
     const std::optional<QByteArray> bytes = readFile(path);

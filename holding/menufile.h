@@ -43,6 +43,8 @@ public:
     void loadMenuFile();
 
 public slots: // the file
+    /// Reads the current path, also once more, and shows what it brought. A fault has been shown; the menu is
+    /// not valid then.
     bool readMenuFile();
     void loadDefaultMenu();
     QJsonObject setNameListToJson(const QStringList &nameList);
@@ -115,6 +117,7 @@ protected:
 
 private:
     [[nodiscard]] bool load(const QString &path);
+    [[nodiscard]] bool readIntoMenu();
     [[nodiscard]] bool createMenu();
     [[nodiscard]] bool askConfiguration(holding::CabinetConfiguration &configuration);
 

@@ -256,6 +256,8 @@ QString readMenu(const QByteArray &json, Menu &menu, const AskConfiguration &ask
     const QJsonObject content = root.value("menu"_L1).toObject();
     if (content.isEmpty())
         return tr("Menu is empty!");
+    menu.products.clear();
+    menu.groups.clear();
     if (QString fault = readProductsAndGroups(content, menu); !fault.isEmpty())
         return fault;
     return readLayout(content.value("layout"_L1), menu);

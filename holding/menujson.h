@@ -19,8 +19,9 @@ namespace holding {
 /// false to give up.
 using AskConfiguration = std::function<bool(CabinetConfiguration &)>;
 
-/// Reads a menu document into `menu`, whose configuration keeps what the document does not say. Returns an
-/// empty text, or the message of the first fault; `menu` then holds what was read before it.
+/// Reads a menu document into `menu`, whose configuration keeps what the document does not say; products,
+/// groups and day parts replace the old ones. Returns an empty text, or the message of the first fault;
+/// `menu` then holds what was read before it.
 ///
 /// Wrong types count as missing keys, numbers that are no whole 32-bit numbers as 0, elements that are no
 /// objects as empty ones. More day parts than a menu can hold are a fault, as dropping one would lose it at

@@ -54,6 +54,7 @@ private slots:
     void dayparts_data();
     void dayparts();
     void daypartsReplaceTheOldOnes();
+    void entriesReplaceTheOldOnes();
 };
 
 void TestMenuJsonRead::numbers_data()
@@ -353,6 +354,17 @@ void TestMenuJsonRead::daypartsReplaceTheOldOnes()
             QVERIFY(menu.dayparts[i].bins == Daypart().bins);
         }
     }
+}
+
+void TestMenuJsonRead::entriesReplaceTheOldOnes()
+{
+    Menu menu;
+    QCOMPARE(document::read(document::withLists(R"({"productId":1})", R"({"groupId":2})", ""), menu),
+             QString());
+    QCOMPARE(document::read(document::withLists(R"({"productId":3})", R"({"groupId":4})", ""), menu),
+             QString());
+    QCOMPARE(idsOf(menu.products), QList<int>{3});
+    QCOMPARE(idsOf(menu.groups), QList<int>{4});
 }
 
 QTEST_APPLESS_MAIN(TestMenuJsonRead)
