@@ -211,19 +211,27 @@ void MenuFile::loadCabinetInfo()
 bool MenuFile::askConfiguration(holding::CabinetConfiguration &configuration)
 {
     Configuration dialog(this);
-    dialog.setWindowTitle(tr("Configuration"));
-    if (dialog.exec() != Accepted)
+    if (!run(dialog))
         return false;
     configuration = dialog.values();
     return true;
 }
 
+// While a menu is opened its editor is not shown yet: left alone, the dialog would centre on a place where
+// nothing is.
+bool MenuFile::run(Configuration &dialog)
+{
+    dialog.setWindowTitle(tr("Configuration"));
+    if (const QWidget *opener = parentWidget(); opener && !isVisible())
+        dialog.move(opener->window()->frameGeometry().center() - dialog.rect().center());
+    return dialog.exec() == Accepted;
+}
+
 void MenuFile::on_btnConfig_clicked()
 {
     Configuration dialog(this);
-    dialog.setWindowTitle(tr("Configuration"));
     dialog.setValues(m_menu.configuration);
-    if (dialog.exec() != Accepted)
+    if (!run(dialog))
         return;
     m_menu.configuration = dialog.values();
     const int oldBinsPerZone = m_shape.binsPerZone;

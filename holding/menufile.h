@@ -14,6 +14,7 @@
 #include "widgets/entrypane.h"
 #include "widgets/menueditor.h"
 
+class Configuration;
 class QListWidgetItem;
 
 namespace Ui {
@@ -120,6 +121,7 @@ private:
     [[nodiscard]] bool readIntoMenu();
     [[nodiscard]] bool createMenu();
     [[nodiscard]] bool askConfiguration(holding::CabinetConfiguration &configuration);
+    [[nodiscard]] bool run(Configuration &dialog);
 
     void addProduct(std::unique_ptr<ProductInfo> product);
     void addGroup(std::unique_ptr<ProductInfo> group);

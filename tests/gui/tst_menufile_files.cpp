@@ -246,6 +246,7 @@ void TestMenuFileFiles::laterFaultAfterAChosenCabinet()
     const MenuFile editor(path);
     QVERIFY(answers.allAnswered());
     QVERIFY(!editor.isMenuValid());
+    QCOMPARE(editor.windowTitle(), u"Menu File - "_s); // since the cabinet is known
 }
 
 void TestMenuFileFiles::savedMenuReadsTheSame()
