@@ -41,7 +41,6 @@ TimerColorPicker::TimerColorPicker(QWidget *parent)
                 button->setStyleSheet(holding::backgroundStyle(entry));
                 button->setAccessibleName(entry.colorName);
             }
-            button->setToolTip(button->accessibleName());
             m_ui->gridLayout->addWidget(button, static_cast<int>(row), static_cast<int>(column));
             connect(button, &QPushButton::clicked, this, &TimerColorPicker::colorPick_clicked);
             m_buttons[row][column] = button;

@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolTip>
 
 #include "holding/configuration.h"
 #include "tests/gui/editgroup.h"
@@ -32,6 +33,16 @@ QStringList summary(const GroupEdit &dialog)
     return texts;
 }
 
+QWidget *shownToolTip()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->windowType() == Qt::ToolTip && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 class TestGroupEdit : public QObject
@@ -43,6 +54,7 @@ private slots:
     void slotsAreInOrder();
     void formShowsItsTexts();
     void listsLookAsDefined();
+    void toolTipsHaveTheirOwnColour();
     void rowsAreNumberedAndKnowTheirIds();
     void rowsFollowTheCabinet();
     void fanSpeedFollowsItsSwitch();
@@ -117,6 +129,25 @@ void TestGroupEdit::listsLookAsDefined()
             QCOMPARE(list->item(0)->background().color(), QColor(Qt::white));
             QCOMPARE(list->item(1)->background().color(), QColor(Qt::cyan));
             QCOMPARE(list->item(1)->foreground().color(), QColor(Qt::black));
+        }
+        cancel(dialog);
+    });
+}
+
+void TestGroupEdit::toolTipsHaveTheirOwnColour()
+{
+    QPalette dark;
+    dark.setColor(QPalette::ToolTipBase, Qt::black);
+    dark.setColor(QPalette::ToolTipText, Qt::white);
+    QToolTip::setPalette(dark);
+    OpenEditor editor(menuWith(meats({1})));
+    edit(editor, [](GroupEdit &dialog, ModalAnswers &) {
+        for (const char *name : {"btnAddProduct", "btnRemoveProduct"}) {
+            auto &button = ui::get<QPushButton>(dialog, name);
+            QToolTip::showText(button.mapToGlobal(QPoint()), button.toolTip(), &button);
+            QWidget *tip = shownToolTip();
+            QVERIFY(tip);
+            QCOMPARE(tip->grab().toImage().pixelColor(2, tip->height() / 2), QColor(Qt::black));
         }
         cancel(dialog);
     });

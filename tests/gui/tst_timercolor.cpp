@@ -64,6 +64,11 @@ QPushButton &sampleOf(const ProductEdit &dialog)
     return ui::get<QPushButton>(dialog, "btnTimerColor");
 }
 
+QString colorName(int index)
+{
+    return holding::timerPalette()[static_cast<std::size_t>(index)].colorName;
+}
+
 } // namespace
 
 class TestTimerColor : public QObject
@@ -100,6 +105,8 @@ void TestTimerColor::pickerShowsThePalette()
         QCOMPARE(button->text(), u" "_s);
         QCOMPARE(button->size(), QSize(25, 25));
         QCOMPARE(button->icon().isNull(), index != 0);
+        QCOMPARE(button->accessibleName(), index == 0 ? u"No color"_s : colorName(index));
+        QCOMPARE(button->toolTip(), QString()); // it would be drawn on the button's colour
     }
     QCOMPARE(colorButton(picker, 0)->iconSize(), QSize(25, 25));
     QCOMPARE(colorButton(picker, 0)->styleSheet(), QString());
