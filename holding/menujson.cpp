@@ -155,14 +155,15 @@ QJsonObject writeGroup(const ProductInfo &group)
     };
 }
 
-// Entries without an id of their own are placeholders.
-void readEntries(const QJsonArray &array, std::unique_ptr<ProductInfo> (*readOne)(const QJsonObject &),
-                 Entries &entries)
+// Entries without an id of their own are placeholders. They are left out before anything is made of them, as
+// a hostile file may hold millions.
+void readEntries(const QJsonArray &array, QLatin1StringView idKey,
+                 std::unique_ptr<ProductInfo> (*readOne)(const QJsonObject &), Entries &entries)
 {
-    entries.reserve(entries.size() + static_cast<std::size_t>(array.size()));
     for (const QJsonValue element : array) {
-        if (auto entry = readOne(element.toObject()); entry->get_productId() != 0)
-            entries.push_back(std::move(entry));
+        const QJsonObject json = element.toObject();
+        if (toInt(json.value(idKey)) != 0)
+            entries.push_back(readOne(json));
     }
 }
 
@@ -223,12 +224,12 @@ QString readProductsAndGroups(const QJsonObject &json, Menu &menu)
     const QJsonValue products = json.value("products"_L1);
     if (!products.isArray())
         return tr("Products list read failed!");
-    readEntries(products.toArray(), readProduct, menu.products);
+    readEntries(products.toArray(), "productId"_L1, readProduct, menu.products);
 
     const QJsonValue groups = json.value("productGroups"_L1);
     if (!groups.isArray())
         return tr("Groups list read failed!");
-    readEntries(groups.toArray(), readGroup, menu.groups);
+    readEntries(groups.toArray(), "groupId"_L1, readGroup, menu.groups);
     return {};
 }
 
