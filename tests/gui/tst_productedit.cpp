@@ -27,6 +27,15 @@ QString shownIn(const ProductEdit &dialog, const char *comboBox)
     return ui::get<QComboBox>(dialog, comboBox).currentText();
 }
 
+QString choices(const ProductEdit &dialog, const char *comboBox)
+{
+    const auto &box = ui::get<QComboBox>(dialog, comboBox);
+    QStringList texts;
+    for (int i = 0; i < box.count(); ++i)
+        texts.append(box.itemText(i));
+    return texts.join(u' ');
+}
+
 QString labelText(const ProductEdit &dialog, const char *label)
 {
     return ui::get<QLabel>(dialog, label).text();
@@ -102,6 +111,10 @@ void TestProductEdit::formShowsItsTexts()
         QCOMPARE(spinBox(dialog, "numProductId").maximum(), 99);
         QCOMPARE(spinBox(dialog, "numFanSpeed").minimum(), 0);
         QCOMPARE(spinBox(dialog, "numFanSpeed").maximum(), 10000);
+        QCOMPARE(choices(dialog, "comboLidType"), u"None Solid Vented"_s);
+        QCOMPARE(choices(dialog, "comboBottomType"), u"False Normal"_s);
+        QCOMPARE(ui::get<QPushButton>(dialog, "btnCancel").text(), u"Cancel"_s);
+        QCOMPARE(ui::get<QPushButton>(dialog, "btnSave").text(), u"Save"_s);
         QVERIFY(ui::get<QPushButton>(dialog, "btnSave").isDefault());
         QVERIFY(ui::get<QLineEdit>(dialog, "txtName").hasFocus());
         cancel(dialog);
