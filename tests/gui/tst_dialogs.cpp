@@ -44,6 +44,8 @@ private slots:
     void nothingIsClippedInALargeFont();
     void escapeChangesNothing_data() { addDialogRows(); }
     void escapeChangesNothing();
+    void enterOnCancelChangesNothing_data();
+    void enterOnCancelChangesNothing();
 
 private:
     const QFont m_font = QApplication::font();
@@ -220,6 +222,40 @@ void TestDialogs::escapeChangesNothing()
     QVERIFY(dialog->isHidden());
     QCOMPARE(dialog->result(), static_cast<int>(QDialog::Rejected));
     QCOMPARE(open.menuBytes(), before);
+}
+
+// Every dialog that has something to accept, which the about box has not, and the colours accept by
+// themselves.
+void TestDialogs::enterOnCancelChangesNothing_data()
+{
+    QTest::addColumn<std::size_t>("kind");
+    for (std::size_t i = 0; i < everyWindow().size(); ++i) {
+        const WindowKind &kind = everyWindow()[i];
+        if (kind.acceptingButton && qstrcmp(kind.name, "about") != 0)
+            QTest::newRow(kind.name) << i;
+    }
+}
+
+void TestDialogs::enterOnCancelChangesNothing()
+{
+    QFETCH(const std::size_t, kind);
+    const OpenWindow open(everyWindow()[kind]);
+    const QByteArray before = open.menuBytes();
+    auto *dialog = qobject_cast<QDialog *>(&open.window());
+    QVERIFY(dialog && !before.isEmpty());
+    for (QWidget *input : shown::tabOrder(*dialog))
+        change(input);
+    auto &cancel = ui::get<QPushButton>(*dialog, "btnCancel");
+    QCOMPARE(cancel.text(), u"Cancel"_s);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        dialog->setResult(QDialog::Accepted);
+        dialog->show();
+        cancel.setFocus();
+        QTest::keyClick(&cancel, key);
+        QVERIFY(dialog->isHidden());
+        QCOMPARE(dialog->result(), static_cast<int>(QDialog::Rejected));
+        QCOMPARE(open.menuBytes(), before);
+    }
 }
 
 QTEST_MAIN(TestDialogs)
