@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QListWidget>
 #include <QPointer>
+#include <QPushButton>
+#include <QTabWidget>
 
 #include "tests/gui/programwindow.h"
 #include "tests/support/samplefile.h"
@@ -43,6 +45,32 @@ void close(ProgramWindow &program, Way way)
         program.subWindow()->close();
         break;
     }
+}
+
+bool isInMode(const MenuFile &editor, bool removing)
+{
+    if (removing)
+        return ui::get<QPushButton>(editor, "btnDaypartRemove").isVisible();
+    return ui::get<QPushButton>(editor, "btnSelectMultiProduct").text() == "Cancel Selection"_L1;
+}
+
+// Marks the first bin to be cleared, or the first product to be deleted.
+void enterMode(ProgramWindow &program, bool removing)
+{
+    program.activate();
+    MenuFile &editor = *program.editor();
+    ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(removing ? 2 : 0);
+    QCoreApplication::processEvents(); // what still moves the focus would end a press
+    if (removing) {
+        auto &bin = ui::get<QPushButton>(editor, "btnDaypartSelect0_0");
+        QTest::mousePress(&bin, Qt::LeftButton);
+        QTRY_VERIFY(isInMode(editor, removing));
+        QTest::mouseRelease(&bin, Qt::LeftButton);
+    } else {
+        ui::click(editor, "btnSelectMultiProduct");
+        ui::clickRow(ui::get<QListWidget>(editor, "listWidgetProducts"), 0);
+    }
+    QVERIFY(isInMode(editor, removing));
 }
 
 // Something that only a save brings into the file.
@@ -94,6 +122,8 @@ private slots:
     void failedWriteUnderANameKeepsItOpen();
     void refusedClosingKeepsItOpen_data();
     void refusedClosingKeepsItOpen();
+    void modesDoNotKeepItOpen_data();
+    void modesDoNotKeepItOpen();
     void otherMenusStayOpen();
     void escapeInADialogClosesTheDialogOnly();
     void titlesNameTheFile();
@@ -243,6 +273,35 @@ void TestMenuFileClosing::refusedClosingKeepsItOpen()
     close(program, Way::Escape);
     QVERIFY(answers.allAnswered());
     verifyOpen(program, editor);
+}
+
+void TestMenuFileClosing::modesDoNotKeepItOpen_data()
+{
+    QTest::addColumn<bool>("removing"); // else choosing products
+    QTest::newRow("multiple selection") << false;
+    QTest::newRow("removal mode") << true;
+}
+
+void TestMenuFileClosing::modesDoNotKeepItOpen()
+{
+    QFETCH(bool, removing);
+    const samplefile::Folder folder;
+    const QString path = folder.write(u"menu.json"_s, twoProducts().bytes());
+    ProgramWindow program;
+    ModalAnswers answers;
+    program.open(answers, path);
+    program.save();
+    const QByteArray saved = samplefile::bytesOf(path);
+    const QPointer<MenuFile> editor = program.editor();
+    enterMode(program, removing);
+    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Cancel);
+    close(program, Way::Escape);
+    verifyOpen(program, editor);
+    QVERIFY(isInMode(*editor, removing));
+    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
+    close(program, Way::Escape);
+    verifyGone(program, editor);
+    QCOMPARE(samplefile::bytesOf(path), saved); // what was only marked has not been deleted
 }
 
 void TestMenuFileClosing::otherMenusStayOpen()

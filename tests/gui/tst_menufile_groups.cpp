@@ -49,6 +49,19 @@ bool singleButtonsEnabled(OpenEditor &editor)
     return enabled == 3;
 }
 
+const QString noProducts = u"Cannot add products. Maximum products and groups reached!"_s;
+const QString noGroups = u"Cannot add groups. Maximum products and groups reached!"_s;
+
+samplefile::Menu manyEntries(int products, int groups)
+{
+    samplefile::Menu menu;
+    for (int id = 1; id <= products; ++id)
+        menu.products.append(samplefile::product(id, u"P"_s));
+    for (int id = 1; id <= groups; ++id)
+        menu.groups.append(samplefile::group(products + id, u"G"_s, {1}));
+    return menu;
+}
+
 void choose(OpenEditor &editor, int row)
 {
     editor.showTab(1);
@@ -77,6 +90,8 @@ private slots:
     void changedProductsShowInTheGroups();
     void fullMenuRefusesMore_data();
     void fullMenuRefusesMore();
+    void deletionMakesRoomForOneMore_data();
+    void deletionMakesRoomForOneMore();
 };
 
 void TestMenuFileGroups::openedMenuHasNoCurrentGroup()
@@ -272,12 +287,7 @@ void TestMenuFileGroups::fullMenuRefusesMore()
     QFETCH(int, products);
     QFETCH(int, groups);
     QFETCH(bool, full);
-    samplefile::Menu menu;
-    for (int id = 1; id <= products; ++id)
-        menu.products.append(samplefile::product(id, u"P"_s));
-    for (int id = 1; id <= groups; ++id)
-        menu.groups.append(samplefile::group(products + id, u"G"_s, {1}));
-    OpenEditor editor(menu);
+    OpenEditor editor(manyEntries(products, groups));
     const auto expect = [full](ModalAnswers &answers, const QString &message) {
         if (full)
             answers.expectBox(ModalAnswers::refusal(message), QMessageBox::Close);
@@ -285,8 +295,6 @@ void TestMenuFileGroups::fullMenuRefusesMore()
             answers.expect<QDialog>([](QDialog &dialog) { ui::click(dialog, "btnCancel"); });
     };
     ModalAnswers answers;
-    const QString noProducts = u"Cannot add products. Maximum products and groups reached!"_s;
-    const QString noGroups = u"Cannot add groups. Maximum products and groups reached!"_s;
     expect(answers, noProducts);
     ui::click(*editor, "btnAddProduct");
     if (products > 0) {
@@ -305,6 +313,47 @@ void TestMenuFileGroups::fullMenuRefusesMore()
     QVERIFY(answers.allAnswered());
     QCOMPARE(editor.products().count(), products);
     QCOMPARE(editor.groups().count(), groups);
+}
+
+void TestMenuFileGroups::deletionMakesRoomForOneMore_data()
+{
+    QTest::addColumn<bool>("addProduct"); // else a group
+    QTest::newRow("product") << true;
+    QTest::newRow("group") << false;
+}
+
+void TestMenuFileGroups::deletionMakesRoomForOneMore()
+{
+    QFETCH(bool, addProduct);
+    OpenEditor editor(manyEntries(60, 40));
+    ModalAnswers answers;
+    const auto addRefused = [&] {
+        answers.expectBox(ModalAnswers::refusal(noProducts), QMessageBox::Close);
+        editor.showTab(0);
+        ui::click(*editor, "btnAddProduct");
+        answers.expectBox(ModalAnswers::refusal(noGroups), QMessageBox::Close);
+        editor.showTab(1);
+        ui::click(*editor, "btnAddGroup");
+        QVERIFY(answers.allAnswered());
+    };
+    addRefused();
+    choose(editor, 39);
+    answers.expectBox(ModalAnswers::deleteQuestion(u"Delete selected group?"_s), QMessageBox::Yes);
+    ui::click(*editor, "btnDeleteGroup");
+    answers.expect<QDialog>([addProduct](QDialog &dialog) {
+        ui::type(dialog, "txtName", u"New"_s);
+        if (!addProduct) {
+            ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 0);
+            ui::click(dialog, "btnAddProduct");
+        }
+        ui::click(dialog, "btnSave");
+    });
+    editor.showTab(addProduct ? 0 : 1);
+    ui::click(*editor, addProduct ? "btnAddProduct" : "btnAddGroup");
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(editor.products().count(), addProduct ? 61 : 60);
+    QCOMPARE(editor.groups().count(), addProduct ? 39 : 40);
+    addRefused();
 }
 
 QTEST_MAIN(TestMenuFileGroups)

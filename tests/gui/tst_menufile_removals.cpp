@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <algorithm>
-
 #include "holding/configuration.h"
 #include "holding/groupedit.h"
 #include "holding/productedit.h"
@@ -74,16 +72,6 @@ QJsonArray membersOf(const QJsonObject &saved, int group)
     return groups.at(group).toObject().value(u"products"_s).toArray();
 }
 
-int rowOfTemperature(MenuFile &editor, int upperTemp)
-{
-    const QList<ProductInfo *> products = editor.getMenuProducts();
-    const auto found =
-        std::find_if(products.begin(), products.end(), [upperTemp](const ProductInfo *product) {
-            return product->get_upperTemp() == upperTemp;
-        });
-    return static_cast<int>(found - products.begin());
-}
-
 } // namespace
 
 class TestMenuFileRemovals : public QObject
@@ -103,6 +91,7 @@ private slots:
     void unitRoundTripIsNoChange_data();
     void unitRoundTripIsNoChange();
     void temperatureMadeUpByTheRangeIsAChange();
+    void zpvMakesTwoTemperaturesOne();
     void productsBinsAreLeftBeyondTheCabinetToo();
     void changedGroupLeavesTheBins();
     void unchangedGroupStays();
@@ -217,7 +206,9 @@ void TestMenuFileRemovals::freshMenuKeepsItsGroupsOnANewHoldTime()
     });
     MenuFile editor({});
     ui::show(editor);
-    const int row = rowOfTemperature(editor, 215); // 102 °C, which alone would be 216 °F
+    int row = 0;
+    while (editor.getMenuProducts().at(row)->get_upperTemp() != 215) // 102 °C, which alone would be 216 °F
+        ++row;
     ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(1);
     answers.expect<GroupEdit>([row](GroupEdit &dialog) {
         ui::type(dialog, "txtName", u"Meats"_s);
@@ -276,6 +267,19 @@ void TestMenuFileRemovals::temperatureMadeUpByTheRangeIsAChange()
     editProduct(
         editor, 0, [](ProductEdit &) {}, fromBoth);
     QCOMPARE(editor->getMenuProducts().constFirst()->get_lowerTemp(), 90);
+}
+
+void TestMenuFileRemovals::zpvMakesTwoTemperaturesOne()
+{
+    samplefile::Menu menu =
+        menuWith(samplefile::header({{u"cabinetType"_s, u"ZPV"_s}, {u"cabinetModel"_s, u"ZPV23"_s}}));
+    menu.products[0] = samplefile::product(1, u"Both"_s, {{u"upperTemp"_s, 210}, {u"lowerTemp"_s, 190}});
+    OpenEditor editor(menu);
+    editProduct(
+        editor, 0, [](ProductEdit &) {}, fromBoth);
+    QCOMPARE(editor->getMenuProducts().constFirst()->get_upperTemp(), 210);
+    QCOMPARE(editor->getMenuProducts().constFirst()->get_lowerTemp(), 210);
+    QCOMPARE(membersOf(editor.saved(), 0), (QJsonArray{3, 4}));
 }
 
 void TestMenuFileRemovals::productsBinsAreLeftBeyondTheCabinetToo()
