@@ -3,11 +3,10 @@
 
 #include "holding/productdetails.h"
 
-#include <QTime>
-
 #include "holding/timercolorsample.h"
 #include "model/names.h"
 #include "model/productinfo.h"
+#include "model/times.h"
 #include "ui_productdetails.h"
 
 using namespace Qt::StringLiterals;
@@ -15,11 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize samplePadding(16, 4);
-
-QString timeText(int seconds)
-{
-    return QTime(0, 0).addSecs(seconds).toString(u"HH:mm:ss"_s);
-}
 
 QString lidText(const QString &lidType)
 {

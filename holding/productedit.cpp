@@ -5,12 +5,11 @@
 
 #include <algorithm>
 
-#include <QTime>
-
 #include "holding/menu.h"
 #include "holding/menufile.h"
 #include "holding/timercolorpicker.h"
 #include "holding/timercolorsample.h"
+#include "model/times.h"
 #include "ui_productedit.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
@@ -28,14 +27,9 @@ constexpr int maxResetSeconds = 60 * 60 - 1;
 const QStringList lidTypes{u"None"_s, u"Solid"_s, u"Vented"_s};
 const QStringList bottomTypes{u"False"_s, u"Normal"_s};
 
-int secondsOf(const QTimeEdit *edit)
+int secondsIn(const QTimeEdit *edit)
 {
-    return QTime(0, 0).secsTo(edit->time());
-}
-
-QTime timeOf(int seconds)
-{
-    return QTime(0, 0).addSecs(seconds);
+    return secondsOf(edit->time());
 }
 
 // A stored 0 means that no temperature is set. In Celsius the box then reaches down to 0, so that opening
@@ -69,9 +63,9 @@ ProductEdit::ProductEdit(ProductInfo &product, int productIndex, MenuFile *menuF
     m_ui->txtName->setText(shownName(product.get_productName()));
     m_ui->txtName->setFocus();
     loadTemperatures();
-    m_ui->timeHoldTime->setTime(timeOf(product.get_holdTime()));
-    m_ui->timeWarningTime->setTime(timeOf(product.get_warningTime()));
-    m_ui->timeResetTime->setTime(timeOf(product.get_resetTime()));
+    m_ui->timeHoldTime->setTime(timeOfSeconds(product.get_holdTime()));
+    m_ui->timeWarningTime->setTime(timeOfSeconds(product.get_warningTime()));
+    m_ui->timeResetTime->setTime(timeOfSeconds(product.get_resetTime()));
     m_ui->numFanSpeed->setValue(product.get_fanSpeed());
     m_ui->comboZoneSplits->setCurrentText(product.get_zoneSplits());
     loadTypes();
@@ -192,7 +186,7 @@ bool ProductEdit::isIdTaken() const
 
 QString ProductEdit::firstFault() const
 {
-    const int holdSeconds = secondsOf(m_ui->timeHoldTime);
+    const int holdSeconds = secondsIn(m_ui->timeHoldTime);
     if (m_menuFile->getProductIdEnabled() && isIdTaken())
         return tr("Product Id is duplicated!");
     if (m_ui->txtName->text().isEmpty())
@@ -201,9 +195,9 @@ QString ProductEdit::firstFault() const
         return tr("Invalid hold time. Minimum value is 6 minutes!");
     if (holdSeconds > maxHoldSeconds)
         return tr("Invalid hold time. Maximum value is 8 hours!");
-    if (holdSeconds <= secondsOf(m_ui->timeWarningTime))
+    if (holdSeconds <= secondsIn(m_ui->timeWarningTime))
         return tr("Invalid cook more alert time. Value must be less than hold time!");
-    if (m_menuFile->getResetTimeEnabled() && secondsOf(m_ui->timeResetTime) > maxResetSeconds)
+    if (m_menuFile->getResetTimeEnabled() && secondsIn(m_ui->timeResetTime) > maxResetSeconds)
         return tr("Invalid reset time!");
     return {};
 }
@@ -217,9 +211,9 @@ void ProductEdit::writeRecord()
     m_product.set_productName(sameNameInAllLanguages(m_ui->txtName->text()));
     m_product.set_upperTemp(upperTemp);
     m_product.set_lowerTemp(oneTemperature ? upperTemp : lowerTemp);
-    m_product.set_holdTime(secondsOf(m_ui->timeHoldTime));
-    m_product.set_warningTime(secondsOf(m_ui->timeWarningTime));
-    m_product.set_resetTime(m_menuFile->getResetTimeEnabled() ? secondsOf(m_ui->timeResetTime) : 0);
+    m_product.set_holdTime(secondsIn(m_ui->timeHoldTime));
+    m_product.set_warningTime(secondsIn(m_ui->timeWarningTime));
+    m_product.set_resetTime(m_menuFile->getResetTimeEnabled() ? secondsIn(m_ui->timeResetTime) : 0);
     m_product.set_fanSpeed(m_menuFile->getFanSpeedEnabled() ? m_ui->numFanSpeed->value() : 0);
     m_product.set_zoneSplits(m_ui->comboZoneSplits->currentText());
     m_product.set_lidType(lidTypes.value(m_ui->comboLidType->currentIndex()));
