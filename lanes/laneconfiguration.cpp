@@ -7,8 +7,7 @@
 #include <optional>
 
 #include <QCoreApplication>
-#include <QHash>
-#include <QStringList>
+#include <QStringTokenizer>
 #include <QtEndian>
 
 #include "model/crc16.h"
@@ -31,10 +30,10 @@ QString tr(const char *text)
     return QCoreApplication::translate("SvrxMenuFile", text);
 }
 
-QString identifierOf(const QByteArray &contentsLine)
+QByteArray identifierOf(const QByteArray &contentsLine)
 {
     const quint16 crc = crc16(contentsLine.constData(), contentsLine.size(), crc16IdentifierSeed);
-    return u"%1"_s.arg(crc, 4, 16, QLatin1Char('0'));
+    return QByteArray::number(crc, 16).rightJustified(4, '0');
 }
 
 QByteArray contentsLine(const Configuration &configuration)
@@ -51,22 +50,33 @@ QByteArray contentsLine(const Configuration &configuration)
     return (temperatures + fanSpeeds).join(',');
 }
 
+// A file may be large and hold anything: its text is walked in views, without a copy of each part.
 struct Lines
 {
     std::optional<uint> identifier; ///< no number: nothing matches
-    QString contents;
+    QStringView contents;
 };
 
+// One of the parts between the "=" of a text, counted from 0; empty where there are fewer.
+QStringView part(QStringView text, int number, Qt::SplitBehavior behavior = Qt::KeepEmptyParts)
+{
+    for (const QStringView candidate : text.tokenize(u'=', behavior)) {
+        if (number-- == 0)
+            return candidate;
+    }
+    return {};
+}
+
 // Of repeated lines the last one counts.
-Lines sortLines(const QStringList &lines)
+Lines sortLines(QStringView text)
 {
     Lines sorted;
-    for (const QString &line : lines) {
+    for (const QStringView line : text.tokenize(u'\n', Qt::SkipEmptyParts)) {
         if (line.startsWith("Identifier"_L1)) {
-            const QStringList parts = line.split(u'=', Qt::SkipEmptyParts);
+            const QStringView digits = part(line, 1, Qt::SkipEmptyParts);
             bool ok = false;
-            const uint number = parts.value(1).toUInt(&ok, 16);
-            if (parts.size() >= 2)
+            const uint number = digits.toUInt(&ok, 16);
+            if (!digits.isEmpty())
                 sorted.identifier = ok ? std::optional(number) : std::nullopt;
         } else if (line.startsWith("T1="_L1)) {
             sorted.contents = line;
@@ -75,29 +85,33 @@ Lines sortLines(const QStringList &lines)
     return sorted;
 }
 
-QHash<QString, int> valuesOf(const QString &contents)
+using Lanes = std::array<Lane, maxLanes>;
+
+// The value that has this name in the contents line, T1 to T4 or F1 to F4; null for any other name.
+int *valueNamed(QStringView name, Lanes &lanes)
 {
-    QHash<QString, int> values;
-    const QStringList fields = contents.split(u',');
-    for (const QString &field : fields)
-        values.insert(field.section(u'=', 0, 0), field.section(u'=', 1, 1).toInt());
-    return values;
+    if (name.size() != 2 || name[1] < u'1' || name[1] >= QChar(u'1' + maxLanes))
+        return nullptr;
+    Lane &lane = lanes[static_cast<std::size_t>(name[1].unicode() - u'1')];
+    if (name[0] == u'T')
+        return &lane.temperature;
+    return name[0] == u'F' ? &lane.fanSpeed : nullptr;
 }
 
-std::array<Lane, maxLanes> lanesOf(const QString &contents)
+// A missing field is 0; the last one of a name counts.
+Lanes lanesOf(QStringView contents)
 {
-    const QHash<QString, int> values = valuesOf(contents);
-    std::array<Lane, maxLanes> lanes;
-    int number = 0;
-    for (Lane &lane : lanes) {
-        ++number;
-        lane = {values.value(u"T%1"_s.arg(number)), values.value(u"F%1"_s.arg(number))};
+    Lanes lanes;
+    lanes.fill({0, 0});
+    for (const QStringView field : contents.tokenize(u',')) {
+        if (int *value = valueNamed(part(field, 0), lanes))
+            *value = part(field, 1).toInt();
     }
     return lanes;
 }
 
 // A lane counts when it has both values; those below it count with it.
-int laneCountOf(const std::array<Lane, maxLanes> &lanes)
+int laneCountOf(const Lanes &lanes)
 {
     int count = maxLanes;
     while (count > 0) {
@@ -109,8 +123,7 @@ int laneCountOf(const std::array<Lane, maxLanes> &lanes)
     return count;
 }
 
-template <typename Integer>
-void appendBigEndian(QByteArray &record, Integer value)
+void appendBigEndian(QByteArray &record, quint16 value)
 {
     char bytes[sizeof value];
     qToBigEndian(value, bytes);
@@ -121,14 +134,14 @@ void appendBigEndian(QByteArray &record, Integer value)
 
 QString readConfiguration(const QByteArray &text, Configuration &configuration)
 {
-    const QStringList lines = QString::fromUtf8(text).replace(u'\r', u'\n').split(u'\n', Qt::SkipEmptyParts);
-    if (lines.isEmpty())
+    const QString unified = QString::fromUtf8(text).replace(u'\r', u'\n');
+    if (unified.count(u'\n') == unified.size())
         return tr("Invalid file format");
-    const Lines sorted = sortLines(lines);
-    const QByteArray contents = sorted.contents.toLatin1();
-    if (sorted.identifier != crc16(contents.constData(), contents.size(), crc16IdentifierSeed))
+    const Lines lines = sortLines(unified);
+    const QByteArray contents = lines.contents.toLatin1();
+    if (lines.identifier != crc16(contents.constData(), contents.size(), crc16IdentifierSeed))
         return tr("Invalid file identifier value");
-    const auto lanes = lanesOf(sorted.contents);
+    const Lanes lanes = lanesOf(lines.contents);
     const int count = laneCountOf(lanes);
     if (count == 0)
         return tr("Invalid file contents");
@@ -141,8 +154,8 @@ QString readConfiguration(const QByteArray &text, Configuration &configuration)
 QByteArray writeConfiguration(const Configuration &configuration)
 {
     const QByteArray contents = contentsLine(configuration);
-    return QByteArray(fixedNote.data(), fixedNote.size()) +
-           "\nIdentifier=" + identifierOf(contents).toLatin1() + '\n' + contents;
+    return QByteArray(fixedNote.data(), fixedNote.size()) + "\nIdentifier=" + identifierOf(contents) + '\n' +
+           contents;
 }
 
 QByteArray writeProductionRecord(const Configuration &configuration)
