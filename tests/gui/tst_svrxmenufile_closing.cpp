@@ -243,6 +243,8 @@ void TestSvrxMenuFileClosing::failedWriteKeepsItOpen()
     close(menus);
     QVERIFY(answers.allAnswered());
     verifyOpen(menus, editor);
+    QCOMPARE(editor->filePath(), path);
+    QCOMPARE(editor->windowTitle(), u"Menu File - svrxconfig_a.txt"_s);
 }
 
 void TestSvrxMenuFileClosing::exitSavesInPlace()

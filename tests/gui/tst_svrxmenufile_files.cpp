@@ -291,6 +291,11 @@ void TestSvrxMenuFileFiles::failedConfigurationLeavesNoProductionFile()
     answers.expectBox(writeFault(folder.path(u"svrxconfig_a.txt"_s)), QMessageBox::Ok);
     QVERIFY(!editor.writeToFile(folder.path(u"svrxconfig_a.txt"_s)));
     QCOMPARE(folder.names(), QStringList{u"svrxconfig_a.txt"_s});
+    // The name is the current one all the same: a later Save tries again.
+    QCOMPARE(editor.filePath(), folder.path(u"svrxconfig_a.txt"_s));
+    QCOMPARE(editor.windowTitle(), u"Menu File - svrxconfig_a.txt"_s);
+    QVERIFY(QDir().rmdir(folder.path(u"svrxconfig_a.txt"_s)));
+    QVERIFY(editor.save());
 }
 
 void TestSvrxMenuFileFiles::failedProductionFileIsShown()
