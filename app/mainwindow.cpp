@@ -155,7 +155,10 @@ bool MainWindow::saveAll()
                 return false;
             continue;
         }
-        m_ui->mdiArea->setActiveSubWindow(subWindow); // so that the user sees which menu is meant
+        // So that the user sees which menu is meant.
+        if (subWindow->isMinimized())
+            subWindow->showNormal();
+        m_ui->mdiArea->setActiveSubWindow(subWindow);
         const QString path = askSaveName(this, menu.line->saveRequest(*menu.editor));
         if (path.isEmpty())
             return false;

@@ -30,6 +30,7 @@ private slots:
     void escapeKeepsTheProgramOpen();
     void yesSavesEveryMenu();
     void yesAsksForMissingNames();
+    void minimisedMenuIsShownWhenAskedFor();
     void cancelledNameKeepsWhatWasSaved();
     void failedSaveKeepsTheProgramOpen();
     void failedWriteToANewNameDoesNot();
@@ -141,6 +142,26 @@ void TestMainWindowExit::yesAsksForMissingNames()
     QVERIFY(QFile::exists(open.path(u"new1.json"_s)));
     QVERIFY(QFile::exists(open.path(u"new2.json"_s)));
     QCOMPARE(activated, QList({firstNew, secondNew}));
+}
+
+void TestMainWindowExit::minimisedMenuIsShownWhenAskedFor()
+{
+    OpenMenus open;
+    QMdiSubWindow *unnamed = open.openNew();
+    QMdiSubWindow *saved = open.openSample(u"saved.json"_s);
+    unnamed->showMinimized();
+    saved->showMinimized();
+    bool shownWhenAsked = false;
+    ModalAnswers answers;
+    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
+    expectName(answers, {});
+    answers.onShown([&shownWhenAsked, unnamed](const QDialog &) {
+        shownWhenAsked = !unnamed->isMinimized() && unnamed->widget()->isVisible();
+    });
+    QVERIFY(!open.window().close());
+    QVERIFY(shownWhenAsked);
+    QCOMPARE(open.area().activeSubWindow(), unnamed);
+    QVERIFY(saved->isMinimized());
 }
 
 void TestMainWindowExit::cancelledNameKeepsWhatWasSaved()
