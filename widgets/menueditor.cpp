@@ -10,6 +10,8 @@
 #include "model/files.h"
 #include "widgets/messages.h"
 
+using namespace Qt::StringLiterals;
+
 QString askSaveName(QWidget *parent, const SaveNameRequest &request)
 {
     return QFileDialog::getSaveFileName(parent, request.caption, request.start, request.filter);
@@ -41,7 +43,8 @@ void MenuEditor::setFilePath(const QString &path)
 
 void MenuEditor::showTitle(const QString &fileName)
 {
-    setWindowTitle(tr("Menu File - %1").arg(fileName));
+    // A title has "[*]" as the place of the mark of a changed document; doubled it stands for itself.
+    setWindowTitle(tr("Menu File - %1").arg(QString(fileName).replace("[*]"_L1, "[*][*]"_L1)));
 }
 
 void MenuEditor::closeEvent(QCloseEvent *event)
