@@ -49,23 +49,15 @@ void MenuEditor::showTitle(const QString &fileName)
 
 void MenuEditor::closeEvent(QCloseEvent *event)
 {
-    switch (messages::askSaveChanges()) {
-    case QMessageBox::Yes:
-        if (!m_filePath.isEmpty()) {
-            save(); // a failure has been shown; the user asked to close all the same
-            event->accept();
-            return;
-        }
-        event->setAccepted(saveUnderNewName());
-        break;
-    case QMessageBox::No:
+    const QMessageBox::StandardButton answer = messages::askSaveChanges();
+    if (answer == QMessageBox::Yes && !m_filePath.isEmpty()) {
+        save(); // a failure has been shown; the user asked to close all the same
         event->accept();
-        break;
-    default:
-        event->ignore();
-        break;
+        return;
     }
-    if (event->isAccepted())
+    const bool closes = answer == QMessageBox::No || (answer == QMessageBox::Yes && saveUnderNewName());
+    event->setAccepted(closes);
+    if (closes)
         deleteLater();
 }
 
