@@ -11,6 +11,8 @@
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int minFahrenheit = 150;
@@ -18,50 +20,41 @@ constexpr int maxFahrenheit = 400;
 constexpr int minCelsius = 66;
 constexpr int maxCelsius = 204;
 
-std::unique_ptr<Ui::SvrxMenuFile> makeForm(SvrxMenuFile *editor)
-{
-    auto form = std::make_unique<Ui::SvrxMenuFile>();
-    form->setupUi(editor);
-    return form;
-}
-
 } // namespace
 
 SvrxMenuFile::SvrxMenuFile(const QString &filePath, QWidget *parent)
     : MenuEditor(filePath, parent)
-    , m_ui(makeForm(this))
-    , m_rows{{
-          {m_ui->numTemperature1,
-           m_ui->lblTemperatureUnit1,
-           m_ui->lblTemperatureNote1,
-           m_ui->numFanSpeed1,
-           m_ui->lblFanSpeedNote1,
-           {m_ui->lblLane1, m_ui->lblFanSpeedUnit1}},
-          {m_ui->numTemperature2,
-           m_ui->lblTemperatureUnit2,
-           m_ui->lblTemperatureNote2,
-           m_ui->numFanSpeed2,
-           m_ui->lblFanSpeedNote2,
-           {m_ui->lblLane2, m_ui->lblFanSpeedUnit2}},
-          {m_ui->numTemperature3,
-           m_ui->lblTemperatureUnit3,
-           m_ui->lblTemperatureNote3,
-           m_ui->numFanSpeed3,
-           m_ui->lblFanSpeedNote3,
-           {m_ui->lblLane3, m_ui->lblFanSpeedUnit3}},
-          {m_ui->numTemperature4,
-           m_ui->lblTemperatureUnit4,
-           m_ui->lblTemperatureNote4,
-           m_ui->numFanSpeed4,
-           m_ui->lblFanSpeedNote4,
-           {m_ui->lblLane4, m_ui->lblFanSpeedUnit4}},
-      }}
+    , m_ui(std::make_unique<Ui::SvrxMenuFile>())
 {
-    setMenuValid(filePath.isEmpty() ? createMenu() : readMenuFile());
+    m_ui->setupUi(this);
+    int number = 0;
+    for (Row &row : m_rows)
+        row = rowOf(++number);
+    const bool isNew = filePath.isEmpty();
+    if (isNew)
+        createMenu();
+    setMenuValid(isNew || readMenuFile());
     fixDesignedSize(this);
 }
 
 SvrxMenuFile::~SvrxMenuFile() = default;
+
+SvrxMenuFile::Row SvrxMenuFile::rowOf(int number) const
+{
+    const auto label = [&](QLatin1StringView name) {
+        return findChild<QLabel *>(name + QString::number(number));
+    };
+    const auto box = [&](QLatin1StringView name) {
+        return findChild<QSpinBox *>(name + QString::number(number));
+    };
+    return {.lane = label("lblLane"_L1),
+            .temperature = box("numTemperature"_L1),
+            .temperatureUnit = label("lblTemperatureUnit"_L1),
+            .temperatureNote = label("lblTemperatureNote"_L1),
+            .fanSpeed = box("numFanSpeed"_L1),
+            .fanSpeedUnit = label("lblFanSpeedUnit"_L1),
+            .fanSpeedNote = label("lblFanSpeedNote"_L1)};
+}
 
 void SvrxMenuFile::closeEvent(QCloseEvent *event)
 {
@@ -78,11 +71,10 @@ SaveNameRequest SvrxMenuFile::closingNameRequest() const
     return {tr("Save Savorix Menu"), QStringLiteral("svrxconfig_"), tr("Savorix Menu Files (*.txt)")};
 }
 
-bool SvrxMenuFile::createMenu()
+void SvrxMenuFile::createMenu()
 {
     showTitle({});
     showConfiguration();
-    return true;
 }
 
 bool SvrxMenuFile::readMenuFile()
@@ -187,10 +179,10 @@ void SvrxMenuFile::enableRows()
     int number = 0;
     for (const Row &row : m_rows) {
         const bool used = number++ < m_configuration.laneCount;
-        for (QWidget *widget :
-             {static_cast<QWidget *>(row.temperature), static_cast<QWidget *>(row.temperatureUnit),
-              static_cast<QWidget *>(row.temperatureNote), static_cast<QWidget *>(row.fanSpeed),
-              static_cast<QWidget *>(row.fanSpeedNote), row.labels[0], row.labels[1]})
+        const QList<QWidget *> widgets{
+            row.lane,     row.temperature,  row.temperatureUnit, row.temperatureNote,
+            row.fanSpeed, row.fanSpeedUnit, row.fanSpeedNote};
+        for (QWidget *widget : widgets)
             widget->setEnabled(used);
     }
 }

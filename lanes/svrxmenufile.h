@@ -58,15 +58,19 @@ private:
     /// The widgets of a lane; the form owns them.
     struct Row
     {
+        QLabel *lane;
         QSpinBox *temperature;
         QLabel *temperatureUnit;
         QLabel *temperatureNote;
         QSpinBox *fanSpeed;
+        QLabel *fanSpeedUnit;
         QLabel *fanSpeedNote;
-        std::array<QWidget *, 2> labels; ///< what else is greyed with the lane
     };
 
-    bool createMenu();
+    /// In the form the widgets of a lane have its number, from 1, at the end of their names.
+    [[nodiscard]] Row rowOf(int number) const;
+
+    void createMenu();
     [[nodiscard]] int temperatureUnit() const;
     void showConfiguration();
     void showFanSpeeds();
@@ -78,7 +82,7 @@ private:
     [[nodiscard]] bool checkName(const QString &path);
 
     std::unique_ptr<Ui::SvrxMenuFile> m_ui;
-    std::array<Row, lanes::maxLanes> m_rows;
+    std::array<Row, lanes::maxLanes> m_rows{};
     lanes::Configuration m_configuration;
     bool m_loading = false; ///< the boxes are being filled: what they report is no entry of the user's
 };
