@@ -187,15 +187,16 @@ void SvrxMenuFile::enableRows()
     }
 }
 
-// Where a box cannot show what is stored, the row says what the file holds.
+// Where a box cannot show what is stored, the row says what the file holds; not of lanes that are not saved.
 void SvrxMenuFile::showNotes()
 {
-    const auto note = [](const QSpinBox *box, int stored) {
-        return box->value() == stored ? QString() : tr("file holds %1").arg(stored);
-    };
-    for (std::size_t lane = 0; lane < m_rows.size(); ++lane) {
-        const lanes::Lane &stored = m_configuration.lanes[lane];
-        const Row &row = m_rows[lane];
+    int number = 0;
+    for (const Row &row : m_rows) {
+        const bool used = number < m_configuration.laneCount;
+        const lanes::Lane &stored = m_configuration.lanes[static_cast<std::size_t>(number++)];
+        const auto note = [used](const QSpinBox *box, int value) {
+            return used && box->value() != value ? tr("file holds %1").arg(value) : QString();
+        };
         row.temperatureNote->setText(
             note(row.temperature, shownTemperature(stored.temperature, temperatureUnit())));
         row.fanSpeedNote->setText(note(row.fanSpeed, stored.fanSpeed));
@@ -208,6 +209,7 @@ void SvrxMenuFile::on_comboModelSelect_currentIndexChanged(int index)
         return;
     m_configuration.laneCount = index + 1;
     enableRows();
+    showNotes();
 }
 
 void SvrxMenuFile::on_rbTempUnitF_clicked()

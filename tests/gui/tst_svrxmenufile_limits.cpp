@@ -30,6 +30,7 @@ private slots:
     void valuesBeyondTheLimitsAreTold();
     void valuesBeyondTheLimitsStayUntilChanged();
     void notesFollowTheUnit();
+    void notesFollowTheLaneCount();
 };
 
 void TestSvrxMenuFileLimits::numbersHaveLimits()
@@ -202,6 +203,25 @@ void TestSvrxMenuFileLimits::notesFollowTheUnit()
     editor.chooseUnit("rbTempUnitF");
     QCOMPARE(editor.temperatureNote(1), u"file holds 149"_s);
     QCOMPARE(editor.temperatureNote(2), u"file holds 401"_s);
+}
+
+void TestSvrxMenuFileLimits::notesFollowTheLaneCount()
+{
+    OpenLaneEditor editor("T1=1,T2=401,T3=402,T4=403,F1=1,F2=2,F3=3,F4=4");
+    const QStringList laneCounts{u"Single Lane"_s, u"Double Lane"_s, u"Triple Lane"_s, u"Quad Lane"_s};
+    const QStringList temperatureNotes{u"file holds 1"_s, u"file holds 401"_s, u"file holds 402"_s,
+                                       u"file holds 403"_s};
+    for (int inUse : {1, 2, 3, 4, 2}) {
+        editor.chooseLanes(laneCounts[inUse - 1]);
+        for (int lane = 1; lane <= 4; ++lane) {
+            const bool told = lane <= inUse;
+            QCOMPARE(editor.temperatureNote(lane), told ? temperatureNotes[lane - 1] : QString());
+            QCOMPARE(editor.fanSpeedNote(lane), told ? u"file holds %1"_s.arg(lane) : QString());
+        }
+    }
+    editor.chooseUnit("rbTempUnitC");
+    QCOMPARE(editor.temperatureNote(2), u"file holds 205"_s);
+    QCOMPARE(editor.temperatureNote(3), QString());
 }
 
 QTEST_MAIN(TestSvrxMenuFileLimits)
