@@ -3,6 +3,7 @@
 
 #include "lanes/svrxmenufile.h"
 
+#include <QLineEdit>
 #include <QScopedValueRollback>
 
 #include "model/files.h"
@@ -28,8 +29,11 @@ SvrxMenuFile::SvrxMenuFile(const QString &filePath, QWidget *parent)
 {
     m_ui->setupUi(this);
     int number = 0;
-    for (Row &row : m_rows)
+    for (Row &row : m_rows) {
         row = rowOf(++number);
+        takeWhatIsTyped(row.temperature);
+        takeWhatIsTyped(row.fanSpeed);
+    }
     const bool isNew = filePath.isEmpty();
     if (isNew)
         createMenu();
@@ -54,6 +58,19 @@ SvrxMenuFile::Row SvrxMenuFile::rowOf(int number) const
             .fanSpeed = box("numFanSpeed"_L1),
             .fanSpeedUnit = label("lblFanSpeedUnit"_L1),
             .fanSpeedNote = label("lblFanSpeedNote"_L1)};
+}
+
+// A box that is left tells of no change when what it shows was typed over itself, or when it took back what
+// was typed.
+void SvrxMenuFile::takeWhatIsTyped(QSpinBox *box)
+{
+    connect(box->findChild<QLineEdit *>(), &QLineEdit::textEdited, this, [this, box] { m_typedIn = box; });
+    connect(box, &QSpinBox::editingFinished, this, [this, box] {
+        if (m_typedIn != box)
+            return;
+        emit box->valueChanged(box->value());
+        m_typedIn = nullptr;
+    });
 }
 
 void SvrxMenuFile::closeEvent(QCloseEvent *event)
@@ -222,19 +239,32 @@ void SvrxMenuFile::on_rbTempUnitC_clicked()
     updateTemperatureLimits();
 }
 
-void SvrxMenuFile::storeFanSpeed(std::size_t lane, int value)
+// Enter makes a box report what it shows already, which is no entry: the stored value may be another one with
+// the same look, or lie beyond the limits. The latter is replaced by the limit once that was typed.
+bool SvrxMenuFile::isEntry(const QSpinBox *box, int value, int stored) const
 {
     if (m_loading)
+        return false;
+    const bool isNew = value != qBound(box->minimum(), stored, box->maximum());
+    return isNew || (value != stored && m_typedIn == box);
+}
+
+void SvrxMenuFile::storeFanSpeed(std::size_t lane, int value)
+{
+    int &stored = m_configuration.lanes[lane].fanSpeed;
+    if (!isEntry(m_rows[lane].fanSpeed, value, stored))
         return;
-    m_configuration.lanes[lane].fanSpeed = value;
+    stored = value;
     showNotes();
 }
 
 void SvrxMenuFile::storeTemperature(std::size_t lane, int value)
 {
-    if (m_loading)
+    int &stored = m_configuration.lanes[lane].temperature;
+    const int unit = temperatureUnit();
+    if (!isEntry(m_rows[lane].temperature, value, shownTemperature(stored, unit)))
         return;
-    m_configuration.lanes[lane].temperature = storedTemperature(value, temperatureUnit());
+    stored = storedTemperature(value, unit);
     showNotes();
 }
 

@@ -70,12 +70,15 @@ private:
     /// In the form the widgets of a lane have its number, from 1, at the end of their names.
     [[nodiscard]] Row rowOf(int number) const;
 
+    void takeWhatIsTyped(QSpinBox *box);
     void createMenu();
     [[nodiscard]] int temperatureUnit() const;
     void showConfiguration();
     void showFanSpeeds();
     void enableRows();
     void showNotes();
+    /// Whether a box reports an entry of the user's; `stored` is in the box's unit.
+    [[nodiscard]] bool isEntry(const QSpinBox *box, int value, int stored) const;
     void storeFanSpeed(std::size_t lane, int value);
     void storeTemperature(std::size_t lane, int value);
     bool writeConfigurationFile(const QString &path);
@@ -84,5 +87,6 @@ private:
     std::unique_ptr<Ui::SvrxMenuFile> m_ui;
     std::array<Row, lanes::maxLanes> m_rows{};
     lanes::Configuration m_configuration;
+    QSpinBox *m_typedIn = nullptr; ///< typed into since its last editing was finished
     bool m_loading = false; ///< the boxes are being filled: what they report is no entry of the user's
 };

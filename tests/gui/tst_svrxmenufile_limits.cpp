@@ -29,6 +29,11 @@ private slots:
     void celsiusEntriesAreStoredInFahrenheit();
     void valuesBeyondTheLimitsAreTold();
     void valuesBeyondTheLimitsStayUntilChanged();
+    void shownLimitCanBeTyped_data();
+    void shownLimitCanBeTyped();
+    void shownLimitCanBeTypedInCelsius();
+    void nothingIsStoredWithoutTyping();
+    void typingTheShownTemperatureKeepsTheStoredOne();
     void notesFollowTheUnit();
     void notesFollowTheLaneCount();
 };
@@ -190,6 +195,65 @@ void TestSvrxMenuFileLimits::valuesBeyondTheLimitsStayUntilChanged()
     QCOMPARE(editor.fanSpeedNote(2), QString());
     QCOMPARE(editor.temperatureNote(2), u"file holds 401"_s);
     QCOMPARE(editor.saved(), QByteArray("T1=151,T2=401,T3=0,T4=0,F1=1,F2=3199,F3=0,F4=0"));
+}
+
+void TestSvrxMenuFileLimits::shownLimitCanBeTyped_data()
+{
+    QTest::addColumn<QString>("temperature");
+    QTest::addColumn<QString>("fanSpeed");
+    QTest::newRow("as shown") << u"150"_s << u"3200"_s;
+    QTest::newRow("beyond, taken back") << u"149"_s << u"320"_s;
+}
+
+void TestSvrxMenuFileLimits::shownLimitCanBeTyped()
+{
+    QFETCH(const QString, temperature);
+    QFETCH(const QString, fanSpeed);
+    OpenLaneEditor editor("T1=1,T2=375,T3=0,T4=0,F1=1800,F2=99999,F3=0,F4=0");
+    ui::type(editor.temperature(1), temperature);
+    QTest::keyClick(&editor.temperature(1), Qt::Key_Tab);
+    QCOMPARE(editor.temperatureNote(1), QString());
+    QCOMPARE(editor.fanSpeedNote(2), u"file holds 99999"_s);
+    ui::type(editor.fanSpeed(2), fanSpeed);
+    QTest::keyClick(&editor.fanSpeed(2), Qt::Key_Return);
+    QCOMPARE(editor.fanSpeedNote(2), QString());
+    QCOMPARE(editor.saved(), QByteArray("T1=150,T2=375,T3=0,T4=0,F1=1800,F2=3200,F3=0,F4=0"));
+}
+
+void TestSvrxMenuFileLimits::shownLimitCanBeTypedInCelsius()
+{
+    OpenLaneEditor editor("T1=500,T2=0,T3=0,T4=0,F1=1800,F2=0,F3=0,F4=0");
+    editor.chooseUnit("rbTempUnitC");
+    ui::type(editor.temperature(1), u"204"_s);
+    QTest::keyClick(&editor.temperature(1), Qt::Key_Tab);
+    QCOMPARE(editor.temperatureNote(1), QString());
+    QCOMPARE(editor.saved(), QByteArray("T1=399,T2=0,T3=0,T4=0,F1=1800,F2=0,F3=0,F4=0"));
+}
+
+void TestSvrxMenuFileLimits::nothingIsStoredWithoutTyping()
+{
+    const QByteArray contents = "T1=1,T2=401,T3=0,T4=0,F1=1,F2=99999,F3=0,F4=0";
+    OpenLaneEditor editor(contents);
+    for (int lane : {1, 2}) {
+        for (QSpinBox *box : {&editor.temperature(lane), &editor.fanSpeed(lane)}) {
+            box->setFocus();
+            QTest::keyClick(box, Qt::Key_Return);
+            QTest::keyClick(box, Qt::Key_Tab);
+        }
+    }
+    QCOMPARE(editor.saved(), contents);
+    QCOMPARE(editor.temperatureNote(1), u"file holds 1"_s);
+}
+
+// 375 and 376 °F are both shown as 191 °C, and 191 °C is 376 °F.
+void TestSvrxMenuFileLimits::typingTheShownTemperatureKeepsTheStoredOne()
+{
+    OpenLaneEditor editor;
+    editor.chooseUnit("rbTempUnitC");
+    ui::type(editor.temperature(1), u"191"_s);
+    QTest::keyClick(&editor.temperature(1), Qt::Key_Return);
+    QTest::keyClick(&editor.temperature(1), Qt::Key_Tab);
+    QCOMPARE(editor.saved(), QByteArray("T1=375,T2=375,T3=0,T4=0,F1=1800,F2=1800,F3=0,F4=0"));
 }
 
 void TestSvrxMenuFileLimits::notesFollowTheUnit()
