@@ -20,10 +20,10 @@ constexpr auto fixedNote = "Manual edits may render this file useless"_L1;
 constexpr auto fixedDescription = "Varno Holding Menu File"_L1;
 constexpr int fixedVersion = 1;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("MenuFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MenuFile)
+};
 
 int toInt(const QJsonValue &value)
 {
@@ -209,7 +209,7 @@ QString readLayout(const QJsonValue &layout, Menu &menu)
 {
     const QJsonArray array = layout.toArray();
     if (!layout.isArray() || array.size() > maxDayparts)
-        return tr("Dayparts read failed!");
+        return Text::tr("Dayparts read failed!");
     const CabinetShape shape = menu.shape();
     menu.dayparts = {};
     menu.daypartCount = static_cast<int>(array.size());
@@ -223,12 +223,12 @@ QString readProductsAndGroups(const QJsonObject &json, Menu &menu)
 {
     const QJsonValue products = json.value("products"_L1);
     if (!products.isArray())
-        return tr("Products list read failed!");
+        return Text::tr("Products list read failed!");
     readEntries(products.toArray(), "productId"_L1, readProduct, menu.products);
 
     const QJsonValue groups = json.value("productGroups"_L1);
     if (!groups.isArray())
-        return tr("Groups list read failed!");
+        return Text::tr("Groups list read failed!");
     readEntries(groups.toArray(), "groupId"_L1, readGroup, menu.groups);
     return {};
 }
@@ -237,10 +237,10 @@ QString readRoot(const QByteArray &json, QJsonObject &root)
 {
     const QJsonDocument document = QJsonDocument::fromJson(json);
     if (!document.isObject())
-        return tr("File format is corrupted!");
+        return Text::tr("File format is corrupted!");
     root = document.object();
     if (root.value("header"_L1).toObject().isEmpty())
-        return tr("File header read failed");
+        return Text::tr("File header read failed");
     return {};
 }
 
@@ -253,10 +253,10 @@ QString readMenu(const QByteArray &json, Menu &menu, const AskConfiguration &ask
         return fault;
     readHeader(root.value("header"_L1).toObject(), menu.configuration);
     if (!menu.shape().isKnown() && !askConfiguration(menu.configuration))
-        return tr("File read canceled. Unkown configuration!");
+        return Text::tr("File read canceled. Unkown configuration!");
     const QJsonObject content = root.value("menu"_L1).toObject();
     if (content.isEmpty())
-        return tr("Menu is empty!");
+        return Text::tr("Menu is empty!");
     menu.products.clear();
     menu.groups.clear();
     if (QString fault = readProductsAndGroups(content, menu); !fault.isEmpty())
@@ -269,13 +269,13 @@ QString readDefaultMenu(int binsPerZone, Menu &menu)
     const QString path = binsPerZone == 3 ? u":/KTRx3_DefaultMenu.json"_s : u":/KTRx2_DefaultMenu.json"_s;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return tr("Failed to open the file:") + path;
+        return Text::tr("Failed to open the file:") + path;
     QJsonObject root;
     if (QString fault = readRoot(file.readAll(), root); !fault.isEmpty())
         return fault;
     const QJsonObject content = root.value("menu"_L1).toObject();
     if (content.isEmpty())
-        return tr("Menu is empty!");
+        return Text::tr("Menu is empty!");
     return readProductsAndGroups(content, menu);
 }
 

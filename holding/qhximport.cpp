@@ -27,10 +27,10 @@ constexpr int groupMembers = 8;
 constexpr int importedDayparts = 2;
 constexpr quint16 supportedRevision = 5;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("MenuFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MenuFile)
+};
 
 /// One record of the file. Every record begins with the checksum of its other bytes.
 class Record
@@ -167,9 +167,9 @@ QString readConfiguration(const QByteArray &bytes, qint64 offset, CabinetConfigu
 {
     const auto record = recordAt(bytes, offset, configurationSize);
     if (!record)
-        return tr("Invalid configuration size!");
+        return Text::tr("Invalid configuration size!");
     if (!record->isIntact())
-        return tr("Invalid configuration CRC!");
+        return Text::tr("Invalid configuration CRC!");
     configuration.type = u"QHX"_s;
     configuration.model = modelOf(record->u8(2));
     configuration.temperatureUnit = record->u8(4);
@@ -182,9 +182,9 @@ QString readEntries(const QByteArray &bytes, qint64 offset, int count, Menu &men
     for (int i = 0; i < count; ++i) {
         const auto record = recordAt(bytes, offset + i * entrySize, entrySize);
         if (!record)
-            return tr("Invalid product size!");
+            return Text::tr("Invalid product size!");
         if (!record->isIntact())
-            return tr("Invalid product CRC!");
+            return Text::tr("Invalid product CRC!");
         const quint8 kind = record->u8(2);
         const bool hasId = record->u32(4) != 0;
         if (kind == 'p' && hasId)
@@ -202,9 +202,9 @@ QString readDayparts(const QByteArray &bytes, qint64 offset, Menu &menu)
     for (int i = 0; i < importedDayparts; ++i) {
         const auto record = recordAt(bytes, offset + i * daypartSize, daypartSize);
         if (!record)
-            return tr("Invalid daypart size!");
+            return Text::tr("Invalid daypart size!");
         if (!record->isIntact())
-            return tr("Invalid daypart CRC!");
+            return Text::tr("Invalid daypart CRC!");
         Daypart &daypart = menu.dayparts[static_cast<std::size_t>(i)];
         daypart.inUse = true;
         for (int bin = 0; bin < bins; ++bin) {
@@ -229,14 +229,14 @@ QString importQhxMenu(const QByteArray &bytes, Menu &menu)
 {
     const auto header = recordAt(bytes, 0, headerSize);
     if (!header)
-        return tr("Invalid file header size!");
+        return Text::tr("Invalid file header size!");
     if (!header->isIntact())
-        return tr("Invalid file header CRC!");
+        return Text::tr("Invalid file header CRC!");
     if (header->u16(2) != supportedRevision)
-        return tr("Unsupported file revision!");
+        return Text::tr("Unsupported file revision!");
     const int count = header->u8(4);
     if (count > maxEntries)
-        return tr("Invalid products count!");
+        return Text::tr("Invalid products count!");
     if (QString fault = readConfiguration(bytes, header->u32(6), menu.configuration); !fault.isEmpty())
         return fault;
     if (QString fault = readEntries(bytes, header->u32(10), count, menu); !fault.isEmpty())

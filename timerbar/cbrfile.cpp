@@ -29,10 +29,10 @@ constexpr qsizetype shortNameLength = 4;
 constexpr qsizetype nameOffset = 14;
 constexpr qsizetype nameLength = 25;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("TimerBarMenuFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(TimerBarMenuFile)
+};
 
 quint8 byteAt(QByteArrayView bytes, qsizetype offset)
 {
@@ -174,15 +174,15 @@ QString checkHeader(const QByteArray &bytes)
     if (bytes.size() < crcSize ||
         qFromLittleEndian<quint16>(bytes.constData()) !=
             crc16(bytes.constData() + crcSize, bytes.size() - crcSize, crc16MenuSeed))
-        return tr("Invalid menu file CRC!");
+        return Text::tr("Invalid menu file CRC!");
     if (bytes.size() < headerSize)
-        return tr("Invalid header size!");
+        return Text::tr("Invalid header size!");
     if (byteAt(bytes, 4) * 256 + byteAt(bytes, 5) != formatVersion)
-        return tr("Invalid menu file version!");
+        return Text::tr("Invalid menu file version!");
     if (byteAt(bytes, 10) != productSize)
-        return tr("Invalid product size value!");
+        return Text::tr("Invalid product size value!");
     if (byteAt(bytes, 9) > maxProducts)
-        return tr("Invalid total products value!");
+        return Text::tr("Invalid total products value!");
     return {};
 }
 
@@ -214,10 +214,10 @@ QString readDayparts(RecordSource &source, Menu &menu)
     for (int i = 0; i < daypartCount; ++i) {
         const QByteArrayView record = source.take(daypartSize(shape.bins()));
         if (record.isEmpty())
-            return tr("Daypart read failed!");
+            return Text::tr("Daypart read failed!");
         const int index = byteAt(record, 0);
         if (index >= daypartCount)
-            return tr("Invalid daypart index detected!");
+            return Text::tr("Invalid daypart index detected!");
         decodeDaypart(record, shape, static_cast<int>(menu.products.size()),
                       menu.dayparts[static_cast<std::size_t>(index)]);
     }
@@ -233,14 +233,14 @@ QString readMenu(const QByteArray &bytes, Menu &menu)
     menu.temperatureUnit = byteAt(bytes, 8);
     const QString model = modelOfShape(byteAt(bytes, 6), byteAt(bytes, 7));
     if (model.isEmpty())
-        return tr("Uknown cabinet model!");
+        return Text::tr("Uknown cabinet model!");
     menu.model = model;
     RecordSource source(QByteArrayView(bytes).sliced(headerSize));
     const int count = byteAt(bytes, 9);
     for (int i = 0; i < count; ++i) {
         const QByteArrayView record = source.take(productSize);
         if (record.isEmpty())
-            return tr("Product read failed! Index =%1").arg(i);
+            return Text::tr("Product read failed! Index =%1").arg(i);
         menu.products.push_back(decodeProduct(record, i));
     }
     return readDayparts(source, menu);
@@ -250,7 +250,7 @@ QString writeMenu(QIODevice &device, const Menu &menu)
 {
     const CabinetShape shape = menu.shape();
     // A later fault's message would replace this one, and a menu that was written shows none.
-    [[maybe_unused]] const QString pending = shape.rows == 0 ? tr("Unkown cabinet model") : QString();
+    [[maybe_unused]] const QString pending = shape.rows == 0 ? Text::tr("Unkown cabinet model") : QString();
 
     QByteArray header = encodeHeader(menu, shape);
     quint16 crc = crc16(header.constData() + crcSize, header.size() - crcSize, crc16MenuSeed);
@@ -258,18 +258,18 @@ QString writeMenu(QIODevice &device, const Menu &menu)
     for (const auto &product : menu.products) {
         const QByteArray record = encodeProduct(*product);
         if (!placed || !write(device, record))
-            return tr("Failed to write product info to the file");
+            return Text::tr("Failed to write product info to the file");
         crc = resume(record, crc);
     }
     for (int i = 0; i < daypartCount; ++i) {
         const QByteArray record = encodeDaypart(i, menu.dayparts[static_cast<std::size_t>(i)], shape);
         if (!placed || !write(device, record))
-            return tr("Failed to write daypart info to the file");
+            return Text::tr("Failed to write daypart info to the file");
         crc = resume(record, crc);
     }
     qToLittleEndian(crc, header.data());
     if (!seek(device, 0) || !write(device, header))
-        return tr("Failed to write header info to the file");
+        return Text::tr("Failed to write header info to the file");
     return {};
 }
 

@@ -14,6 +14,11 @@ namespace timerbar {
 
 namespace {
 
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(TimerBarMenuFile)
+};
+
 struct Model
 {
     QLatin1StringView name;
@@ -215,9 +220,8 @@ bool fitsNeighbour(const ProductInfo &product, const ReferenceTemperatures &refe
 
 QStringList daypartNames()
 {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("TimerBarMenuFile", text); };
-    return {tr("Breakfast"),    tr("ChangeOver 1"), tr("Lunch"),
-            tr("ChangeOver 2"), tr("Dinner"),       tr("ChangeOver 3")};
+    return {Text::tr("Breakfast"),    Text::tr("ChangeOver 1"), Text::tr("Lunch"),
+            Text::tr("ChangeOver 2"), Text::tr("Dinner"),       Text::tr("ChangeOver 3")};
 }
 
 } // namespace timerbar
