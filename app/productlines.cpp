@@ -28,10 +28,10 @@ MenuEditor *cast(QWidget *widget)
     return qobject_cast<Editor *>(widget);
 }
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("MainWindow", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MainWindow)
+};
 
 template <typename Predicate>
 const ProductLine *find(Predicate matches)
@@ -64,9 +64,9 @@ const QList<ProductLine> &productLines()
          .subWindowName = "QhxMenuFile"_L1,
          .endings = {".json"_L1, ".qhx"_L1},
          .startName = {},
-         .saveCaption = [] { return tr("Save JSON Menu"); },
-         .saveAsCaption = [] { return tr("Save As JSON Menu"); },
-         .fileFilter = [] { return tr("JSON Menu Files (*.json)"); },
+         .saveCaption = [] { return Text::tr("Save JSON Menu"); },
+         .saveAsCaption = [] { return Text::tr("Save As JSON Menu"); },
+         .fileFilter = [] { return Text::tr("JSON Menu Files (*.json)"); },
          .create = create<MenuFile>,
          .cast = cast<MenuFile>},
         {.resultCode = 2,
@@ -74,9 +74,9 @@ const QList<ProductLine> &productLines()
          .subWindowName = "SvrxMenuFile"_L1,
          .endings = {".txt"_L1},
          .startName = u"svrxconfig_"_s,
-         .saveCaption = [] { return tr("Save Savorix Menu"); },
-         .saveAsCaption = [] { return tr("Save Savorix Menu"); },
-         .fileFilter = [] { return tr("Savorix Menu Files (*.txt)"); },
+         .saveCaption = [] { return Text::tr("Save Savorix Menu"); },
+         .saveAsCaption = [] { return Text::tr("Save Savorix Menu"); },
+         .fileFilter = [] { return Text::tr("Savorix Menu Files (*.txt)"); },
          .create = create<SvrxMenuFile>,
          .cast = cast<SvrxMenuFile>},
         {.resultCode = 3,
@@ -84,9 +84,9 @@ const QList<ProductLine> &productLines()
          .subWindowName = "TimerBarMenuFile"_L1,
          .endings = {".cbr"_L1},
          .startName = {},
-         .saveCaption = [] { return tr("Save TimerBar Menu"); },
-         .saveAsCaption = [] { return tr("Save TimerBar Menu"); },
-         .fileFilter = [] { return tr("TimerBar Menu Files (*.cbr)"); },
+         .saveCaption = [] { return Text::tr("Save TimerBar Menu"); },
+         .saveAsCaption = [] { return Text::tr("Save TimerBar Menu"); },
+         .fileFilter = [] { return Text::tr("TimerBar Menu Files (*.cbr)"); },
          .create = create<TimerBarMenuFile>,
          .cast = cast<TimerBarMenuFile>},
     };

@@ -25,10 +25,10 @@ constexpr auto productionPrefix = "svrxprod_"_L1;
 constexpr quint32 productionMagic = 285779365;
 constexpr quint16 absentLane = 0xFFFF;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SvrxMenuFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SvrxMenuFile)
+};
 
 QByteArray identifierOf(const QByteArray &contentsLine)
 {
@@ -136,15 +136,15 @@ QString readConfiguration(const QByteArray &text, Configuration &configuration)
 {
     const QString unified = QString::fromUtf8(text).replace(u'\r', u'\n');
     if (unified.count(u'\n') == unified.size())
-        return tr("Invalid file format");
+        return Text::tr("Invalid file format");
     const Lines lines = sortLines(unified);
     const QByteArray contents = lines.contents.toLatin1();
     if (lines.identifier != crc16(contents.constData(), contents.size(), crc16IdentifierSeed))
-        return tr("Invalid file identifier value");
+        return Text::tr("Invalid file identifier value");
     const Lanes lanes = lanesOf(lines.contents);
     const int count = laneCountOf(lanes);
     if (count == 0)
-        return tr("Invalid file contents");
+        return Text::tr("Invalid file contents");
     configuration = {};
     configuration.laneCount = count;
     std::copy_n(lanes.begin(), count, configuration.lanes.begin());

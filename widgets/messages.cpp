@@ -16,14 +16,10 @@ namespace messages {
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("messages", text);
-}
-
-} // namespace
-
-namespace {
+    Q_DECLARE_TR_FUNCTIONS(messages)
+};
 
 // With a least width of their own the labels no longer ask for the room of their longest word, which may be
 // the name of a file.
@@ -43,8 +39,8 @@ void makeRoomForWords(QMessageBox &box)
 void fileFault(const QString &message)
 {
     QMessageBox box;
-    box.setWindowTitle(tr("Error"));
-    box.setText(tr("Error"));
+    box.setWindowTitle(Text::tr("Error"));
+    box.setText(Text::tr("Error"));
     box.setInformativeText(asPlainText(message));
     box.setStandardButtons(QMessageBox::Ok);
     box.setStyleSheet(u"QLabel{min-width: 220px;}"_s);
@@ -54,39 +50,42 @@ void fileFault(const QString &message)
 
 void entryFault(QWidget *parent, const QString &message)
 {
-    QMessageBox(QMessageBox::NoIcon, tr("Error"), message, QMessageBox::Close, parent).exec();
+    QMessageBox(QMessageBox::NoIcon, Text::tr("Error"), message, QMessageBox::Close, parent).exec();
 }
 
 void refusal(QWidget *parent, const QString &message)
 {
-    QMessageBox(QMessageBox::Warning, tr("Error"), message, QMessageBox::Close, parent).exec();
+    QMessageBox(QMessageBox::Warning, Text::tr("Error"), message, QMessageBox::Close, parent).exec();
 }
 
 void warning(QWidget *parent, const QString &message, QMessageBox::StandardButton button)
 {
-    QMessageBox(QMessageBox::Warning, tr("Warning"), message, button, parent).exec();
+    QMessageBox(QMessageBox::Warning, Text::tr("Warning"), message, button, parent).exec();
 }
 
 void reconfigured(QWidget *parent, const QString &message)
 {
-    QMessageBox box(QMessageBox::Warning, tr("Warning"), tr("Warning"), QMessageBox::Ok, parent);
+    QMessageBox box(QMessageBox::Warning, Text::tr("Warning"), Text::tr("Warning"), QMessageBox::Ok, parent);
     box.setInformativeText(message);
     box.exec();
 }
 
 bool confirmDelete(QWidget *parent, const QString &question)
 {
-    QMessageBox box(QMessageBox::Question, tr("Delete"), question, QMessageBox::Yes | QMessageBox::No,
+    QMessageBox box(QMessageBox::Question, Text::tr("Delete"), question, QMessageBox::Yes | QMessageBox::No,
                     parent);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }
 
-QMessageBox::StandardButton askSaveChanges()
+// With a qualified type of result lupdate would take the function for a member of QMessageBox.
+using Answer = QMessageBox::StandardButton;
+
+Answer askSaveChanges()
 {
-    QMessageBox box(QMessageBox::Warning, tr("Save..."), tr("Save changes before exit?"),
+    QMessageBox box(QMessageBox::Warning, Text::tr("Save..."), Text::tr("Save changes before exit?"),
                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    return static_cast<Answer>(box.exec());
 }
 
 } // namespace messages
