@@ -11,6 +11,7 @@
 #include "ui_svrxmenufile.h"
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
+#include "widgets/wheelfocus.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +35,7 @@ SvrxMenuFile::SvrxMenuFile(const QString &filePath, QWidget *parent)
         takeWhatIsTyped(row.temperature);
         takeWhatIsTyped(row.fanSpeed);
     }
+    needFocusForWheel(this);
     const bool isNew = filePath.isEmpty();
     if (isNew)
         createMenu();
