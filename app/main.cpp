@@ -3,18 +3,11 @@
 
 #include <QApplication>
 #include <QLocale>
-#include <QTranslator>
 
-#include "app/mainwindow.h"
-#include "app/translation.h"
+#include "app/startup.h"
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    QTranslator translator;
-    if (loadTranslator(translator, QLocale::system().uiLanguages()))
-        QApplication::installTranslator(&translator);
-    MainWindow window;
-    window.showMaximized();
-    return QApplication::exec();
+    const QApplication application(argc, argv);
+    return runProgram(QLocale::system().uiLanguages());
 }

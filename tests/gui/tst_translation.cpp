@@ -1,9 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QAction>
+#include <QApplication>
 #include <QTest>
+#include <QTimer>
 #include <QTranslator>
 
+#include "app/mainwindow.h"
+#include "app/startup.h"
 #include "app/translation.h"
 #include "tests/support/warnings.h"
 
@@ -19,6 +24,9 @@ private slots:
     void firstLanguageWithACatalogueWins_data();
     void firstLanguageWithACatalogueWins();
     void shippedCatalogueChangesNothing();
+    void programStartsTranslatedAndMaximised_data();
+    void programStartsTranslatedAndMaximised();
+    void programEndsWithTheExitCode();
 };
 
 void TestTranslation::firstLanguageWithACatalogueWins_data()
@@ -55,5 +63,56 @@ void TestTranslation::shippedCatalogueChangesNothing()
     QVERIFY(translator.translate("MainWindow", "E&xit").isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestTranslation)
+namespace {
+
+/// The main window of the program that runs, or null.
+MainWindow *mainWindow()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *window = qobject_cast<MainWindow *>(widget))
+            return window;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void TestTranslation::programStartsTranslatedAndMaximised_data()
+{
+    QTest::addColumn<QStringList>("languages");
+    QTest::addColumn<QString>("exitText");
+    QTest::newRow("translated") << QStringList{u"fi-FI"_s, u"de-DE"_s} << u"B&eenden"_s;
+    QTest::newRow("not translated") << QStringList{u"fi-FI"_s} << u"E&xit"_s;
+}
+
+// The texts of a window are set once: the catalogue has to be there before.
+void TestTranslation::programStartsTranslatedAndMaximised()
+{
+    QFETCH(const QStringList, languages);
+    QFETCH(const QString, exitText);
+    bool maximised = false;
+    QString shownText;
+    QTimer::singleShot(0, this, [&maximised, &shownText] {
+        MainWindow *window = mainWindow();
+        if (!window) {
+            QCoreApplication::exit(1);
+            return;
+        }
+        maximised = window->isVisible() && window->isMaximized();
+        shownText = window->findChild<QAction *>(u"actionExit"_s)->text();
+        window->close();
+    });
+    QCOMPARE(runProgram(languages), 0);
+    QVERIFY(maximised);
+    QCOMPARE(shownText, exitText);
+    QVERIFY(!mainWindow());
+}
+
+void TestTranslation::programEndsWithTheExitCode()
+{
+    QTimer::singleShot(0, this, [] { QCoreApplication::exit(3); });
+    QCOMPARE(runProgram({}), 3);
+}
+
+QTEST_MAIN(TestTranslation)
 #include "tst_translation.moc"

@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QStringList>
+
+/// The program from its start to its end, once there is an application object: it speaks the first of the
+/// user's languages that it knows and shows its main window maximised. Returns the exit code.
+[[nodiscard]] int runProgram(const QStringList &uiLanguages);
