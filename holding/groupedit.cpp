@@ -129,8 +129,8 @@ void GroupEdit::loadGroupProducts()
         const ProductInfo *member = product(m_members[position]);
         if (!member)
             continue;
-        QListWidgetItem *item = numberedrows::append(list, shownName(member->get_productName()));
-        item->setText(numberedrows::text(position + 1, shownName(member->get_productName())));
+        QListWidgetItem *item =
+            numberedrows::append(list, position + 1, shownName(member->get_productName()));
         item->setData(idRole, member->get_productId());
         item->setData(positionRole, position);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);

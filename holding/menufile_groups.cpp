@@ -33,8 +33,7 @@ void MenuFile::loadGroupMembers()
         if (!member)
             continue;
         QListWidgetItem *item =
-            numberedrows::append(m_ui->listWidgetMembers, shownName(member->get_productName()));
-        item->setText(numberedrows::text(position + 1, shownName(member->get_productName())));
+            numberedrows::append(m_ui->listWidgetMembers, position + 1, shownName(member->get_productName()));
         item->setFlags(Qt::ItemIsEnabled);
         item->setCheckState(position == group->get_defaultIndex() ? Qt::Checked : Qt::Unchecked);
     }

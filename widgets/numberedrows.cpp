@@ -72,7 +72,12 @@ QString text(int number, const QString &name)
 
 QListWidgetItem *append(QListWidget *list, const QString &name)
 {
-    auto *item = new QListWidgetItem(text(list->count() + 1, name));
+    return append(list, list->count() + 1, name);
+}
+
+QListWidgetItem *append(QListWidget *list, int number, const QString &name)
+{
+    auto *item = new QListWidgetItem(text(number, name));
     item->setSizeHint(rowSize);
     item->setToolTip(asPlainText(name));
     list->addItem(item);

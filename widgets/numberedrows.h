@@ -20,8 +20,9 @@ void preparePlainList(QListWidget *list);
 /// "  1 Bacon": the number right-aligned in three characters, a blank, the name.
 [[nodiscard]] QString text(int number, const QString &name);
 
-/// Appends a row of fixed height; its number is one more than its row.
+/// Appends a row of fixed height, whose number is one more than its row unless another one is given.
 QListWidgetItem *append(QListWidget *list, const QString &name);
+QListWidgetItem *append(QListWidget *list, int number, const QString &name);
 
 /// Black on a cyan or white stripe by the item's row.
 void colourFitting(QListWidgetItem *item, int row);
