@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 
 #include "holding/menufile.h"
+#include "holding/producttypes.h"
 #include "ui_groupedit.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
@@ -22,15 +23,6 @@ namespace {
 constexpr int idRole = Qt::DecorationRole;
 // A member's position in the group, which differs from its row where members before it are not listed.
 constexpr int positionRole = Qt::UserRole;
-
-QString lidText(const QString &lidType)
-{
-    if (lidType == "Vented"_L1)
-        return GroupEdit::tr("Vented");
-    if (lidType == "Solid"_L1)
-        return GroupEdit::tr("Solid");
-    return GroupEdit::tr("None");
-}
 
 int positionOf(const QListWidgetItem *item)
 {
@@ -173,7 +165,7 @@ void GroupEdit::showSummary()
     const int unit = m_menuFile->getTemperatureUnit();
     m_ui->txtTemp1->setText(temperatureText(m_settings.upperTemp, unit));
     m_ui->txtTemp2->setText(temperatureText(m_settings.lowerTemp, unit));
-    m_ui->txtLidType->setText(lidText(m_settings.lidType));
+    m_ui->txtLidType->setText(holding::lidText(m_settings.lidType));
     m_ui->txtZoneSplits->setText(m_settings.zoneSplits);
     m_ui->txtFanSpeed->setText(tr("%1 RPM").arg(m_settings.fanSpeed));
 }

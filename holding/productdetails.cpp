@@ -3,6 +3,7 @@
 
 #include "holding/productdetails.h"
 
+#include "holding/producttypes.h"
 #include "holding/timercolorsample.h"
 #include "model/names.h"
 #include "model/productinfo.h"
@@ -14,20 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize samplePadding(16, 4);
-
-QString lidText(const QString &lidType)
-{
-    if (lidType == "Vented"_L1)
-        return ProductDetails::tr("Vented");
-    if (lidType == "Solid"_L1)
-        return ProductDetails::tr("Solid");
-    return ProductDetails::tr("None");
-}
-
-QString bottomText(const QString &bottomType)
-{
-    return bottomType == "False"_L1 ? ProductDetails::tr("False") : ProductDetails::tr("Normal");
-}
 
 void setRowVisible(QLabel *label, QLabel *value, bool visible)
 {
@@ -71,8 +58,8 @@ void ProductDetails::showEntry(const ProductInfo *entry, const holding::CabinetC
     m_ui->txtWarningTime->setText(timeText(entry->get_warningTime()));
     m_ui->txtResetTime->setText(timeText(entry->get_resetTime()));
     m_ui->txtFanSpeed->setText(tr("%1 (RPM)").arg(entry->get_fanSpeed()));
-    m_ui->txtLidType->setText(lidText(entry->get_lidType()));
-    m_ui->txtBottomType->setText(bottomText(entry->get_bottomType()));
+    m_ui->txtLidType->setText(holding::lidText(entry->get_lidType()));
+    m_ui->txtBottomType->setText(holding::bottomText(entry->get_bottomType()));
     m_ui->txtZoneSplits->setText(entry->get_zoneSplits());
     showTimerColor(entry->get_timerColor());
 }

@@ -7,6 +7,7 @@
 
 #include "holding/menu.h"
 #include "holding/menufile.h"
+#include "holding/producttypes.h"
 #include "holding/timercolorpicker.h"
 #include "holding/timercolorsample.h"
 #include "model/times.h"
@@ -22,10 +23,6 @@ namespace {
 constexpr int minHoldSeconds = 6 * 60;
 constexpr int maxHoldSeconds = 8 * 60 * 60;
 constexpr int maxResetSeconds = 60 * 60 - 1;
-
-// What is stored, by the position of what is shown.
-const QStringList lidTypes{u"None"_s, u"Solid"_s, u"Vented"_s};
-const QStringList bottomTypes{u"False"_s, u"Normal"_s};
 
 int secondsIn(const QTimeEdit *edit)
 {
@@ -76,8 +73,8 @@ ProductEdit::~ProductEdit() = default;
 
 void ProductEdit::fillChoices()
 {
-    m_ui->comboLidType->addItems({tr("None"), tr("Solid"), tr("Vented")});
-    m_ui->comboBottomType->addItems({tr("False"), tr("Normal")});
+    m_ui->comboLidType->addItems(holding::lidTexts());
+    m_ui->comboBottomType->addItems(holding::bottomTexts());
     const QStringList zoneSplits = holding::offeredZoneSplits(m_menuFile->getBinsPerZone());
     m_ui->comboZoneSplits->addItems(zoneSplits);
     if (zoneSplits.isEmpty())
@@ -113,9 +110,8 @@ void ProductEdit::loadTemperatures()
 
 void ProductEdit::loadTypes()
 {
-    const auto lid = lidTypes.indexOf(m_product.get_lidType());
-    m_ui->comboLidType->setCurrentIndex(lid < 0 ? 0 : static_cast<int>(lid));
-    m_ui->comboBottomType->setCurrentIndex(m_product.get_bottomType() == bottomTypes.constFirst() ? 0 : 1);
+    m_ui->comboLidType->setCurrentIndex(holding::lidIndex(m_product.get_lidType()));
+    m_ui->comboBottomType->setCurrentIndex(holding::bottomIndex(m_product.get_bottomType()));
 }
 
 void ProductEdit::loadTimerColor()
@@ -216,8 +212,8 @@ void ProductEdit::writeRecord()
     m_product.set_resetTime(m_menuFile->getResetTimeEnabled() ? secondsIn(m_ui->timeResetTime) : 0);
     m_product.set_fanSpeed(m_menuFile->getFanSpeedEnabled() ? m_ui->numFanSpeed->value() : 0);
     m_product.set_zoneSplits(m_ui->comboZoneSplits->currentText());
-    m_product.set_lidType(lidTypes.value(m_ui->comboLidType->currentIndex()));
-    m_product.set_bottomType(bottomTypes.value(m_ui->comboBottomType->currentIndex()));
+    m_product.set_lidType(holding::lidTypes().value(m_ui->comboLidType->currentIndex()));
+    m_product.set_bottomType(holding::bottomTypes().value(m_ui->comboBottomType->currentIndex()));
     m_product.set_timerColor(m_menuFile->getTimerColorEnabled() ? m_timerColorName
                                                                 : holding::timerPalette().front().colorName);
 }
