@@ -15,6 +15,23 @@ namespace {
 
 constexpr QSize buttonSize(25, 25);
 
+// A button that shows the colour of an entry and tells its name.
+QPushButton *makeButton(const holding::TimerColor &entry, QWidget *parent)
+{
+    auto *button = new QPushButton(u" "_s, parent);
+    button->setFixedSize(buttonSize);
+    button->setAutoDefault(false);
+    if (entry.isNone()) {
+        button->setIcon(QIcon(u":/images/noColor.png"_s));
+        button->setIconSize(buttonSize);
+        button->setAccessibleName(TimerColorPicker::tr("No color"));
+    } else {
+        button->setStyleSheet(holding::backgroundStyle(entry));
+        button->setAccessibleName(entry.colorName);
+    }
+    return button;
+}
+
 const holding::TimerColor &entryAt(std::size_t row, std::size_t column)
 {
     return holding::timerPalette()[row * holding::paletteColumns + column];
@@ -29,18 +46,7 @@ TimerColorPicker::TimerColorPicker(QWidget *parent)
     m_ui->setupUi(this);
     for (std::size_t row = 0; row < m_buttons.size(); ++row) {
         for (std::size_t column = 0; column < m_buttons[row].size(); ++column) {
-            const holding::TimerColor &entry = entryAt(row, column);
-            auto *button = new QPushButton(u" "_s, m_ui->gridLayoutWidget);
-            button->setFixedSize(buttonSize);
-            button->setAutoDefault(false);
-            if (entry.isNone()) {
-                button->setIcon(QIcon(u":/images/noColor.png"_s));
-                button->setIconSize(buttonSize);
-                button->setAccessibleName(tr("No color"));
-            } else {
-                button->setStyleSheet(holding::backgroundStyle(entry));
-                button->setAccessibleName(entry.colorName);
-            }
+            QPushButton *button = makeButton(entryAt(row, column), m_ui->gridLayoutWidget);
             m_ui->gridLayout->addWidget(button, static_cast<int>(row), static_cast<int>(column));
             connect(button, &QPushButton::clicked, this, &TimerColorPicker::colorPick_clicked);
             m_buttons[row][column] = button;

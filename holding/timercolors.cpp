@@ -90,12 +90,9 @@ const TimerColor &timerColorByName(const QString &colorName)
 
 QString sampleStyle(const TimerColor &entry)
 {
-    return u"background-color: rgb(%1,%2,%3); color: rgb(%4, %5, %6);"_s.arg(red(entry.color))
-        .arg(green(entry.color))
-        .arg(blue(entry.color))
-        .arg(red(entry.textColor))
-        .arg(green(entry.textColor))
-        .arg(blue(entry.textColor));
+    return backgroundStyle(entry) + u" color: rgb(%1, %2, %3);"_s.arg(red(entry.textColor))
+                                        .arg(green(entry.textColor))
+                                        .arg(blue(entry.textColor));
 }
 
 QString backgroundStyle(const TimerColor &entry)
