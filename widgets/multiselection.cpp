@@ -3,6 +3,8 @@
 
 #include "widgets/multiselection.h"
 
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -49,10 +51,11 @@ void MultiSelection::restoreChecks(const QList<int> &rows)
         return;
     for (int row = 0; row < m_list->count(); ++row) {
         QListWidgetItem *item = m_list->item(row);
+        const bool checked = std::binary_search(rows.begin(), rows.end(), row);
         // The view alone toggles a row: were the box checkable by itself, a click on it would count twice.
         item->setFlags(item->flags() & ~Qt::ItemIsUserCheckable);
-        item->setCheckState(rows.contains(row) ? Qt::Checked : Qt::Unchecked);
-        item->setSelected(rows.contains(row));
+        item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+        item->setSelected(checked);
     }
 }
 

@@ -26,8 +26,8 @@ public:
 
     /// The checked rows in ascending order; none outside the mode.
     [[nodiscard]] QList<int> checkedRows() const;
-    /// Gives the rows of a refilled list their check boxes, with these rows checked. Does nothing outside
-    /// the mode.
+    /// Gives the rows of a refilled list their check boxes, with these rows, in ascending order, checked.
+    /// Does nothing outside the mode.
     void restoreChecks(const QList<int> &rows);
 
 protected:
