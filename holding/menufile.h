@@ -36,7 +36,7 @@ public:
     bool writeToFile(const QString &path) override;
     /// Asks for another name and writes there. The main window asks by itself, so that nothing in the program
     /// calls this; it is the editor's own way for whoever holds one without a main window.
-    [[maybe_unused]] void saveAs();
+    void saveAs();
 
     [[nodiscard]] const holding::CabinetConfiguration &configuration() const { return m_menu.configuration; }
 
@@ -137,7 +137,7 @@ private:
     [[nodiscard]] holding::Daypart *currentDaypart();  ///< null while there is none
     [[nodiscard]] ProductInfo *currentProduct() const; ///< null for none
     [[nodiscard]] ProductInfo *currentGroup() const;   ///< null for none
-    void deleteEntries(EntryPane &pane, holding::Entries &entries);
+    void deleteEntries(EntryPane &pane, holding::Entries &entries, const QString &question);
 
     std::unique_ptr<Ui::MenuFile> m_ui;
     holding::Menu m_menu;

@@ -88,12 +88,9 @@ void MenuFile::on_btnEditGroup_clicked()
 
 void MenuFile::on_btnDeleteGroup_clicked()
 {
-    const QList<int> rows = m_groups.rowsToDelete();
-    if (rows.isEmpty())
-        return;
-    if (messages::confirmDelete(this, m_groups.isMultiSelecting() ? tr("Delete all selected groups?")
-                                                                  : tr("Delete selected group?")))
-        deleteEntries(m_groups, m_menu.groups);
+    deleteEntries(m_groups, m_menu.groups,
+                  m_groups.isMultiSelecting() ? tr("Delete all selected groups?")
+                                              : tr("Delete selected group?"));
 }
 
 void MenuFile::on_listWidgetGroups_itemSelectionChanged()

@@ -138,17 +138,16 @@ void MenuFile::on_btnEditProduct_clicked()
 
 void MenuFile::on_btnDeleteProduct_clicked()
 {
-    const QList<int> rows = m_products.rowsToDelete();
-    if (rows.isEmpty())
-        return;
-    if (messages::confirmDelete(this, m_products.isMultiSelecting() ? tr("Delete all selected products?")
-                                                                    : tr("Delete selected product?")))
-        deleteEntries(m_products, m_menu.products);
+    deleteEntries(m_products, m_menu.products,
+                  m_products.isMultiSelecting() ? tr("Delete all selected products?")
+                                                : tr("Delete selected product?"));
 }
 
-void MenuFile::deleteEntries(EntryPane &pane, holding::Entries &entries)
+void MenuFile::deleteEntries(EntryPane &pane, holding::Entries &entries, const QString &question)
 {
     const QList<int> rows = pane.rowsToDelete();
+    if (rows.isEmpty() || !messages::confirmDelete(this, question))
+        return;
     pane.setMultiSelecting(false);
     std::for_each(rows.rbegin(), rows.rend(), [&](int row) {
         const auto place = entries.begin() + row;
