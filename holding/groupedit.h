@@ -55,7 +55,7 @@ private:
     std::unique_ptr<Ui::GroupEdit> m_ui;
     ProductInfo &m_group;
     MenuFile *m_menuFile;
-    QList<ProductInfo *> m_products; ///< the menu's, in its order
+    const QList<ProductInfo *> m_products; ///< the menu's, in its order
     holding::HoldingSettings m_settings;
     QList<int> m_members; ///< product ids in the group's order
     int m_defaultIndex = 0;
