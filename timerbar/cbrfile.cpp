@@ -248,10 +248,8 @@ QString readMenu(const QByteArray &bytes, Menu &menu)
 
 QString writeMenu(QIODevice &device, const Menu &menu)
 {
+    // An unknown model is no fault: it has no bins, so that a day part's record is its index alone.
     const CabinetShape shape = menu.shape();
-    // A later fault's message would replace this one, and a menu that was written shows none.
-    [[maybe_unused]] const QString pending = shape.rows == 0 ? Text::tr("Unkown cabinet model") : QString();
-
     QByteArray header = encodeHeader(menu, shape);
     quint16 crc = crc16(header.constData() + crcSize, header.size() - crcSize, crc16MenuSeed);
     const bool placed = seek(device, headerSize);
