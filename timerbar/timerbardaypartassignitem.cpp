@@ -19,7 +19,6 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
     , m_temperatureUnit(menuFile->temperatureUnit())
 {
     m_ui->setupUi(this);
-    setWindowTitle(tr("Assign Product"));
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     m_ui->details->setShortNameLabel(tr("Shor Name:"));
     letEnterPressFocusedButton(this);

@@ -55,10 +55,8 @@ TimerBarMenuFile::~TimerBarMenuFile() = default;
 bool TimerBarMenuFile::createMenu()
 {
     TimerBarConfig dialog(parentWidget()); // this editor is not shown yet, nothing can be centred on it
-    dialog.setWindowTitle(tr("Configuration"));
     if (dialog.exec() != Accepted)
         return false;
-    setWindowTitle(tr("TimerBar Menu File - "));
     m_menu.temperatureUnit = dialog.getTempUnit();
     m_menu.model = dialog.getCabinetModel();
     loadDefaultMenu();
@@ -127,7 +125,6 @@ void TimerBarMenuFile::loadCabinetInfo()
 void TimerBarMenuFile::on_btnConfig_clicked()
 {
     TimerBarConfig dialog(this);
-    dialog.setWindowTitle(tr("Configuration"));
     dialog.setCabinetModel(m_menu.model);
     dialog.setTempUnit(static_cast<quint8>(m_menu.temperatureUnit));
     if (dialog.exec() != Accepted)

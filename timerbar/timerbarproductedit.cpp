@@ -53,7 +53,6 @@ TimerBarProductEdit::TimerBarProductEdit(ProductInfo &product, TimerBarMenuFile 
     , m_temperatureUnit(menuFile->temperatureUnit())
 {
     m_ui->setupUi(this);
-    setWindowTitle(tr("Product Edit"));
     const QString suffix = u"(%1)"_s.arg(unitText(m_temperatureUnit));
     m_ui->lblTempUpper->setText(tr("Upper Temperature ") + suffix);
     m_ui->lblTempLower->setText(tr("Lower Temperature ") + suffix);
