@@ -5,9 +5,9 @@
 
 #include <QPushButton>
 
-/// The button of a bin. Its text() is the full name of what the bin holds, drawn as it stands, ampersands
-/// included; where it does not fit, it is elided while painting. Its size does not depend on the text, so
-/// that filling a grid never moves it.
+/// The button of a bin. Its text() is the name of what the bin holds, the full or the short one as the editor
+/// chooses, drawn as it stands, ampersands included; where it does not fit, it is elided while painting. Its
+/// size does not depend on the text, so that filling a grid never moves it.
 class BinButton final : public QPushButton
 {
     Q_OBJECT
