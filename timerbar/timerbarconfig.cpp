@@ -18,7 +18,7 @@ TimerBarConfig::TimerBarConfig(QWidget *parent)
 
 TimerBarConfig::~TimerBarConfig() = default;
 
-quint8 TimerBarConfig::getTempUnit()
+quint8 TimerBarConfig::getTempUnit() const
 {
     return m_tempUnit;
 }
@@ -29,7 +29,7 @@ void TimerBarConfig::setTempUnit(quint8 value)
     (value == unitCelsius ? m_ui->rbTempUnitC : m_ui->rbTempUnitF)->setChecked(true);
 }
 
-QString TimerBarConfig::getCabinetModel()
+QString TimerBarConfig::getCabinetModel() const
 {
     return m_cabinetModel;
 }
