@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "timerbar/timerbarmenufile.h"
+
+#include <QPushButton>
 #include <QSignalBlocker>
 
 #include "model/names.h"
 #include "timerbar/timerbardaypartassignitem.h"
-#include "timerbar/timerbarmenufile.h"
 #include "ui_timerbarmenufile.h"
+#include "widgets/binbutton.h"
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
 
@@ -162,7 +165,6 @@ FOR_EACH_TIMER_BAR_BIN_BUTTON(DEFINE_BIN_BUTTON_SLOTS)
 
 void TimerBarMenuFile::on_btnCancelDaypartRemove_clicked()
 {
-    m_grid.leaveRemovalMode();
     loadCurrentDaypart();
 }
 

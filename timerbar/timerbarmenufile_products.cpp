@@ -1,10 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "timerbar/timerbarmenufile.h"
+
 #include <algorithm>
 
+#include <QListWidget>
+#include <QMessageBox>
+#include <QSignalBlocker>
+
 #include "model/names.h"
-#include "timerbar/timerbarmenufile.h"
 #include "timerbar/timerbarproductedit.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/messages.h"
@@ -64,8 +69,8 @@ void TimerBarMenuFile::addProduct(std::unique_ptr<ProductInfo> product)
     TimerBarProductEdit dialog(*product, this);
     if (dialog.exec() != Accepted)
         return;
-    m_products.setCurrentRow(static_cast<int>(m_menu.products.size()));
     m_menu.products.push_back(std::move(product));
+    m_products.setCurrentRow(static_cast<int>(m_menu.products.size()) - 1);
     loadProducts();
     loadProductInfo();
 }
