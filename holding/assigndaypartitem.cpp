@@ -3,6 +3,10 @@
 
 #include "holding/assigndaypartitem.h"
 
+#include <utility>
+
+#include <QListWidget>
+
 #include "holding/menufile.h"
 #include "ui_assigndaypartitem.h"
 #include "widgets/enterkey.h"
@@ -29,7 +33,6 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
     setWindowTitle(tr("Assign Product/Group"));
     loadProducts();
     loadProductInfo();
-    m_ui->btnSelect->setEnabled(false);
     connect(m_ui->listWidgetProducts, &QListWidget::itemDoubleClicked, this,
             &AssignDaypartItem::on_btnSelect_clicked);
 }
@@ -41,24 +44,22 @@ void AssignDaypartItem::loadProducts()
     QListWidget *list = m_ui->listWidgetProducts;
     list->clear();
     const bool fanSpeedEnabled = m_menuFile->getFanSpeedEnabled();
-    for (int row = 0; row < m_entries.size(); ++row) {
-        const ProductInfo &entry = *m_entries[row];
-        QListWidgetItem *item = numberedrows::append(list, shownName(entry.get_productName()));
-        if (holding::fitsBin(entry, m_limits, m_allowedZoneSplits, fanSpeedEnabled))
-            numberedrows::colourFitting(item, row);
-        else
-            numberedrows::colourUnfitting(item, row);
+    for (const ProductInfo *entry : std::as_const(m_entries)) {
+        const bool fits = holding::fitsBin(*entry, m_limits, m_allowedZoneSplits, fanSpeedEnabled);
+        numberedrows::appendToPick(list, shownName(entry->get_productName()), fits);
     }
 }
 
 const ProductInfo *AssignDaypartItem::selectedEntry() const
 {
-    return m_entries.value(m_selectedRow);
+    return m_entries.value(numberedrows::selectedRow(m_ui->listWidgetProducts));
 }
 
 void AssignDaypartItem::loadProductInfo()
 {
-    m_ui->details->showEntry(selectedEntry(), m_menuFile->configuration());
+    const ProductInfo *entry = selectedEntry();
+    m_ui->details->showEntry(entry, m_menuFile->configuration());
+    m_ui->btnSelect->setEnabled(entry != nullptr);
 }
 
 void AssignDaypartItem::on_btnCancel_clicked()
@@ -76,17 +77,10 @@ void AssignDaypartItem::on_btnSelect_clicked()
 
 void AssignDaypartItem::on_listWidgetProducts_itemSelectionChanged()
 {
-    const QListWidget *list = m_ui->listWidgetProducts;
-    m_selectedRow = list->selectedItems().isEmpty() ? -1 : list->currentRow();
     loadProductInfo();
-    m_ui->btnSelect->setEnabled(m_selectedRow >= 0);
 }
 
-void AssignDaypartItem::on_listWidgetProducts_currentRowChanged(int currentRow)
+void AssignDaypartItem::on_listWidgetProducts_currentRowChanged([[maybe_unused]] int currentRow)
 {
-    if (m_ui->listWidgetProducts->selectedItems().isEmpty() || currentRow == m_selectedRow)
-        return;
-    m_selectedRow = currentRow;
     loadProductInfo();
-    m_ui->btnSelect->setEnabled(m_selectedRow >= 0);
 }

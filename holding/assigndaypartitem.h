@@ -42,7 +42,7 @@ public slots:
     void on_listWidgetProducts_currentRowChanged(int currentRow);
 
 private:
-    [[nodiscard]] const ProductInfo *selectedEntry() const;
+    [[nodiscard]] const ProductInfo *selectedEntry() const; ///< null for none
 
     std::unique_ptr<Ui::AssignDaypartItem> m_ui;
     MenuFile *m_menuFile;
@@ -51,6 +51,5 @@ private:
     /// The allowed splits already say what it means for the bin.
     [[maybe_unused]] bool m_singleBinSecondZone;
     QList<ProductInfo *> m_entries; ///< the menu's products, then its groups
-    int m_selectedRow = -1;
     int m_resultId = holding::emptyBin;
 };

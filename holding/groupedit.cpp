@@ -4,6 +4,7 @@
 #include "holding/groupedit.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QSignalBlocker>
 
@@ -101,14 +102,10 @@ void GroupEdit::loadProducts()
 {
     QListWidget *list = m_ui->listWidgetProducts;
     list->clear();
-    for (int row = 0; row < m_products.size(); ++row) {
-        const ProductInfo &candidate = *m_products[row];
-        QListWidgetItem *item = numberedrows::append(list, shownName(candidate.get_productName()));
-        item->setData(idRole, candidate.get_productId());
-        if (holding::fitsGroup(candidate, m_settings, m_menuFile->getFanSpeedEnabled()))
-            numberedrows::colourFitting(item, row);
-        else
-            numberedrows::colourUnfitting(item, row);
+    for (const ProductInfo *candidate : std::as_const(m_products)) {
+        const bool fits = holding::fitsGroup(*candidate, m_settings, m_menuFile->getFanSpeedEnabled());
+        numberedrows::appendToPick(list, shownName(candidate->get_productName()), fits)
+            ->setData(idRole, candidate->get_productId());
     }
 }
 

@@ -3,6 +3,10 @@
 
 #include "timerbar/timerbardaypartassignitem.h"
 
+#include <utility>
+
+#include <QListWidget>
+
 #include "model/names.h"
 #include "timerbar/timerbarmenufile.h"
 #include "ui_timerbardaypartassignitem.h"
@@ -25,7 +29,6 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
     fixDesignedSize(this);
     loadProducts();
     loadProductInfo();
-    m_ui->btnSelect->setEnabled(false);
     connect(m_ui->listWidgetProducts, &QListWidget::itemDoubleClicked, this,
             &TimerBarDaypartAssignItem::on_btnSelect_clicked);
 }
@@ -36,21 +39,24 @@ void TimerBarDaypartAssignItem::loadProducts()
 {
     QListWidget *list = m_ui->listWidgetProducts;
     list->clear();
-    for (int row = 0; row < m_products.size(); ++row) {
-        const ProductInfo &product = *m_products[row];
-        QListWidgetItem *item = numberedrows::append(list, product.get_productShortName());
-        item->setData(Qt::UserRole, product.get_productId());
-        item->setToolTip(asPlainText(shownName(product.get_productName())));
-        if (timerbar::fitsNeighbour(product, m_reference))
-            numberedrows::colourFitting(item, row);
-        else
-            numberedrows::colourUnfitting(item, row);
+    for (const ProductInfo *product : std::as_const(m_products)) {
+        QListWidgetItem *item = numberedrows::appendToPick(list, product->get_productShortName(),
+                                                           timerbar::fitsNeighbour(*product, m_reference));
+        item->setData(Qt::UserRole, product->get_productId());
+        item->setToolTip(asPlainText(shownName(product->get_productName())));
     }
+}
+
+const ProductInfo *TimerBarDaypartAssignItem::selectedProduct() const
+{
+    return m_products.value(numberedrows::selectedRow(m_ui->listWidgetProducts));
 }
 
 void TimerBarDaypartAssignItem::loadProductInfo()
 {
-    m_ui->details->showProduct(m_products.value(m_selectedRow), m_temperatureUnit);
+    const ProductInfo *product = selectedProduct();
+    m_ui->details->showProduct(product, m_temperatureUnit);
+    m_ui->btnSelect->setEnabled(product != nullptr);
 }
 
 void TimerBarDaypartAssignItem::on_btnCancel_clicked()
@@ -61,7 +67,7 @@ void TimerBarDaypartAssignItem::on_btnCancel_clicked()
 
 void TimerBarDaypartAssignItem::on_btnSelect_clicked()
 {
-    if (const ProductInfo *product = m_products.value(m_selectedRow)) {
+    if (const ProductInfo *product = selectedProduct()) {
         m_chosenId = product->get_productId();
         done(1);
     }
@@ -69,19 +75,10 @@ void TimerBarDaypartAssignItem::on_btnSelect_clicked()
 
 void TimerBarDaypartAssignItem::on_listWidgetProducts_itemSelectionChanged()
 {
-    const QListWidget *list = m_ui->listWidgetProducts;
-    setSelectedRow(list->selectedItems().isEmpty() ? -1 : list->currentRow());
-}
-
-void TimerBarDaypartAssignItem::on_listWidgetProducts_currentRowChanged(int currentRow)
-{
-    if (!m_ui->listWidgetProducts->selectedItems().isEmpty())
-        setSelectedRow(currentRow);
-}
-
-void TimerBarDaypartAssignItem::setSelectedRow(int row)
-{
-    m_selectedRow = row;
     loadProductInfo();
-    m_ui->btnSelect->setEnabled(row >= 0);
+}
+
+void TimerBarDaypartAssignItem::on_listWidgetProducts_currentRowChanged([[maybe_unused]] int currentRow)
+{
+    loadProductInfo();
 }

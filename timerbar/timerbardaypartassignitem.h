@@ -39,12 +39,11 @@ public slots:
     void on_listWidgetProducts_currentRowChanged(int currentRow);
 
 private:
-    void setSelectedRow(int row);
+    [[nodiscard]] const ProductInfo *selectedProduct() const; ///< null for none
 
     std::unique_ptr<Ui::TimerBarDaypartAssignItem> m_ui;
     QList<ProductInfo *> m_products; ///< the editor's
     timerbar::ReferenceTemperatures m_reference;
     int m_temperatureUnit;
-    int m_selectedRow = -1;
     int m_chosenId = timerbar::emptyCell;
 };

@@ -40,6 +40,12 @@ bool isOdd(int row)
     return row % 2 != 0;
 }
 
+void colourUnfitting(QListWidgetItem *item, int row)
+{
+    item->setFlags(item->flags() & ~Qt::ItemIsSelectable);
+    colour(item, unfittingText, isOdd(row) ? unfittingStripe : QColor(Qt::white));
+}
+
 } // namespace
 
 void prepareColouredList(QListWidget *list)
@@ -84,15 +90,25 @@ QListWidgetItem *append(QListWidget *list, int number, const QString &name)
     return item;
 }
 
+QListWidgetItem *appendToPick(QListWidget *list, const QString &name, bool fits)
+{
+    const int row = list->count();
+    QListWidgetItem *item = append(list, name);
+    if (fits)
+        colourFitting(item, row);
+    else
+        colourUnfitting(item, row);
+    return item;
+}
+
 void colourFitting(QListWidgetItem *item, int row)
 {
     colour(item, Qt::black, isOdd(row) ? Qt::cyan : Qt::white);
 }
 
-void colourUnfitting(QListWidgetItem *item, int row)
+int selectedRow(const QListWidget *list)
 {
-    item->setFlags(item->flags() & ~Qt::ItemIsSelectable);
-    colour(item, unfittingText, isOdd(row) ? unfittingStripe : QColor(Qt::white));
+    return list->selectedItems().isEmpty() ? -1 : list->currentRow();
 }
 
 } // namespace numberedrows

@@ -24,9 +24,14 @@ void preparePlainList(QListWidget *list);
 QListWidgetItem *append(QListWidget *list, const QString &name);
 QListWidgetItem *append(QListWidget *list, int number, const QString &name);
 
+/// Appends a row that says whether its entry may be picked: coloured as fitting, or in grey on a light grey
+/// or white stripe and not selectable.
+QListWidgetItem *appendToPick(QListWidget *list, const QString &name, bool fits);
+
 /// Black on a cyan or white stripe by the item's row.
 void colourFitting(QListWidgetItem *item, int row);
-/// Grey on a light grey or white stripe by the item's row, and not selectable.
-void colourUnfitting(QListWidgetItem *item, int row);
+
+/// The row that is picked in a list in which one can be; -1 for none.
+[[nodiscard]] int selectedRow(const QListWidget *list);
 
 } // namespace numberedrows
