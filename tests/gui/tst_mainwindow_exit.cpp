@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFileDialog>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTest>
@@ -35,6 +36,9 @@ private slots:
     void failedSaveKeepsTheProgramOpen();
     void failedWriteToANewNameDoesNot();
     void foreignSubWindowIsSkipped();
+    void editorUnderAnotherNameIsSkipped_data();
+    void editorUnderAnotherNameIsSkipped();
+    void escapedNameKeepsTheProgramOpen();
     void exitActionEndsTheProgram();
     void exitActionCanBeRefused();
 };
@@ -216,6 +220,41 @@ void TestMainWindowExit::foreignSubWindowIsSkipped()
     answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
     QVERIFY(open.window().close());
     QVERIFY(isChanged(open.path(u"menu.json"_s)));
+}
+
+void TestMainWindowExit::editorUnderAnotherNameIsSkipped_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"qhxmenufile", "QhxMenuFile ", "SvrxMenuFile", "TimerBarMenuFile", ""})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+// The name tells which editor a sub-window holds, to the letter.
+void TestMainWindowExit::editorUnderAnotherNameIsSkipped()
+{
+    QFETCH(const QString, name);
+    OpenMenus open;
+    QMdiSubWindow *subWindow = open.openSample(u"menu.json"_s);
+    open.change(*subWindow);
+    subWindow->setObjectName(name);
+    ModalAnswers answers;
+    ui::clickMenu(open.window(), "menuFile", "action_Save");
+    ui::clickMenu(open.window(), "menuFile", "actionSaveAs");
+    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
+    QVERIFY(open.window().close());
+    QVERIFY(!isChanged(open.path(u"menu.json"_s)));
+}
+
+void TestMainWindowExit::escapedNameKeepsTheProgramOpen()
+{
+    OpenMenus open;
+    open.openNew();
+    ModalAnswers answers;
+    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
+    answers.expect<QFileDialog>([](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QVERIFY(!open.window().close());
+    QVERIFY(open.window().isVisible());
+    QCOMPARE(open.area().subWindowList().size(), 1);
 }
 
 namespace {

@@ -3,6 +3,8 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
@@ -36,6 +38,7 @@ private slots:
     void otherEndingIsIgnored_data();
     void otherEndingIsIgnored();
     void openCancelledOpensNothing();
+    void openEscapedOpensNothing();
     void brokenFileOpensNothing();
     void oneFileTwiceGivesTwoEditors();
     void saveWritesToTheCurrentPath();
@@ -73,7 +76,9 @@ void TestMainWindowFiles::chooserOffersTheLines()
     newWith(open, answers, [&open](SelectProductLine &dialog) {
         QCOMPARE(dialog.windowTitle(), u"Select Product Line"_s);
         QCOMPARE(dialog.parentWidget(), &open.window());
+        QCOMPARE(dialog.size(), QSize(400, 120));
         QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
+        QCOMPARE(ui::get<QLabel>(dialog, "lblSelectProductLine").text(), u"Select Product Line"_s);
         const auto &combo = ui::get<QComboBox>(dialog, "comboProductLineSelect");
         QCOMPARE(combo.currentText(), u"QHX/ZPV"_s);
         QCOMPARE(combo.currentIndex(), 0);
@@ -173,6 +178,16 @@ void TestMainWindowFiles::openCancelledOpensNothing()
 {
     OpenMenus open;
     QVERIFY(!open.open({}));
+    QVERIFY(open.area().subWindowList().isEmpty());
+}
+
+void TestMainWindowFiles::openEscapedOpensNothing()
+{
+    OpenMenus open;
+    ModalAnswers answers;
+    answers.expect<QFileDialog>([](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    ui::clickMenu(open.window(), "menuFile", "actionOpen");
+    QVERIFY(answers.allAnswered());
     QVERIFY(open.area().subWindowList().isEmpty());
 }
 
