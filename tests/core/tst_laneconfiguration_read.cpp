@@ -96,6 +96,9 @@ void TestLaneConfigurationRead::lines_data()
     addRow("LF CR", ending("\n\r"), one);
     addRow("empty lines", "\n\r\n\n" + ending("\n\n\r\r\n"), one);
     addRow("without the first line", sealed, one);
+    addRow("byte order mark", "\xEF\xBB\xBF" + good, one);
+    addRow("byte order mark before the identifier", "\xEF\xBB\xBF" + sealed, one);
+    addRow("byte order mark before the contents", "Identifier=9adb\n\xEF\xBB\xBF" + oneLane, wrongIdentifier);
     addRow("another first line", "Hello\n" + sealed, one);
     addRow("lines in another order", oneLane + "\nIdentifier=9adb\nnote", one);
     addRow("other lines between", "note\nIdentifier=9adb\nT2=1\nx\n" + oneLane + "\nF1=9", one);

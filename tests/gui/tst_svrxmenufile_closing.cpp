@@ -83,6 +83,7 @@ private slots:
     void refusedClosingKeepsItOpen();
     void noDiscards();
     void yesSavesTheConfigurationOnly();
+    void yesChecksNoNameOfAnOpenedFile();
     void yesWithAFailedSaveClosesAllTheSame();
     void yesAsksForAName();
     void cancelledNameKeepsItOpen();
@@ -170,6 +171,21 @@ void TestSvrxMenuFileClosing::yesSavesTheConfigurationOnly()
     verifyGone(menus, editor);
     QCOMPARE(menus.folder().names(), QStringList{u"svrxconfig_a.txt"_s});
     QCOMPARE(menus.folder().content(u"svrxconfig_a.txt"_s), lanefile::text(changedContents));
+}
+
+// Not even where the name is one that a cabinet would not load.
+void TestSvrxMenuFileClosing::yesChecksNoNameOfAnOpenedFile()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"other.txt"_s, lanefile::text(contents));
+    QTest::keyClick(&temperatureBox(*menus.editor(), 1), Qt::Key_Up);
+    const QPointer<SvrxMenuFile> editor = menus.editor();
+    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
+    close(menus);
+    verifyGone(menus, editor);
+    QCOMPARE(menus.folder().names(), QStringList{u"other.txt"_s});
+    QCOMPARE(menus.folder().content(u"other.txt"_s), lanefile::text(changedContents));
 }
 
 void TestSvrxMenuFileClosing::yesWithAFailedSaveClosesAllTheSame()

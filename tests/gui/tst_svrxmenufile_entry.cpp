@@ -33,6 +33,9 @@ private slots:
     void init() { failOnWarnings(); }
     void wheelPassesOverBoxes();
     void wheelTurnsTheFocusedBox();
+    void halfTypedNumberIsNotSaved();
+    void typedLimitIsSaved();
+    void unitIsChosenByKeys();
 };
 
 void TestSvrxMenuFileEntry::wheelPassesOverBoxes()
@@ -65,6 +68,59 @@ void TestSvrxMenuFileEntry::wheelTurnsTheFocusedBox()
     turnWheel(box, 1);
     QVERIFY(box.hasFocus());
     QCOMPARE(box.value(), 301);
+}
+
+namespace {
+
+// Types into the first temperature, leaves the cursor there and saves.
+QByteArray savedAfterTyping(LaneMenus &menus, const QString &text)
+{
+    ui::type(temperatureBox(*menus.editor(), 1), text);
+    menus.save();
+    return menus.folder().content(u"a.txt"_s);
+}
+
+} // namespace
+
+void TestSvrxMenuFileEntry::halfTypedNumberIsNotSaved()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"a.txt"_s, lanefile::text(contents));
+    const QSpinBox &box = temperatureBox(*menus.editor(), 1);
+    for (const QString &text : {u"20"_s, u""_s}) {
+        QCOMPARE(savedAfterTyping(menus, text), lanefile::text(contents));
+        QCOMPARE(box.text(), u"300"_s); // what is seen is what was saved
+    }
+    QCOMPARE(savedAfterTyping(menus, u"201"_s), lanefile::text(QByteArray(contents).replace("300", "201")));
+}
+
+void TestSvrxMenuFileEntry::typedLimitIsSaved()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"a.txt"_s, lanefile::text(QByteArray(contents).replace("300", "1")));
+    QCOMPARE(savedAfterTyping(menus, u"150"_s), lanefile::text(QByteArray(contents).replace("300", "150")));
+}
+
+void TestSvrxMenuFileEntry::unitIsChosenByKeys()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"a.txt"_s, lanefile::text(contents));
+    SvrxMenuFile &editor = *menus.editor();
+    auto &fahrenheit = ui::get<QRadioButton>(editor, "rbTempUnitF");
+    auto &celsius = ui::get<QRadioButton>(editor, "rbTempUnitC");
+    fahrenheit.setFocus();
+    QTest::keyClick(&fahrenheit, Qt::Key_Right);
+    QVERIFY(celsius.isChecked());
+    QCOMPARE(temperatureBox(editor, 1).value(), 149);
+    QCOMPARE(temperatureBox(editor, 1).maximum(), 204);
+    QTest::keyClick(&celsius, Qt::Key_Left);
+    QVERIFY(fahrenheit.isChecked());
+    QCOMPARE(temperatureBox(editor, 1).value(), 300);
+    menus.save();
+    QCOMPARE(menus.folder().content(u"a.txt"_s), lanefile::text(contents));
 }
 
 QTEST_MAIN(TestSvrxMenuFileEntry)

@@ -3,11 +3,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 
 #include "tests/gui/lanemenus.h"
 #include "tests/gui/openlaneeditor.h"
 #include "tests/support/hardship.h"
 #include "tests/support/warnings.h"
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +37,16 @@ void changeFirstTemperature(const QWidget &editor)
     QTest::keyClick(&temperatureBox(editor, 1), Qt::Key_Up);
 }
 
+// That a changed menu stands as it was opened.
+void checkUnsaved(LaneMenus &menus, const QString &name)
+{
+    QCOMPARE(menus.editor()->filePath(), menus.path(name));
+    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - "_s + name);
+    QCOMPARE(menus.folder().names(), QStringList{name});
+    QCOMPARE(menus.folder().content(name), lanefile::text(contents));
+    QCOMPARE(temperatureBox(*menus.editor(), 1).value(), 351);
+}
+
 } // namespace
 
 /// Opening and saving of lane configurations through the main window.
@@ -55,6 +68,8 @@ private slots:
     void saveCancelledWritesNothing();
     void saveAsWritesBothFiles();
     void saveAsOfANewMenuProposesAName();
+    void saveAsCancelledChangesNothing();
+    void saveAsEscapedChangesNothing();
     void wrongNamesWriteNothing_data();
     void wrongNamesWriteNothing();
     void foldersKeepTheirNames();
@@ -128,7 +143,8 @@ void TestSvrxMenuFileFiles::unreadableFileIsShown()
 {
     const TestFolder folder;
     QVERIFY(QDir().mkdir(folder.path(u"folder.txt"_s)));
-    for (const QString &name : {u"missing.txt"_s, u"folder.txt"_s}) {
+    QCOMPARE(mkfifo(folder.native(u"fifo.txt"_s).constData(), 0600), 0);
+    for (const QString &name : {u"missing.txt"_s, u"folder.txt"_s, u"fifo.txt"_s}) {
         ModalAnswers answers;
         answers.expectBox(readFault(folder.path(name)), QMessageBox::Ok);
         const SvrxMenuFile editor(folder.path(name));
@@ -211,6 +227,28 @@ void TestSvrxMenuFileFiles::saveAsOfANewMenuProposesAName()
     LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_"_s), u"svrxconfig_"_s);
     menus.saveAs();
     QCOMPARE(menus.folder().names(), QStringList({u"svrxconfig_"_s, u"svrxprod_"_s}));
+}
+
+void TestSvrxMenuFileFiles::saveAsCancelledChangesNothing()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"svrxconfig_a.txt"_s, lanefile::text(contents));
+    changeFirstTemperature(*menus.editor());
+    LaneMenus::expectSaveDialog(answers, {}, u"svrxconfig_a.txt"_s);
+    menus.saveAs();
+    checkUnsaved(menus, u"svrxconfig_a.txt"_s);
+}
+
+void TestSvrxMenuFileFiles::saveAsEscapedChangesNothing()
+{
+    LaneMenus menus;
+    ModalAnswers answers;
+    menus.open(answers, u"svrxconfig_a.txt"_s, lanefile::text(contents));
+    changeFirstTemperature(*menus.editor());
+    answers.expect<QFileDialog>([](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    menus.saveAs();
+    checkUnsaved(menus, u"svrxconfig_a.txt"_s);
 }
 
 void TestSvrxMenuFileFiles::wrongNamesWriteNothing_data()
