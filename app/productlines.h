@@ -10,8 +10,8 @@
 
 class QMdiSubWindow;
 
-/// What the main window knows of one line of cabinets. Texts are looked up when they are needed, as the
-/// translator is installed after the table is built.
+/// What the main window knows of one line of cabinets. Texts are looked up each time that they are needed, as
+/// the table outlives a translator.
 struct ProductLine
 {
     int resultCode;                   ///< of the product-line chooser; never 0

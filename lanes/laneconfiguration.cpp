@@ -20,7 +20,6 @@ namespace lanes {
 namespace {
 
 constexpr auto fixedNote = "Manual edits will render this file useless"_L1;
-constexpr auto configurationPrefix = "svrxconfig_"_L1;
 constexpr auto productionPrefix = "svrxprod_"_L1;
 constexpr quint32 productionMagic = 285779365;
 constexpr quint16 absentLane = 0xFFFF;

@@ -41,6 +41,9 @@ struct Configuration
 /// The end-of-line production file: one line of hexadecimal digits.
 [[nodiscard]] QByteArray writeProductionRecord(const Configuration &configuration);
 
+/// What the names of the files that a cabinet loads begin with.
+inline constexpr QLatin1StringView configurationPrefix{"svrxconfig_"};
+
 /// Whether a cabinet would load a configuration of this name. Case matters.
 [[nodiscard]] bool isConfigurationName(const QString &path);
 /// The production file's path beside the configuration's, whose name isConfigurationName() has accepted.

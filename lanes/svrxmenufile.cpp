@@ -85,9 +85,19 @@ void SvrxMenuFile::reject()
     MenuEditor::reject();
 }
 
+QString SvrxMenuFile::saveCaption()
+{
+    return tr("Save Savorix Menu");
+}
+
+QString SvrxMenuFile::fileFilter()
+{
+    return tr("Savorix Menu Files (*.txt)");
+}
+
 SaveNameRequest SvrxMenuFile::closingNameRequest() const
 {
-    return {tr("Save Savorix Menu"), QStringLiteral("svrxconfig_"), tr("Savorix Menu Files (*.txt)")};
+    return {saveCaption(), lanes::configurationPrefix, fileFilter()};
 }
 
 void SvrxMenuFile::createMenu()

@@ -26,6 +26,10 @@ public:
     explicit SvrxMenuFile(const QString &filePath, QWidget *parent = nullptr);
     ~SvrxMenuFile() override;
 
+    /// How a file dialog asks where to save.
+    [[nodiscard]] static QString saveCaption();
+    [[nodiscard]] static QString fileFilter();
+
     /// Writes the configuration to the current path; the production file stays as it is.
     bool save() override;
     /// Writes the configuration to a name that a cabinet loads, and the production file beside it. Any other
