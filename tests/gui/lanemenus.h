@@ -33,21 +33,12 @@ public:
         ui::clickMenu(m_window, "menuFile", "actionNew");
         ui::activate(m_window);
     }
-    /// Writes a file and opens it. Boxes that come up have to be in the answers after the call of
-    /// expectOpenDialog().
+    /// Writes a file and opens it. Where a box comes up, expect it between the open dialog and openNow().
     void open(ModalAnswers &answers, const QString &name, const QByteArray &text)
     {
         m_folder.make(name, text);
-        expectOpenDialog(answers, path(name));
+        answers.expectOpenDialog(path(name));
         openNow();
-    }
-    static void expectOpenDialog(ModalAnswers &answers, const QString &path)
-    {
-        answers.expectFileDialog(QStringLiteral("Open JSON Menu"),
-                                 QStringLiteral("Varno Menu Files (*.json *.qhx *.txt *.cbr);;"
-                                                "QHX Json Menu Files (*.json);;Savorix Menu Files (*.txt);;"
-                                                "TimerBar Menu Files (*.cbr)"),
-                                 path);
     }
     void openNow()
     {

@@ -32,11 +32,7 @@ public:
     }
     static void expectOpenDialog(ModalAnswers &answers, const QString &path)
     {
-        answers.expectFileDialog(QStringLiteral("Open JSON Menu"),
-                                 QStringLiteral("Varno Menu Files (*.json *.qhx *.txt *.cbr);;"
-                                                "QHX Json Menu Files (*.json);;Savorix Menu Files (*.txt);;"
-                                                "TimerBar Menu Files (*.cbr)"),
-                                 path);
+        answers.expectOpenDialog(path);
     }
 
     /// A new menu with the configuration that is first offered.

@@ -55,11 +55,6 @@ void expectName(ModalAnswers &answers, const QString &path)
     answers.expectFileDialog(u"Save JSON Menu"_s, OpenMenus::saveFilter, path, u""_s);
 }
 
-ModalAnswers::Box writeFault(const QString &path)
-{
-    return ModalAnswers::fileFault(u"Failed to create/open the file:"_s + path);
-}
-
 } // namespace
 
 void TestMainWindowExit::nothingIsAskedWithoutMenus()
@@ -193,7 +188,7 @@ void TestMainWindowExit::failedSaveKeepsTheProgramOpen()
     open.removeFolder();
     ModalAnswers answers;
     answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    answers.expectBox(writeFault(open.path(u"first.json"_s)), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(open.path(u"first.json"_s)), QMessageBox::Ok);
     QVERIFY(!open.window().close());
     QCOMPARE(open.area().subWindowList().size(), 2);
 }
@@ -206,7 +201,7 @@ void TestMainWindowExit::failedWriteToANewNameDoesNot()
     ModalAnswers answers;
     answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
     expectName(answers, path);
-    answers.expectBox(writeFault(path), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
     QVERIFY(open.window().close());
 }
 

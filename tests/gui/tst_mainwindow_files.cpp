@@ -198,7 +198,7 @@ void TestMainWindowFiles::brokenFileOpensNothing()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{") == 1);
     file.close();
     ModalAnswers answers;
-    answers.expectFileDialog(u"Open JSON Menu"_s, OpenMenus::openFilter, file.fileName());
+    answers.expectOpenDialog(file.fileName());
     answers.expectBox(ModalAnswers::fileFault(u"File format is corrupted!"_s), QMessageBox::Ok);
     ui::clickMenu(open.window(), "menuFile", "actionOpen");
     QVERIFY(open.area().subWindowList().isEmpty());
@@ -307,7 +307,7 @@ void TestMainWindowFiles::failedSaveIsShown()
     const QString path = open.path(u"menu.json"_s);
     open.removeFolder();
     ModalAnswers answers;
-    answers.expectBox(ModalAnswers::fileFault(u"Failed to create/open the file:"_s + path), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
     ui::clickMenu(open.window(), "menuFile", "action_Save");
     QCOMPARE(open.area().subWindowList().size(), 1);
 }

@@ -1,23 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QBuffer>
 #include <QComboBox>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QtEndian>
 
 #include "app/mainwindow.h"
 #include "app/selectproductline.h"
 #include "holding/configuration.h"
-#include "model/crc16.h"
+#include "tests/support/cbrbuilder.h"
 #include "tests/support/lanefile.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/qhxbuilder.h"
 #include "tests/support/samplefile.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
-#include "timerbar/cbrfile.h"
 #include "timerbar/timerbarconfig.h"
 
 using namespace Qt::StringLiterals;
@@ -42,44 +40,16 @@ const QList<Saving> savings{
     {u"Save Savorix Menu"_s, u"Save Savorix Menu"_s, u"Savorix Menu Files (*.txt)"_s, u"svrxconfig_"_s},
     {u"Save TimerBar Menu"_s, u"Save TimerBar Menu"_s, u"TimerBar Menu Files (*.cbr)"_s, u""_s}};
 
-QByteArray sealed(const QByteArray &rest)
-{
-    QByteArray record(2, '\0');
-    qToLittleEndian(crc16(rest.constData(), rest.size(), crc16MenuSeed), record.data());
-    return record + rest;
-}
+const QByteArray laneText = lanefile::text("T1=350,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0");
 
-template <typename... Bytes>
-QByteArray record(int size, Bytes... bytes)
-{
-    QByteArray rest;
-    (rest.append(static_cast<char>(bytes)), ...);
-    return sealed(rest.leftJustified(size - 2, '\0'));
-}
-
-// No products and two empty day parts.
-QByteArray qhxBytes()
-{
-    return record(18, 5, 0, 0, 0, 18, 0, 0, 0, 44, 0, 0, 0, 44, 0, 0, 0) + record(26, 8) + record(82) +
-           record(82);
-}
-
-QByteArray cbrBytes()
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    timerbar::Menu menu;
-    menu.model = u"KTR22"_s;
-    return timerbar::writeMenu(buffer, menu).isEmpty() ? buffer.data() : QByteArray();
-}
-
+// A menu of the line whose files end so.
 QByteArray bytesOf(const QString &ending)
 {
     if (ending == "json"_L1)
         return samplefile::Menu{}.bytes();
     if (ending == "qhx"_L1)
-        return qhxBytes();
-    return ending == "txt"_L1 ? lanefile::text("T1=350,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0") : cbrBytes();
+        return qhx::sample().bytes();
+    return ending == "txt"_L1 ? laneText : cbr::Menu{}.bytes();
 }
 
 /// The main window with menus of all lines.
@@ -112,11 +82,7 @@ public:
     }
     QMdiSubWindow *open(ModalAnswers &answers, const QString &name)
     {
-        answers.expectFileDialog(u"Open JSON Menu"_s,
-                                 u"Varno Menu Files (*.json *.qhx *.txt *.cbr);;"
-                                 "QHX Json Menu Files (*.json);;Savorix Menu Files (*.txt);;"
-                                 "TimerBar Menu Files (*.cbr)"_s,
-                                 m_folder.path(name));
+        answers.expectOpenDialog(m_folder.path(name));
         choose("actionOpen");
         return newest();
     }
@@ -274,8 +240,8 @@ void TestProductLines::exitSavesThemAll()
     QVERIFY(program.window().close());
     QCOMPARE(folder.names(), QStringList({u"a.cbr"_s, u"a.json"_s, u"a.txt"_s, u"n.cbr"_s, u"n.json"_s,
                                           u"svrxconfig_n"_s, u"svrxprod_n"_s}));
-    QCOMPARE(folder.content(u"a.cbr"_s), cbrBytes());
-    QCOMPARE(folder.content(u"a.txt"_s), bytesOf(u"txt"_s));
+    QCOMPARE(folder.content(u"a.cbr"_s), cbr::Menu{}.bytes());
+    QCOMPARE(folder.content(u"a.txt"_s), laneText);
     QVERIFY(folder.content(u"a.json"_s).contains("\"KTR22\""));
 }
 
@@ -289,7 +255,7 @@ void TestProductLines::exitStopsWhereANameIsCancelled()
     QVERIFY(!program.window().close());
     QVERIFY(program.window().isVisible());
     QCOMPARE(folder.names(), QStringList({u"a.cbr"_s, u"a.json"_s, u"a.txt"_s, u"n.json"_s}));
-    QCOMPARE(folder.content(u"a.txt"_s), bytesOf(u"txt"_s));
+    QCOMPARE(folder.content(u"a.txt"_s), laneText);
     QCOMPARE(folder.content(u"a.cbr"_s), QByteArray());
     answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::No);
     QVERIFY(program.window().close());

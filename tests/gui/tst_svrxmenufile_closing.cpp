@@ -19,11 +19,6 @@ const QByteArray changedContents = "T1=351,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0
 
 const QString wrongName = u"File name must start with \"svrxconfig_\" to load in a Savorix unit!"_s;
 
-ModalAnswers::Box writeFault(const QString &path)
-{
-    return ModalAnswers::fileFault(u"Failed to create/open the file:"_s + path);
-}
-
 void close(LaneMenus &menus, Way way = Way::Escape)
 {
     ui::activate(menus.window());
@@ -197,7 +192,7 @@ void TestSvrxMenuFileClosing::yesWithAFailedSaveClosesAllTheSame()
     const QString path = menus.path(u"svrxconfig_a.txt"_s);
     QVERIFY(QFile::remove(path) && QDir().mkdir(path));
     answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    answers.expectBox(writeFault(path), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
     close(menus);
     QVERIFY(answers.allAnswered());
     verifyGone(menus, editor);
@@ -255,7 +250,7 @@ void TestSvrxMenuFileClosing::failedWriteKeepsItOpen()
     const QString path = menus.path(u"missing/svrxconfig_a.txt"_s);
     answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
     LaneMenus::expectSaveDialog(answers, path, u"svrxconfig_"_s);
-    answers.expectBox(writeFault(path), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
     close(menus);
     QVERIFY(answers.allAnswered());
     verifyOpen(menus, editor);
@@ -282,7 +277,7 @@ void TestSvrxMenuFileClosing::exitWithAFailedSaveGoesNoFurther()
     const QString path = menus.path(u"svrxconfig_a.txt"_s);
     QVERIFY(QFile::remove(path) && QDir().mkdir(path));
     answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    answers.expectBox(writeFault(path), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
     QVERIFY(!menus.window().close());
     QVERIFY(menus.window().isVisible());
     QCOMPARE(menus.menuCount(), 1);
@@ -334,7 +329,7 @@ void TestSvrxMenuFileClosing::exitGoesOnAfterAFailedProductionFile()
     QVERIFY(QDir().mkdir(menus.path(u"svrxprod_a.txt"_s)));
     answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
     LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_a.txt"_s), u"svrxconfig_"_s);
-    answers.expectBox(writeFault(menus.path(u"svrxprod_a.txt"_s)), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(menus.path(u"svrxprod_a.txt"_s)), QMessageBox::Ok);
     QVERIFY(menus.window().close());
     QCOMPARE(menus.folder().names(), QStringList({u"svrxconfig_a.txt"_s, u"svrxprod_a.txt"_s}));
 }

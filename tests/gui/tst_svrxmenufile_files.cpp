@@ -27,11 +27,6 @@ ModalAnswers::Box readFault(const QString &path)
     return ModalAnswers::fileFault(u"Failed to open the file:"_s + path);
 }
 
-ModalAnswers::Box writeFault(const QString &path)
-{
-    return ModalAnswers::fileFault(u"Failed to create/open the file:"_s + path);
-}
-
 void changeFirstTemperature(const QWidget &editor)
 {
     QTest::keyClick(&temperatureBox(editor, 1), Qt::Key_Up);
@@ -131,7 +126,7 @@ void TestSvrxMenuFileFiles::faultsAreShown()
     LaneMenus menus;
     menus.folder().make(u"a.txt"_s, text);
     ModalAnswers answers;
-    LaneMenus::expectOpenDialog(answers, menus.path(u"a.txt"_s));
+    answers.expectOpenDialog(menus.path(u"a.txt"_s));
     answers.expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
     menus.openNow();
     QCOMPARE(menus.menuCount(), 0);
@@ -311,12 +306,12 @@ void TestSvrxMenuFileFiles::failedSaveInPlace()
     changeFirstTemperature(*menus.editor());
     QVERIFY(QFile::remove(menus.path(u"a.txt"_s)));
     QVERIFY(QDir().mkdir(menus.path(u"a.txt"_s)));
-    answers.expectBox(writeFault(menus.path(u"a.txt"_s)), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(menus.path(u"a.txt"_s)), QMessageBox::Ok);
     menus.save();
     QVERIFY(answers.allAnswered());
     QCOMPARE(menus.menuCount(), 1);
     QCOMPARE(temperatureBox(*menus.editor(), 1).value(), 351);
-    answers.expectBox(writeFault(menus.path(u"a.txt"_s)), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(menus.path(u"a.txt"_s)), QMessageBox::Ok);
     QVERIFY(!menus.editor()->save());
 }
 
@@ -326,7 +321,7 @@ void TestSvrxMenuFileFiles::failedConfigurationLeavesNoProductionFile()
     QVERIFY(QDir().mkdir(folder.path(u"svrxconfig_a.txt"_s)));
     SvrxMenuFile editor({});
     ModalAnswers answers;
-    answers.expectBox(writeFault(folder.path(u"svrxconfig_a.txt"_s)), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(folder.path(u"svrxconfig_a.txt"_s)), QMessageBox::Ok);
     QVERIFY(!editor.writeToFile(folder.path(u"svrxconfig_a.txt"_s)));
     QCOMPARE(folder.names(), QStringList{u"svrxconfig_a.txt"_s});
     // The name is the current one all the same: a later Save tries again.
@@ -342,11 +337,11 @@ void TestSvrxMenuFileFiles::failedProductionFileIsShown()
     QVERIFY(QDir().mkdir(folder.path(u"svrxprod_a.txt"_s)));
     SvrxMenuFile editor({});
     ModalAnswers answers;
-    answers.expectBox(writeFault(folder.path(u"svrxprod_a.txt"_s)), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(folder.path(u"svrxprod_a.txt"_s)), QMessageBox::Ok);
     QVERIFY(!editor.writeToFile(folder.path(u"svrxconfig_a.txt"_s)));
     QVERIFY(folder.content(u"svrxconfig_a.txt"_s).endsWith("F3=0,F4=0"));
     QCOMPARE(editor.filePath(), folder.path(u"svrxconfig_a.txt"_s));
-    answers.expectBox(writeFault(folder.path(u"svrxprod_a.txt"_s)), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(folder.path(u"svrxprod_a.txt"_s)), QMessageBox::Ok);
     QVERIFY(!editor.writeEolProdMenuFile(folder.path(u"svrxprod_a.txt"_s)));
 }
 
@@ -358,7 +353,7 @@ void TestSvrxMenuFileFiles::shortWriteKeepsTheOldFile()
     SvrxMenuFile editor(folder.path(u"svrxconfig_a.txt"_s));
     temperatureBox(editor, 1).setValue(351);
     ModalAnswers answers;
-    answers.expectBox(writeFault(folder.path(u"svrxconfig_a.txt"_s)), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(folder.path(u"svrxconfig_a.txt"_s)), QMessageBox::Ok);
     const FileSizeLimit fullDisk(20);
     QVERIFY(fullDisk.isActive());
     QVERIFY(!editor.save());

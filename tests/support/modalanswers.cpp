@@ -121,6 +121,11 @@ ModalAnswers::Box ModalAnswers::fileFault(const QString &message)
             .hasParent = false};
 }
 
+ModalAnswers::Box ModalAnswers::writeFault(const QString &path)
+{
+    return fileFault(u"Failed to create/open the file:"_s + path);
+}
+
 ModalAnswers::Box ModalAnswers::entryFault(const QString &message)
 {
     return {.title = u"Error"_s, .text = message, .buttons = QMessageBox::Close};
@@ -175,4 +180,12 @@ void ModalAnswers::expectFileDialog(const QString &caption, const QString &filte
             dialog.acceptMode() == QFileDialog::AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open;
         QTest::mouseClick(buttons->button(accepting), Qt::LeftButton);
     });
+}
+
+void ModalAnswers::expectOpenDialog(const QString &path)
+{
+    expectFileDialog(u"Open JSON Menu"_s,
+                     u"Varno Menu Files (*.json *.qhx *.txt *.cbr);;QHX Json Menu Files (*.json);;"
+                     "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"_s,
+                     path);
 }

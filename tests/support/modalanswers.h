@@ -56,6 +56,7 @@ public:
 
     /// Boxes that come up in many tests.
     [[nodiscard]] static Box fileFault(const QString &message);
+    [[nodiscard]] static Box writeFault(const QString &path);
     [[nodiscard]] static Box entryFault(const QString &message);
     [[nodiscard]] static Box refusal(const QString &message);
     [[nodiscard]] static Box removalWarning(const QString &message);
@@ -66,6 +67,9 @@ public:
     /// `start` is looked at unless it is null: the proposed file name, without folder.
     void expectFileDialog(const QString &caption, const QString &filter, const QString &path,
                           const QString &start = {});
+
+    /// The one of File, Open.
+    void expectOpenDialog(const QString &path);
 
     [[nodiscard]] bool allAnswered() const { return m_answers.empty(); }
 

@@ -16,9 +16,6 @@
 
 using namespace Qt::StringLiterals;
 
-const QString OpenMenus::openFilter =
-    u"Varno Menu Files (*.json *.qhx *.txt *.cbr);;QHX Json Menu Files (*.json);;"
-    "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"_s;
 const QString OpenMenus::saveFilter = u"JSON Menu Files (*.json)"_s;
 
 OpenMenus::OpenMenus()
@@ -46,7 +43,7 @@ QMdiSubWindow *OpenMenus::open(const QString &path)
 {
     const qsizetype count = area().subWindowList().size();
     ModalAnswers answers;
-    answers.expectFileDialog(u"Open JSON Menu"_s, openFilter, path);
+    answers.expectOpenDialog(path);
     ui::clickMenu(m_window, "menuFile", "actionOpen");
     return newestSince(count);
 }

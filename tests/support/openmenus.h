@@ -35,7 +35,6 @@ public:
     /// Changes the menu that is open in a sub-window, so that saving it changes its file.
     void change(QMdiSubWindow &subWindow);
 
-    static const QString openFilter;
     static const QString saveFilter;
 
 private:
