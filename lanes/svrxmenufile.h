@@ -92,5 +92,5 @@ private:
     std::array<Row, lanes::maxLanes> m_rows{};
     lanes::Configuration m_configuration;
     QSpinBox *m_typedIn = nullptr; ///< typed into since its last editing was finished
-    bool m_loading = false; ///< the boxes are being filled: what they report is no entry of the user's
+    bool m_loading = false;        ///< the boxes are being filled: what they report is no entry of the user's
 };
