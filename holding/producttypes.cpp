@@ -11,10 +11,10 @@ namespace holding {
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("ProductTypes", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ProductTypes)
+};
 
 int indexIn(const QStringList &words, const QString &word, int fallback)
 {
@@ -32,7 +32,7 @@ const QStringList &lidTypes()
 
 QStringList lidTexts()
 {
-    return {tr("None"), tr("Solid"), tr("Vented")};
+    return {Text::tr("None"), Text::tr("Solid"), Text::tr("Vented")};
 }
 
 int lidIndex(const QString &lidType)
@@ -53,7 +53,7 @@ const QStringList &bottomTypes()
 
 QStringList bottomTexts()
 {
-    return {tr("False"), tr("Normal")};
+    return {Text::tr("False"), Text::tr("Normal")};
 }
 
 int bottomIndex(const QString &bottomType)
