@@ -34,6 +34,11 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(TimerBarMenuFile)
 };
 
+// The fault of writing a menu of an unknown model. It is pending only: such a menu is written without bins,
+// and the message of a later fault takes its place, so that nobody ever sees it.
+[[maybe_unused]] constexpr auto unknownModelFault =
+    QT_TRANSLATE_NOOP("TimerBarMenuFile", "Unkown cabinet model");
+
 quint8 byteAt(QByteArrayView bytes, qsizetype offset)
 {
     return static_cast<quint8>(bytes[offset]);
@@ -248,7 +253,7 @@ QString readMenu(const QByteArray &bytes, Menu &menu)
 
 QString writeMenu(QIODevice &device, const Menu &menu)
 {
-    // An unknown model is no fault: it has no bins, so that a day part's record is its index alone.
+    // An unknown model has no bins, so that a day part's record is its index alone.
     const CabinetShape shape = menu.shape();
     QByteArray header = encodeHeader(menu, shape);
     quint16 crc = crc16(header.constData() + crcSize, header.size() - crcSize, crc16MenuSeed);
