@@ -130,7 +130,7 @@ std::unique_ptr<ProductInfo> readGroup(const QJsonObject &json)
     QList<int> members;
     const QJsonArray products = json.value("products"_L1).toArray();
     members.reserve(products.size());
-    for (const QJsonValue product : products)
+    for (const QJsonValueConstRef product : products)
         members.append(toInt(product));
     group->set_productList(members);
     return group;
@@ -160,7 +160,7 @@ QJsonObject writeGroup(const ProductInfo &group)
 void readEntries(const QJsonArray &array, QLatin1StringView idKey,
                  std::unique_ptr<ProductInfo> (*readOne)(const QJsonObject &), Entries &entries)
 {
-    for (const QJsonValue element : array) {
+    for (const QJsonValueConstRef element : array) {
         const QJsonObject json = element.toObject();
         if (toInt(json.value(idKey)) != 0)
             entries.push_back(readOne(json));
@@ -175,7 +175,7 @@ Daypart readDaypart(const QJsonObject &json, const CabinetShape &shape)
     const int binsPerRow = shape.binsPerRow();
     const int binCount = shape.rows * binsPerRow;
     const QJsonArray locations = json.value("productLocations"_L1).toArray();
-    for (const QJsonValue element : locations) {
+    for (const QJsonValueConstRef element : locations) {
         const QJsonObject location = element.toObject();
         const int bin = toInt(location.value("bin"_L1));
         if (bin < 1 || bin > binCount)
@@ -214,7 +214,7 @@ QString readLayout(const QJsonValue &layout, Menu &menu)
     menu.dayparts = {};
     menu.daypartCount = static_cast<int>(array.size());
     auto place = menu.dayparts.begin();
-    for (const QJsonValue element : array)
+    for (const QJsonValueConstRef element : array)
         *place++ = readDaypart(element.toObject(), shape);
     return {};
 }

@@ -1,9 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <algorithm>
-#include <ctime>
-
 #include <QJsonDocument>
 #include <QTest>
 
@@ -105,8 +102,8 @@ private slots:
     void truncations();
     void bitFlips_data();
     void bitFlips();
-    void millionsOfPlaceholdersCostLittle_data();
-    void millionsOfPlaceholdersCostLittle();
+    void millionsOfPlaceholdersLeaveNothing_data();
+    void millionsOfPlaceholdersLeaveNothing();
 };
 
 void TestMenuJsonDamage::truncations_data()
@@ -151,29 +148,22 @@ void TestMenuJsonDamage::bitFlips()
     QVERIFY(taken > 0 && refused > 0);
 }
 
-void TestMenuJsonDamage::millionsOfPlaceholdersCostLittle_data()
+void TestMenuJsonDamage::millionsOfPlaceholdersLeaveNothing_data()
 {
     QTest::addColumn<bool>("products");
     QTest::newRow("products") << true;
     QTest::newRow("groups") << false;
 }
 
-// Beside what parsing them takes in any case, in processor time, which other programs do not change.
-void TestMenuJsonDamage::millionsOfPlaceholdersCostLittle()
+void TestMenuJsonDamage::millionsOfPlaceholdersLeaveNothing()
 {
     QFETCH(bool, products);
     const QByteArray zeros = QByteArray("0,").repeated(1'000'000) + '0';
     const QByteArray json =
         document::withLists(products ? zeros : QByteArray(), products ? QByteArray() : zeros, "");
     Menu menu;
-    const std::clock_t start = std::clock();
-    QVERIFY(QJsonDocument::fromJson(json).isObject());
-    const std::clock_t parsed = std::clock();
     QCOMPARE(document::read(json, menu), QString());
-    const std::clock_t read = std::clock();
     QVERIFY(menu.products.empty() && menu.groups.empty());
-    const double ratio = double(read - parsed) / double(std::max<std::clock_t>(1, parsed - start));
-    QVERIFY2(ratio < 6, qPrintable(u"%1 times as much as parsing"_s.arg(ratio)));
 }
 
 QTEST_APPLESS_MAIN(TestMenuJsonDamage)
