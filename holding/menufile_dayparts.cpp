@@ -109,7 +109,7 @@ void MenuFile::showRemovalMode(bool removing)
         widget->setHidden(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
     m_ui->checkBoxDaypartInUse->setDisabled(removing);
-    m_ui->lblDaypartHint->setText(BinGrid::hint(removing));
+    BinGrid::showHint(m_ui->lblDaypartHint, removing);
 }
 
 holding::Daypart *MenuFile::currentDaypart()

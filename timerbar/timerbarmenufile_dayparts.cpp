@@ -68,7 +68,7 @@ void TimerBarMenuFile::showRemovalMode(bool removing)
     m_ui->btnDaypartRemove->setVisible(removing);
     m_ui->btnCancelDaypartRemove->setVisible(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
-    m_ui->lblDaypartHint->setText(BinGrid::hint(removing));
+    BinGrid::showHint(m_ui->lblDaypartHint, removing);
 }
 
 timerbar::DaypartCells *TimerBarMenuFile::currentCells()

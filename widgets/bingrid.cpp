@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 
@@ -161,10 +162,13 @@ QList<Bin> BinGrid::checkedBins() const
     return bins;
 }
 
-QString BinGrid::hint(bool removing)
+void BinGrid::showHint(QLabel *label, bool removing)
 {
-    return removing ? tr("Choose the bins to clear, then press Remove.")
-                    : tr("Click a bin to assign it. Hold a filled bin to clear bins.");
+    label->setText(removing ? tr("Choose the bins to clear, then press Remove.")
+                            : tr("Click a bin to assign it. Hold a filled bin to clear bins."));
+    QFont font = label->font();
+    font.setBold(removing);
+    label->setFont(font);
 }
 
 void keepRoomWhenHidden(QWidget *widget)

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QTimer>
 
+class QLabel;
 class QPushButton;
 class QWidget;
 
@@ -55,8 +56,9 @@ public:
     [[nodiscard]] bool isRemoving() const;
     [[nodiscard]] QList<Bin> checkedBins() const;
 
-    /// What to tell the user in either mode.
-    [[nodiscard]] static QString hint(bool removing);
+    /// Tells the user what to do in either mode; in removal mode in bold, as a click then does something
+    /// else.
+    static void showHint(QLabel *label, bool removing);
 
 signals:
     void holdDetected();
