@@ -43,7 +43,15 @@ SvrxMenuFile::SvrxMenuFile(const QString &filePath, QWidget *parent)
     fixDesignedSize(this);
 }
 
-SvrxMenuFile::~SvrxMenuFile() = default;
+// While it goes the editor is hidden, which takes the focus from a box: what that box then reports would come
+// to an editor that is half gone.
+SvrxMenuFile::~SvrxMenuFile()
+{
+    for (const Row &row : m_rows) {
+        row.temperature->disconnect(this);
+        row.fanSpeed->disconnect(this);
+    }
+}
 
 SvrxMenuFile::Row SvrxMenuFile::rowOf(int number) const
 {
