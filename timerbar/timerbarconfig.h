@@ -25,9 +25,9 @@ public:
 
 public slots:
     /// The stored values: what the user sees only after Save.
-    quint8 getTempUnit() const;
+    [[nodiscard]] quint8 getTempUnit() const;
     void setTempUnit(quint8 value);
-    QString getCabinetModel() const;
+    [[nodiscard]] QString getCabinetModel() const;
     void setCabinetModel(const QString &value);
     void on_btnCancel_clicked();
     void on_btnAccept_clicked();
