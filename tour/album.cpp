@@ -48,7 +48,7 @@ Album::Album(const QString &folder)
     : m_folder(folder)
 {
     m_folder.mkpath(u"."_s);
-    const QStringList earlier = m_folder.entryList({u"[0-9][0-9]-*.png"_s, u"menu*.json"_s}, QDir::Files);
+    const QStringList earlier = m_folder.entryList({u"[0-9]*-*.png"_s, u"menu*.json"_s}, QDir::Files);
     for (const QString &name : earlier)
         m_folder.remove(name);
 }
