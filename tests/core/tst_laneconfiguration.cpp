@@ -144,13 +144,13 @@ void TestLaneConfiguration::readsBackAsWritten()
 void TestLaneConfiguration::namesThatLoad_data()
 {
     QTest::addColumn<bool>("loads");
-    for (const char *path : {"svrxconfig_a.txt", "svrxconfig_", "/home/x/svrxconfig_a.txt", "svrxconfig_a",
+    for (const char *path : {"svrxconfig_a.txt", "svrxconfig_", "/menus/x/svrxconfig_a.txt", "svrxconfig_a",
                              "svrxconfig_svrxconfig_.json", "/other/svrxconfig_ a.TXT"})
         QTest::newRow(path) << true;
     for (const char *path :
          {"", "/", "config_test.txt", "svrxconfig.txt", "svrxconfig-a.txt", "Svrxconfig_a.txt",
           "SVRXCONFIG_A.TXT", "svrxConfig_a.txt", "asvrxconfig_a.txt", " svrxconfig_a.txt", "svrxprod_a.txt",
-          "/svrxconfig_folder/a.txt", "/home/svrxconfig_a/"})
+          "/svrxconfig_folder/a.txt", "/menus/svrxconfig_a/"})
         QTest::newRow(path) << false;
 }
 
@@ -165,7 +165,7 @@ void TestLaneConfiguration::productionPaths_data()
     QTest::addColumn<QString>("production");
     QTest::newRow("svrxconfig_a.txt") << u"svrxprod_a.txt"_s;
     QTest::newRow("svrxconfig_") << u"svrxprod_"_s;
-    QTest::newRow("/home/x/svrxconfig_1.txt") << u"/home/x/svrxprod_1.txt"_s;
+    QTest::newRow("/menus/x/svrxconfig_1.txt") << u"/menus/x/svrxprod_1.txt"_s;
     QTest::newRow("/svrxconfig_1/svrxconfig_2/svrxconfig_3.txt")
         << u"/svrxconfig_1/svrxconfig_2/svrxprod_3.txt"_s;
     QTest::newRow("svrxconfig_of_svrxconfig_1.txt") << u"svrxprod_of_svrxconfig_1.txt"_s;

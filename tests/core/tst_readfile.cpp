@@ -138,10 +138,10 @@ void TestReadFile::lastPart_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("last");
-    QTest::newRow("in a folder") << u"/home/cook/menu.json"_s << u"menu.json"_s;
+    QTest::newRow("in a folder") << u"/menus/cook/menu.json"_s << u"menu.json"_s;
     QTest::newRow("in the root folder") << u"/menu.json"_s << u"menu.json"_s;
     QTest::newRow("no folder") << u"menu.json"_s << u"menu.json"_s;
-    QTest::newRow("ends in a slash") << u"/home/cook/"_s << QString();
+    QTest::newRow("ends in a slash") << u"/menus/cook/"_s << QString();
     QTest::newRow("empty") << QString() << QString();
     QTest::newRow("backslash is part of the name") << u"/home/a\\b.json"_s << u"a\\b.json"_s;
 }
