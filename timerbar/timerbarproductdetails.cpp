@@ -3,21 +3,15 @@
 
 #include "timerbar/timerbarproductdetails.h"
 
-#include <QTime>
-
 #include "model/names.h"
 #include "model/productinfo.h"
 #include "model/temperature.h"
+#include "model/times.h"
 #include "ui_timerbarproductdetails.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
-QString timeText(int seconds)
-{
-    return QTime(0, 0).addSecs(seconds).toString(u"HH:mm"_s);
-}
+constexpr QStringView hoursAndMinutes = u"HH:mm";
 
 } // namespace
 
@@ -43,8 +37,8 @@ void TimerBarProductDetails::showProduct(const ProductInfo *product, int tempera
     m_ui->txtShortName->setText(product->get_productShortName());
     m_ui->txtTempUpper->setText(temperatureText(product->get_upperTemp(), temperatureUnit));
     m_ui->txtTempLower->setText(temperatureText(product->get_lowerTemp(), temperatureUnit));
-    m_ui->txtHoldTime->setText(timeText(product->get_holdTime()));
-    m_ui->txtWarningTime->setText(timeText(product->get_warningTime()));
+    m_ui->txtHoldTime->setText(timeText(product->get_holdTime(), hoursAndMinutes));
+    m_ui->txtWarningTime->setText(timeText(product->get_warningTime(), hoursAndMinutes));
 }
 
 void TimerBarProductDetails::setShortNameLabel(const QString &label)

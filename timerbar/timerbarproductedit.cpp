@@ -6,10 +6,10 @@
 #include <algorithm>
 
 #include <QSignalBlocker>
-#include <QTime>
 
 #include "model/names.h"
 #include "model/temperature.h"
+#include "model/times.h"
 #include "timerbar/timerbarmenufile.h"
 #include "ui_timerbarproductedit.h"
 #include "widgets/enterkey.h"
@@ -25,17 +25,12 @@ constexpr int maxHoldSeconds = 8 * 60 * 60;
 // Cabinets with older software know no lower temperatures.
 constexpr int leastCommonTemperature = 155;
 
-QTime timeOfDay(int seconds)
-{
-    return QTime(0, 0).addSecs(seconds);
-}
-
 // A box shows a time of day, whereas files can hold times of 24 h and more: 24:30 is shown as 00:30. While a
 // box still shows what it was filled with, the product's own time counts, in the checks as in the record. So
 // saving never turns such a time into a short one unseen; it is refused until another one is entered.
 int enteredSeconds(const QTimeEdit *edit, int storedSeconds)
 {
-    return edit->time() == timeOfDay(storedSeconds) ? storedSeconds : QTime(0, 0).secsTo(edit->time());
+    return edit->time() == timeOfSeconds(storedSeconds) ? storedSeconds : secondsOf(edit->time());
 }
 
 bool isLetterOrDigit(QChar character)
@@ -79,8 +74,8 @@ void TimerBarProductEdit::fillFields()
         box->setRange(celsius ? 38 : 100, celsius ? 107 : 225);
     m_ui->numTempUpper->setValue(shownTemperature(m_product.get_upperTemp(), m_temperatureUnit));
     m_ui->numTempLower->setValue(shownTemperature(m_product.get_lowerTemp(), m_temperatureUnit));
-    m_ui->timeHoldTime->setTime(timeOfDay(m_product.get_holdTime()));
-    m_ui->timeWarningTime->setTime(timeOfDay(m_product.get_warningTime()));
+    m_ui->timeHoldTime->setTime(timeOfSeconds(m_product.get_holdTime()));
+    m_ui->timeWarningTime->setTime(timeOfSeconds(m_product.get_warningTime()));
 }
 
 void TimerBarProductEdit::on_btnCancel_clicked()
