@@ -20,9 +20,4 @@
     X(btnDaypartSelectB2_0) X(btnDaypartSelectB2_1) \
     X(btnDaypartSelectB3_0) X(btnDaypartSelectB3_1) \
     X(btnDaypartSelectB4_0) X(btnDaypartSelectB4_1)
-
-#define DECLARE_BIN_BUTTON_SLOTS(button) \
-    void on_##button##_pressed(); \
-    void on_##button##_released(); \
-    void on_##button##_clicked();
 // clang-format on

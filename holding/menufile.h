@@ -11,6 +11,7 @@
 #include "holding/binbuttons.h"
 #include "holding/menu.h"
 #include "widgets/bingrid.h"
+#include "widgets/binslots.h"
 #include "widgets/entrypane.h"
 #include "widgets/menueditor.h"
 

@@ -6,11 +6,11 @@
 #include <array>
 
 #include <QSignalBlocker>
-#include <QTime>
 
 #include "holding/assigndaypartitem.h"
 #include "holding/binbuttons.h"
 #include "holding/daypartedit.h"
+#include "model/times.h"
 #include "ui_menufile.h"
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
@@ -78,8 +78,7 @@ QString binToolTip(const ProductInfo *entry, const holding::CabinetConfiguration
     if (!holding::isZpv(configuration.type))
         temperatures += u" / "_s + temperatureText(entry->get_lowerTemp(), unit);
     return MenuFile::tr("%1\nTemperature: %2\nHolding Time: %3")
-        .arg(shownName(entry->get_productName()), temperatures,
-             QTime(0, 0).addSecs(entry->get_holdTime()).toString(u"HH:mm:ss"_s));
+        .arg(shownName(entry->get_productName()), temperatures, timeText(entry->get_holdTime()));
 }
 
 } // namespace
@@ -202,7 +201,7 @@ int MenuFile::getDaypartButtonWidth(const QString &zoneSplits)
 
 // The width of a button in an older arrangement of the grid; nothing asks for it any more, but it is part of
 // what an editor offers.
-[[maybe_unused]] int MenuFile::calculateButtonWidth([[maybe_unused]] int binSize)
+int MenuFile::calculateButtonWidth([[maybe_unused]] int binSize)
 {
     return 55;
 }
@@ -229,22 +228,9 @@ void MenuFile::dayPartPressHoldDetected()
     m_grid.settleHold([daypart](Bin bin) { return daypart && binOf(*daypart, bin) != holding::emptyBin; });
 }
 
-#define DEFINE_BIN_BUTTON_SLOTS(button)                                                                      \
-    void MenuFile::on_##button##_pressed()                                                                   \
-    {                                                                                                        \
-        m_grid.press(m_ui->button);                                                                          \
-    }                                                                                                        \
-    void MenuFile::on_##button##_released()                                                                  \
-    {                                                                                                        \
-        m_grid.release();                                                                                    \
-    }                                                                                                        \
-    void MenuFile::on_##button##_clicked()                                                                   \
-    {                                                                                                        \
-        if (const std::optional<Bin> bin = m_grid.clickedBin(m_ui->button))                                  \
-            assignProductToBin(bin->row, bin->slot);                                                         \
-    }
-FOR_EACH_BIN_BUTTON(DEFINE_BIN_BUTTON_SLOTS)
-#undef DEFINE_BIN_BUTTON_SLOTS
+#define DEFINE_SLOTS(button) DEFINE_BIN_BUTTON_SLOTS(MenuFile, button)
+FOR_EACH_BIN_BUTTON(DEFINE_SLOTS)
+#undef DEFINE_SLOTS
 
 void MenuFile::on_btnDaypartRemove_clicked()
 {

@@ -14,9 +14,4 @@
     X(btnDaypartSelectB0_0) X(btnDaypartSelectB0_1) \
     X(btnDaypartSelectB1_0) X(btnDaypartSelectB1_1) \
     X(btnDaypartSelectB2_0) X(btnDaypartSelectB2_1)
-
-#define DECLARE_TIMER_BAR_BIN_BUTTON_SLOTS(button) \
-    void on_##button##_pressed(); \
-    void on_##button##_released(); \
-    void on_##button##_clicked();
 // clang-format on

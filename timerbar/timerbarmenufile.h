@@ -9,6 +9,7 @@
 #include "timerbar/binbuttons.h"
 #include "timerbar/menu.h"
 #include "widgets/bingrid.h"
+#include "widgets/binslots.h"
 #include "widgets/entrypane.h"
 #include "widgets/menueditor.h"
 
@@ -63,7 +64,7 @@ public slots:
     void on_btnSelectMultiProduct_clicked();
     void on_btnExportFile_clicked();
     void dayPartPressHoldDetected();
-    FOR_EACH_TIMER_BAR_BIN_BUTTON(DECLARE_TIMER_BAR_BIN_BUTTON_SLOTS)
+    FOR_EACH_TIMER_BAR_BIN_BUTTON(DECLARE_BIN_BUTTON_SLOTS)
     void on_btnCancelDaypartRemove_clicked();
     void on_btnDaypartRemove_clicked();
     void on_listWidgetProducts_itemSelectionChanged();

@@ -146,22 +146,9 @@ void TimerBarMenuFile::dayPartPressHoldDetected()
     m_grid.settleHold([cells](Bin bin) { return cells && cellAt(*cells, bin) < timerbar::emptyCell; });
 }
 
-#define DEFINE_BIN_BUTTON_SLOTS(button)                                                                      \
-    void TimerBarMenuFile::on_##button##_pressed()                                                           \
-    {                                                                                                        \
-        m_grid.press(m_ui->button);                                                                          \
-    }                                                                                                        \
-    void TimerBarMenuFile::on_##button##_released()                                                          \
-    {                                                                                                        \
-        m_grid.release();                                                                                    \
-    }                                                                                                        \
-    void TimerBarMenuFile::on_##button##_clicked()                                                           \
-    {                                                                                                        \
-        if (const std::optional<Bin> bin = m_grid.clickedBin(m_ui->button))                                  \
-            assignProductToBin(bin->row, bin->slot);                                                         \
-    }
-FOR_EACH_TIMER_BAR_BIN_BUTTON(DEFINE_BIN_BUTTON_SLOTS)
-#undef DEFINE_BIN_BUTTON_SLOTS
+#define DEFINE_SLOTS(button) DEFINE_BIN_BUTTON_SLOTS(TimerBarMenuFile, button)
+FOR_EACH_TIMER_BAR_BIN_BUTTON(DEFINE_SLOTS)
+#undef DEFINE_SLOTS
 
 void TimerBarMenuFile::on_btnCancelDaypartRemove_clicked()
 {
