@@ -9,6 +9,16 @@
 #include <QString>
 #include <QStringList>
 
+#include "model/productfields.h"
+
+// clang-format off
+#define DECLARE_PRODUCT_ACCESSORS(Type, Argument, field, initially) \
+    [[nodiscard]] Type get_##field() const; \
+    void set_##field(Argument value);
+#define DECLARE_PRODUCT_MEMBER(Type, Argument, field, initially) \
+    Type m_##field = initially;
+// clang-format on
+
 /// One entry of a menu: a product, or in the holding-cabinet line a group of products.
 ///
 /// Temperatures are whole °F whatever the menu's unit, times whole seconds, the fan speed revolutions per
@@ -29,60 +39,17 @@ class ProductInfo : public QObject
 public:
     explicit ProductInfo(QObject *parent = nullptr);
 
-public slots:
-    [[nodiscard]] int get_productId() const;
-    void set_productId(int value);
-    [[nodiscard]] bool get_isGroup() const;
-    void set_isGroup(bool value);
-    [[nodiscard]] bool get_productLocked() const;
-    void set_productLocked(bool value);
-    [[nodiscard]] QStringList get_productName() const;
-    void set_productName(const QStringList &value);
-    [[nodiscard]] QString get_productShortName() const;
-    void set_productShortName(const QString &value);
-    [[nodiscard]] int get_upperTemp() const;
-    void set_upperTemp(int value);
-    [[nodiscard]] int get_lowerTemp() const;
-    void set_lowerTemp(int value);
-    [[nodiscard]] int get_holdTime() const;
-    void set_holdTime(int value);
-    [[nodiscard]] int get_warningTime() const;
-    void set_warningTime(int value);
-    [[nodiscard]] QString get_zoneSplits() const;
-    void set_zoneSplits(const QString &value);
-    [[nodiscard]] QString get_lidType() const;
-    void set_lidType(const QString &value);
-    [[nodiscard]] QString get_bottomType() const;
-    void set_bottomType(const QString &value);
-    [[nodiscard]] int get_fanSpeed() const;
-    void set_fanSpeed(int value);
-    [[nodiscard]] int get_resetTime() const;
-    void set_resetTime(int value);
-    [[nodiscard]] QString get_timerColor() const;
-    void set_timerColor(const QString &value);
-    [[nodiscard]] QList<int> get_productList() const;
-    void set_productList(const QList<int> &value);
-    [[nodiscard]] int get_defaultIndex() const;
-    void set_defaultIndex(int value);
+public slots: // get_<field>() and set_<field>(value) of each field
+    FOR_EACH_PRODUCT_FIELD(DECLARE_PRODUCT_ACCESSORS)
 
 private:
-    int m_productId = 0;
-    bool m_isGroup = false;
-    bool m_productLocked = false;
-    QStringList m_productName = {QString()};
-    QString m_productShortName;
-    int m_upperTemp = 0;
-    int m_lowerTemp = 0;
-    int m_holdTime = 0;
-    int m_warningTime = 0;
-    QString m_zoneSplits;
-    QString m_lidType;
-    QString m_bottomType;
-    int m_fanSpeed = 0;
-    int m_resetTime = 0;
-    QString m_timerColor = QStringLiteral("#fffffd");
-    QList<int> m_productList;
-    int m_defaultIndex = 0;
+    FOR_EACH_PRODUCT_FIELD(DECLARE_PRODUCT_MEMBER)
 };
+
+#undef DECLARE_PRODUCT_ACCESSORS
+#undef DECLARE_PRODUCT_MEMBER
+
+/// Makes `copy` hold what `source` holds, in every field.
+void copyFields(const ProductInfo &source, ProductInfo &copy);
 
 Q_DECLARE_METATYPE(ProductInfo)

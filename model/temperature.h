@@ -22,6 +22,15 @@ inline constexpr int unitCelsius = 1;
 /// by saving it untouched. `boxValue` is what the box really shows, also where its range moved it.
 [[nodiscard]] int enteredTemperature(int boxValue, int storedFahrenheit, int unit);
 
+/// What a box for temperatures takes, in the unit that it shows.
+struct TemperatureRange
+{
+    int lowest = 0;
+    int highest = 0;
+
+    friend bool operator==(const TemperatureRange &, const TemperatureRange &) = default;
+};
+
 /// "°C" for Celsius, else "°F".
 [[nodiscard]] QString unitText(int unit);
 /// A stored temperature (°F) with its unit, for example "215°F".

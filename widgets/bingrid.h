@@ -10,18 +10,11 @@
 #include <QObject>
 #include <QTimer>
 
+#include "model/bin.h"
+
 class QLabel;
 class QPushButton;
 class QWidget;
-
-/// A bin of the cabinet as the editors count: rows from the top, slots from the left.
-struct Bin
-{
-    int row = 0;
-    int slot = 0;
-
-    friend bool operator==(const Bin &, const Bin &) = default;
-};
 
 /// Which button is which bin, and the two modes of the buttons: a click assigns, until a bin is held for
 /// 800 ms; in removal mode clicks choose the bins to clear.
