@@ -7,8 +7,8 @@
 #include <concepts>
 #include <cstddef>
 
-/// A fixed number of values that are counted from 0 with any integer. Every access is checked: an index beyond
-/// the end ends the program before it touches anything else.
+/// A fixed number of values that are counted from 0 with any integer. Every access is checked: an index
+/// beyond the end ends the program before it touches anything else.
 template <typename T, int count>
 struct FixedList
 {
