@@ -17,7 +17,7 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
                                      int fanSpeed, bool singleBinSecondZone, MenuFile *menuFile)
     : QDialog(menuFile)
     , m_ui(std::make_unique<Ui::AssignDaypartItem>())
-    , m_menuFile(menuFile)
+    , m_configuration(menuFile->configuration())
     , m_allowedZoneSplits(allowedZoneSplits)
     , m_limits{upperTemp, lowerTemp, fanSpeed}
     , m_singleBinSecondZone(singleBinSecondZone)
@@ -43,9 +43,9 @@ void AssignDaypartItem::loadProducts()
 {
     QListWidget *list = m_ui->listWidgetProducts;
     list->clear();
-    const bool fanSpeedEnabled = m_menuFile->getFanSpeedEnabled();
     for (const ProductInfo *entry : std::as_const(m_entries)) {
-        const bool fits = holding::fitsBin(*entry, m_limits, m_allowedZoneSplits, fanSpeedEnabled);
+        const bool fits =
+            holding::fitsBin(*entry, m_limits, m_allowedZoneSplits, m_configuration.fanSpeedEnabled);
         numberedrows::appendToPick(list, shownName(entry->get_productName()), fits);
     }
 }
@@ -58,7 +58,7 @@ const ProductInfo *AssignDaypartItem::selectedEntry() const
 void AssignDaypartItem::loadProductInfo()
 {
     const ProductInfo *entry = selectedEntry();
-    m_ui->details->showEntry(entry, m_menuFile->configuration());
+    m_ui->details->showEntry(entry, m_configuration);
     m_ui->btnSelect->setEnabled(entry != nullptr);
 }
 

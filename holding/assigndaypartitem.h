@@ -45,11 +45,11 @@ private:
     [[nodiscard]] const ProductInfo *selectedEntry() const; ///< null for none
 
     std::unique_ptr<Ui::AssignDaypartItem> m_ui;
-    MenuFile *m_menuFile;
+    const holding::CabinetConfiguration m_configuration;
     QStringList m_allowedZoneSplits;
     holding::BinLimits m_limits;
     /// The allowed splits already say what it means for the bin.
     [[maybe_unused]] bool m_singleBinSecondZone;
-    QList<ProductInfo *> m_entries; ///< the menu's products, then its groups
+    const QList<ProductInfo *> m_entries; ///< the menu's products, then its groups
     int m_resultId = holding::emptyBin;
 };

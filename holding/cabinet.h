@@ -3,10 +3,12 @@
 
 #pragma once
 
-#include <QList>
+#include <array>
+
 #include <QString>
 #include <QStringList>
 
+#include "model/bin.h"
 #include "model/temperature.h"
 
 namespace holding {
@@ -23,6 +25,17 @@ struct CabinetConfiguration
     bool timerColorEnabled = false;
 };
 
+/// Neighbouring slots of a row that share their settings.
+struct Zone
+{
+    int first = 0;
+    int count = 0; ///< 1 only for the second zone of a cabinet whose second zone has one bin
+
+    [[nodiscard]] constexpr int end() const { return first + count; }
+
+    friend constexpr bool operator==(const Zone &, const Zone &) = default;
+};
+
 /// What the model makes of the grid. All 0 for an unknown cabinet.
 struct CabinetShape
 {
@@ -31,12 +44,55 @@ struct CabinetShape
     quint8 zones = 0;
     bool singleBinSecondZone = false; ///< the second zone of each row has one bin only
 
-    [[nodiscard]] bool isKnown() const { return rows > 0; }
+    [[nodiscard]] constexpr bool isKnown() const { return rows > 0; }
     /// Places in a row, counting the missing second bin of a one-bin second zone: ids are stored so.
-    [[nodiscard]] int binsPerRow() const { return zones > 1 ? binsPerZone * zones : binsPerZone; }
+    [[nodiscard]] constexpr int binsPerRow() const { return zones > 1 ? binsPerZone * zones : binsPerZone; }
+    /// Zones are counted from 0.
+    [[nodiscard]] constexpr Zone zone(int number) const
+    {
+        return {number * binsPerZone, number > 0 && singleBinSecondZone ? 1 : binsPerZone};
+    }
+    [[nodiscard]] constexpr Zone zoneOfSlot(int slot) const
+    {
+        return zone(zones == 2 && slot >= binsPerZone ? 1 : 0);
+    }
+    /// False for what lies outside the grid and for the missing bin of a one-bin zone.
+    [[nodiscard]] constexpr bool hasBin(Bin bin) const
+    {
+        return bin.row >= 0 && bin.row < rows && bin.slot >= 0 && bin.slot < binsPerRow() &&
+               bin.slot < zoneOfSlot(bin.slot).end();
+    }
 
-    friend bool operator==(const CabinetShape &, const CabinetShape &) = default;
+    friend constexpr bool operator==(const CabinetShape &, const CabinetShape &) = default;
 };
+
+struct CabinetModel
+{
+    QLatin1StringView type;
+    QLatin1StringView name;
+    CabinetShape shape;
+};
+
+/// In the order in which they are offered: of the ZPV cabinets the larger one comes first.
+inline constexpr std::array<CabinetModel, 13> models{{
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR22"), {2, 2, 1, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR23"), {2, 2, 2, true}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR24"), {2, 2, 2, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR32"), {3, 2, 1, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR33"), {3, 3, 1, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR34"), {3, 2, 2, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR42"), {4, 2, 1, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR52"), {5, 2, 1, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR54"), {5, 2, 2, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR63"), {6, 3, 1, false}},
+    {QLatin1StringView("QHX"), QLatin1StringView("KTR82"), {8, 2, 1, false}},
+    {QLatin1StringView("ZPV"), QLatin1StringView("ZPV43"), {4, 3, 1, false}},
+    {QLatin1StringView("ZPV"), QLatin1StringView("ZPV23"), {2, 3, 1, false}},
+}};
+
+/// The largest row count and row of all models: what a day part has room for.
+inline constexpr int maxRows = 8;
+inline constexpr int maxSlots = 4;
 
 /// "QHX" has an upper and a lower temperature and lids, "ZPV" one temperature and no lids.
 [[nodiscard]] bool isQhx(const QString &type);
@@ -48,5 +104,8 @@ struct CabinetShape
 
 /// Names are compared exactly; anything unknown gives the empty shape.
 [[nodiscard]] CabinetShape cabinetShape(const QString &type, const QString &model);
+
+/// Whether some model has this number of rows.
+[[nodiscard]] bool isShowableRowCount(int rows);
 
 } // namespace holding

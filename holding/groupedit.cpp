@@ -3,7 +3,6 @@
 
 #include "holding/groupedit.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QSignalBlocker>
@@ -30,14 +29,24 @@ int positionOf(const QListWidgetItem *item)
     return item->data(positionRole).toInt();
 }
 
+void appendMember(QListWidget *list, const ProductInfo &member, int position)
+{
+    QListWidgetItem *item = numberedrows::append(list, position + 1, shownName(member.get_productName()));
+    item->setData(idRole, member.get_productId());
+    item->setData(positionRole, position);
+    item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
+    numberedrows::colourFitting(item, position);
+}
+
 } // namespace
 
 GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     : RefusableDialog(menuFile)
     , m_ui(std::make_unique<Ui::GroupEdit>())
     , m_group(group)
-    , m_menuFile(menuFile)
+    , m_configuration(menuFile->configuration())
     , m_products(menuFile->getMenuProducts())
+    , m_draft(group, m_configuration)
 {
     m_ui->setupUi(this);
     for (QWidget *button : {m_ui->btnAddProduct, m_ui->btnRemoveProduct})
@@ -47,10 +56,9 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     letEnterPressFocusedButton(this);
     fixDesignedSize(this);
     setWindowTitle(tr("Group Edit"));
-    applyCabinetType();
+    applyConfiguration();
     m_ui->txtName->setText(shownName(group.get_productName()));
     m_ui->txtName->setFocus();
-    loadWorkingValues();
     loadProducts();
     loadGroupProducts();
     m_ui->btnAddProduct->setEnabled(false);
@@ -59,35 +67,18 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
 
 GroupEdit::~GroupEdit() = default;
 
-void GroupEdit::applyCabinetType()
+void GroupEdit::applyConfiguration()
 {
-    const QString type = m_menuFile->getCabinetType();
-    if (holding::isZpv(type)) {
+    if (holding::isZpv(m_configuration.type)) {
         for (QWidget *widget : {m_ui->lblTemp2, m_ui->txtTemp2, m_ui->lblLidType, m_ui->txtLidType})
             widget->hide();
         m_ui->lblTemp1->setText(tr("Temperature:"));
-    } else if (!holding::isQhx(type)) {
+    } else if (!holding::isQhx(m_configuration.type)) {
         refuse(tr("Unkown cabinet value!"));
     }
-}
-
-void GroupEdit::loadWorkingValues()
-{
-    const bool fanSpeedEnabled = m_menuFile->getFanSpeedEnabled();
-    m_ui->widgetSpacer->setHidden(fanSpeedEnabled);
-    m_ui->lblFanSpeed->setVisible(fanSpeedEnabled);
-    m_ui->txtFanSpeed->setVisible(fanSpeedEnabled);
-    m_defaultIndex = m_group.get_defaultIndex();
-    m_members = m_group.get_productList();
-    if (!m_members.isEmpty())
-        fixSettings(m_group); // what an emptied group still stores fixes nothing
-}
-
-void GroupEdit::fixSettings(const ProductInfo &firstMember)
-{
-    m_settings = holding::holdingSettings(firstMember, m_menuFile->getFanSpeedEnabled());
-    if (holding::isZpv(m_menuFile->getCabinetType()))
-        m_settings.lidType.clear();
+    m_ui->widgetSpacer->setHidden(m_configuration.fanSpeedEnabled);
+    m_ui->lblFanSpeed->setVisible(m_configuration.fanSpeedEnabled);
+    m_ui->txtFanSpeed->setVisible(m_configuration.fanSpeedEnabled);
 }
 
 const ProductInfo *GroupEdit::product(int id) const
@@ -103,9 +94,9 @@ void GroupEdit::loadProducts()
     QListWidget *list = m_ui->listWidgetProducts;
     list->clear();
     for (const ProductInfo *candidate : std::as_const(m_products)) {
-        const bool fits = holding::fitsGroup(*candidate, m_settings, m_menuFile->getFanSpeedEnabled());
-        numberedrows::appendToPick(list, shownName(candidate->get_productName()), fits)
-            ->setData(idRole, candidate->get_productId());
+        QListWidgetItem *item = numberedrows::appendToPick(list, shownName(candidate->get_productName()),
+                                                           m_draft.fits(*candidate));
+        item->setData(idRole, candidate->get_productId());
     }
 }
 
@@ -114,37 +105,18 @@ void GroupEdit::loadGroupProducts()
     QListWidget *list = m_ui->listWidgetGroupProducts;
     const QSignalBlocker blocker(list);
     list->clear();
-    for (int position = 0; position < m_members.size(); ++position) {
-        const ProductInfo *member = product(m_members[position]);
+    QList<int> listedPositions;
+    for (int position = 0; position < m_draft.members().size(); ++position) {
+        const ProductInfo *member = product(m_draft.members()[position]);
         if (!member)
             continue;
-        QListWidgetItem *item =
-            numberedrows::append(list, position + 1, shownName(member->get_productName()));
-        item->setData(idRole, member->get_productId());
-        item->setData(positionRole, position);
-        item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-        numberedrows::colourFitting(item, position);
+        appendMember(list, *member, position);
+        listedPositions.append(position);
     }
-    settleDefault();
+    m_draft.settleDefault(listedPositions);
     checkDefaultOnly();
     showSummary();
     on_listWidgetGroupProducts_itemSelectionChanged();
-}
-
-// A file may name a default that does not exist or whose product is missing. What the list then shows as
-// checked is what a Save stores: the next listed member, or the last one.
-void GroupEdit::settleDefault()
-{
-    const int lastPosition = std::max(0, static_cast<int>(m_members.size()) - 1);
-    m_defaultIndex = std::clamp(m_defaultIndex, 0, lastPosition);
-    const QListWidget *list = m_ui->listWidgetGroupProducts;
-    for (int row = 0; row < list->count(); ++row) {
-        const int position = positionOf(list->item(row));
-        if (position >= m_defaultIndex || row == list->count() - 1) {
-            m_defaultIndex = position;
-            return;
-        }
-    }
 }
 
 void GroupEdit::checkDefaultOnly()
@@ -153,18 +125,19 @@ void GroupEdit::checkDefaultOnly()
     const QSignalBlocker blocker(list);
     for (int row = 0; row < list->count(); ++row) {
         QListWidgetItem *item = list->item(row);
-        item->setCheckState(positionOf(item) == m_defaultIndex ? Qt::Checked : Qt::Unchecked);
+        item->setCheckState(positionOf(item) == m_draft.defaultPosition() ? Qt::Checked : Qt::Unchecked);
     }
 }
 
 void GroupEdit::showSummary()
 {
-    const int unit = m_menuFile->getTemperatureUnit();
-    m_ui->txtTemp1->setText(temperatureText(m_settings.upperTemp, unit));
-    m_ui->txtTemp2->setText(temperatureText(m_settings.lowerTemp, unit));
-    m_ui->txtLidType->setText(holding::lidText(m_settings.lidType));
-    m_ui->txtZoneSplits->setText(m_settings.zoneSplits);
-    m_ui->txtFanSpeed->setText(tr("%1 RPM").arg(m_settings.fanSpeed));
+    const int unit = m_configuration.temperatureUnit;
+    const holding::HoldingSettings &settings = m_draft.settings();
+    m_ui->txtTemp1->setText(temperatureText(settings.upperTemp, unit));
+    m_ui->txtTemp2->setText(temperatureText(settings.lowerTemp, unit));
+    m_ui->txtLidType->setText(holding::lidText(settings.lidType));
+    m_ui->txtZoneSplits->setText(settings.zoneSplits);
+    m_ui->txtFanSpeed->setText(tr("%1 RPM").arg(settings.fanSpeed));
 }
 
 void GroupEdit::on_btnCancel_clicked()
@@ -178,18 +151,12 @@ void GroupEdit::on_btnSave_clicked()
         messages::entryFault(this, tr("Group name is empty!"));
         return;
     }
-    if (m_members.isEmpty()) {
+    if (m_draft.members().isEmpty()) {
         messages::entryFault(this, tr("Product list is empty!"));
         return;
     }
     m_group.set_productName(sameNameInAllLanguages(m_ui->txtName->text()));
-    m_group.set_upperTemp(m_settings.upperTemp);
-    m_group.set_lowerTemp(m_settings.lowerTemp);
-    m_group.set_zoneSplits(m_settings.zoneSplits);
-    m_group.set_lidType(m_settings.lidType);
-    m_group.set_fanSpeed(m_settings.fanSpeed);
-    m_group.set_productList(m_members);
-    m_group.set_defaultIndex(m_defaultIndex);
+    m_draft.writeTo(m_group);
     accept();
 }
 
@@ -198,12 +165,8 @@ void GroupEdit::on_btnAddProduct_clicked()
     const QListWidgetItem *item = m_ui->listWidgetProducts->currentItem();
     if (!item || m_ui->listWidgetProducts->selectedItems().isEmpty())
         return;
-    const int id = item->data(idRole).toInt();
     const int row = m_ui->listWidgetProducts->currentRow();
-    if (!m_members.contains(id))
-        m_members.append(id);
-    if (m_members.size() == 1)
-        fixSettings(*m_products[row]);
+    m_draft.add(*m_products[row]);
     loadProducts();
     m_ui->listWidgetProducts->setCurrentRow(row);
     loadGroupProducts();
@@ -215,15 +178,10 @@ void GroupEdit::on_btnRemoveProduct_clicked()
     const QListWidgetItem *item = list->currentItem();
     if (!item || list->selectedItems().isEmpty())
         return;
-    const int position = positionOf(item);
     const int row = list->currentRow();
-    m_members.removeAt(position);
-    if (m_defaultIndex > position)
-        --m_defaultIndex;
-    if (m_members.isEmpty()) {
-        m_settings = {};
+    m_draft.remove(positionOf(item));
+    if (m_draft.members().isEmpty())
         loadProducts();
-    }
     loadGroupProducts();
     list->setCurrentRow(std::min(row, list->count() - 1));
 }
@@ -231,7 +189,7 @@ void GroupEdit::on_btnRemoveProduct_clicked()
 void GroupEdit::on_listWidgetGroupProducts_itemChanged(QListWidgetItem *item)
 {
     if (item == m_ui->listWidgetGroupProducts->currentItem())
-        m_defaultIndex = positionOf(item);
+        m_draft.setDefault(positionOf(item));
     checkDefaultOnly();
 }
 

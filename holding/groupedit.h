@@ -7,7 +7,7 @@
 
 #include <QList>
 
-#include "holding/menu.h"
+#include "holding/groupdraft.h"
 #include "widgets/refusabledialog.h"
 
 class MenuFile;
@@ -44,19 +44,14 @@ public slots:
     void on_listWidgetGroupProducts_itemSelectionChanged();
 
 private:
-    void applyCabinetType();
-    void loadWorkingValues();
-    void fixSettings(const ProductInfo &firstMember);
+    void applyConfiguration();
     [[nodiscard]] const ProductInfo *product(int id) const;
-    void settleDefault();
     void checkDefaultOnly();
     void showSummary();
 
     std::unique_ptr<Ui::GroupEdit> m_ui;
     ProductInfo &m_group;
-    MenuFile *m_menuFile;
+    const holding::CabinetConfiguration m_configuration;
     const QList<ProductInfo *> m_products; ///< the menu's, in its order
-    holding::HoldingSettings m_settings;
-    QList<int> m_members; ///< product ids in the group's order
-    int m_defaultIndex = 0;
+    holding::GroupDraft m_draft;
 };

@@ -3,34 +3,27 @@
 
 #pragma once
 
-#include <array>
-#include <memory>
-#include <vector>
-
 #include <QStringList>
 
 #include "holding/cabinet.h"
+#include "model/bin.h"
+#include "model/entries.h"
 #include "model/names.h"
-#include "model/productinfo.h"
 
-/// The menu of a holding cabinet as plain data, and the rules that need no window.
+/// The menu of a holding cabinet as plain data, and what can be done with it without a window.
 namespace holding {
 
 inline constexpr int maxEntries = 100; ///< products and groups together
 inline constexpr int maxDayparts = 10;
-inline constexpr int maxRows = 8;
-inline constexpr int maxSlots = 4; ///< places in a row
 inline constexpr int emptyBin = 0;
-
-using Entries = std::vector<std::unique_ptr<ProductInfo>>;
 
 /// A named part of the day and what it puts into each bin.
 struct Daypart
 {
     QStringList names = sameNameInAllLanguages({});
     bool inUse = false;
-    /// [row from the top][slot]: the id of a product or group. An id need not belong to any entry.
-    std::array<std::array<int, maxSlots>, maxRows> bins{};
+    /// The id of a product or group. An id need not belong to any entry.
+    BinTable<int, maxRows, maxSlots> bins;
 };
 
 /// Products and groups share one id space in which 0 is no entry. Files may bring negative or repeated ids;
@@ -42,7 +35,7 @@ struct Menu
     CabinetConfiguration configuration;
     Entries products;
     Entries groups;
-    std::array<Daypart, maxDayparts> dayparts; ///< the places from daypartCount on are vacant
+    FixedList<Daypart, maxDayparts> dayparts; ///< the places from daypartCount on are vacant
     int daypartCount = 2;
 
     [[nodiscard]] CabinetShape shape() const;
@@ -68,39 +61,5 @@ struct Menu
     /// Empties every bin of every day part; names and in-use flags stay.
     void clearBins();
 };
-
-/// The names that are shown for the entries, in their order.
-[[nodiscard]] QStringList namesOf(const Entries &entries);
-
-/// The zone split that a new product starts with.
-[[nodiscard]] QString defaultZoneSplits(int binsPerZone);
-/// The zone splits that a product of a cabinet may have, in the order in which they are offered. Empty for a
-/// number of bins that no cabinet has.
-[[nodiscard]] QStringList offeredZoneSplits(int binsPerZone);
-
-/// A new entry as the editors first offer it.
-[[nodiscard]] std::unique_ptr<ProductInfo> newProduct(int id, int binsPerZone);
-[[nodiscard]] std::unique_ptr<ProductInfo> newGroup(int id);
-/// A copy under another id. It is never locked, so that the user can change what he just made.
-[[nodiscard]] std::unique_ptr<ProductInfo> duplicateOf(const ProductInfo &source, int id);
-
-/// The settings that decide which bins and groups an entry may be in.
-struct HoldingSettings
-{
-    QString lidType;
-    QString zoneSplits;
-    int upperTemp = 0; ///< °F
-    int lowerTemp = 0; ///< °F
-    int fanSpeed = 0;  ///< RPM
-
-    friend bool operator==(const HoldingSettings &, const HoldingSettings &) = default;
-};
-
-/// The fan speed counts as 0 while the cabinet does not use it, whatever the entry holds.
-[[nodiscard]] HoldingSettings holdingSettings(const ProductInfo &entry, bool fanSpeedEnabled);
-
-/// Whether a product may join a group with these settings. An empty text or 0 is not fixed yet and fits any
-/// product.
-[[nodiscard]] bool fitsGroup(const ProductInfo &product, const HoldingSettings &group, bool fanSpeedEnabled);
 
 } // namespace holding

@@ -5,6 +5,7 @@
 
 #include "holding/configuration.h"
 #include "holding/menujson.h"
+#include "holding/menunames.h"
 #include "holding/qhximport.h"
 #include "model/files.h"
 #include "ui_menufile.h"
@@ -55,7 +56,7 @@ bool MenuFile::load(const QString &path)
 {
     if (path.isEmpty())
         return createMenu();
-    return isOldMenu(path) ? importQhxMenuFile(path) : readIntoMenu();
+    return isOldMenu(path) ? importIntoMenu(path) : readIntoMenu();
 }
 
 bool MenuFile::createMenu()
@@ -100,14 +101,24 @@ bool MenuFile::readIntoMenu()
 
 bool MenuFile::importQhxMenuFile(const QString &fileName)
 {
+    const bool imported = importIntoMenu(fileName);
+    if (imported)
+        loadMenuFile();
+    return imported;
+}
+
+bool MenuFile::importIntoMenu(const QString &fileName)
+{
     const std::optional<QByteArray> bytes = readFile(fileName);
+    holding::Menu imported;
     const QString fault =
-        bytes ? holding::importQhxMenu(*bytes, m_menu) : tr("Failed to open the file:") + fileName;
-    loadCabinetInfo();
+        bytes ? holding::importQhxMenu(*bytes, imported) : tr("Failed to open the file:") + fileName;
     if (!fault.isEmpty()) {
         messages::fileFault(fault);
         return false;
     }
+    holding::addImportedMenu(std::move(imported), m_menu);
+    loadCabinetInfo();
     showTitle(lastPathPart(fileName));
     return true;
 }

@@ -24,7 +24,7 @@ class MenuFile;
 
 /// The editor of one holding-cabinet menu. It owns the menu: configuration, products, groups and day parts.
 ///
-/// The slots are its whole surface; rules and file format are in the core. Dialogs read the getters.
+/// Rules and file format are in the core; the slots delegate. Dialogs read the getters while they are built.
 class MenuFile final : public MenuEditor
 {
     Q_OBJECT
@@ -45,8 +45,8 @@ public:
     void loadMenuFile();
 
 public slots: // the file
-    /// Reads the current path, also once more, and shows what it brought. A fault has been shown; the menu is
-    /// not valid then.
+    /// Reads the current path, also once more, and shows what it brought. An error has been shown; the menu
+    /// is then not valid and holds what was read before it.
     bool readMenuFile();
     void loadDefaultMenu();
     QJsonObject setNameListToJson(const QStringList &nameList);
@@ -111,7 +111,8 @@ public slots: // day parts
     void on_checkBoxDaypartInUse_stateChanged(int arg1);
 
 public slots: // old menus
-    /// Fills a new menu from an old binary one, which is never written: the menu has no path of its own yet.
+    /// Adds the entries of an old binary menu and takes over its cabinet and its two day parts. The old menu
+    /// is never written: a new menu has no path of its own yet. An error has been shown and changes nothing.
     bool importQhxMenuFile(const QString &fileName);
 
 protected:
@@ -120,6 +121,7 @@ protected:
 private:
     [[nodiscard]] bool load(const QString &path);
     [[nodiscard]] bool readIntoMenu();
+    [[nodiscard]] bool importIntoMenu(const QString &fileName);
     [[nodiscard]] bool createMenu();
     [[nodiscard]] bool askConfiguration(holding::CabinetConfiguration &configuration);
     [[nodiscard]] bool run(Configuration &dialog);
@@ -132,13 +134,12 @@ private:
 
     void prepareGrid();
     void showRemovalMode(bool removing);
-    void registerBins();
     void loadDaypartSelector();
     void showRow(const holding::Daypart &daypart, int row);
     [[nodiscard]] holding::Daypart *currentDaypart();  ///< null while there is none
     [[nodiscard]] ProductInfo *currentProduct() const; ///< null for none
     [[nodiscard]] ProductInfo *currentGroup() const;   ///< null for none
-    void deleteEntries(EntryPane &pane, holding::Entries &entries, const QString &question);
+    void deleteEntries(EntryPane &pane, Entries &entries, const QString &question);
 
     std::unique_ptr<Ui::MenuFile> m_ui;
     holding::Menu m_menu;

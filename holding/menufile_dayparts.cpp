@@ -3,6 +3,7 @@
 
 #include "holding/menufile.h"
 
+#include <algorithm>
 #include <array>
 
 #include <QSignalBlocker>
@@ -10,6 +11,7 @@
 #include "holding/assigndaypartitem.h"
 #include "holding/binbuttons.h"
 #include "holding/daypartedit.h"
+#include "holding/rowlook.h"
 #include "model/times.h"
 #include "ui_menufile.h"
 #include "widgets/messages.h"
@@ -19,48 +21,43 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using BinButtonMember = BinButton *Ui_MenuFile::*;
+/// A button of the form and where it stands in its zone.
+struct GridButton
+{
+    BinButton *Ui_MenuFile::*button;
+    int zone;
+    int row;
+    int number; ///< in the zone
 
-// [row][bin]; the last two rows have no third bin, and the second zone has five rows.
-constexpr std::array<std::array<BinButtonMember, 3>, holding::maxRows> firstZoneButtons{{
-    {&Ui_MenuFile::btnDaypartSelect0_0, &Ui_MenuFile::btnDaypartSelect0_1, &Ui_MenuFile::btnDaypartSelect0_2},
-    {&Ui_MenuFile::btnDaypartSelect1_0, &Ui_MenuFile::btnDaypartSelect1_1, &Ui_MenuFile::btnDaypartSelect1_2},
-    {&Ui_MenuFile::btnDaypartSelect2_0, &Ui_MenuFile::btnDaypartSelect2_1, &Ui_MenuFile::btnDaypartSelect2_2},
-    {&Ui_MenuFile::btnDaypartSelect3_0, &Ui_MenuFile::btnDaypartSelect3_1, &Ui_MenuFile::btnDaypartSelect3_2},
-    {&Ui_MenuFile::btnDaypartSelect4_0, &Ui_MenuFile::btnDaypartSelect4_1, &Ui_MenuFile::btnDaypartSelect4_2},
-    {&Ui_MenuFile::btnDaypartSelect5_0, &Ui_MenuFile::btnDaypartSelect5_1, &Ui_MenuFile::btnDaypartSelect5_2},
-    {&Ui_MenuFile::btnDaypartSelect6_0, &Ui_MenuFile::btnDaypartSelect6_1, nullptr},
-    {&Ui_MenuFile::btnDaypartSelect7_0, &Ui_MenuFile::btnDaypartSelect7_1, nullptr},
-}};
-constexpr std::array<std::array<BinButtonMember, 2>, 5> secondZoneButtons{{
-    {&Ui_MenuFile::btnDaypartSelectB0_0, &Ui_MenuFile::btnDaypartSelectB0_1},
-    {&Ui_MenuFile::btnDaypartSelectB1_0, &Ui_MenuFile::btnDaypartSelectB1_1},
-    {&Ui_MenuFile::btnDaypartSelectB2_0, &Ui_MenuFile::btnDaypartSelectB2_1},
-    {&Ui_MenuFile::btnDaypartSelectB3_0, &Ui_MenuFile::btnDaypartSelectB3_1},
-    {&Ui_MenuFile::btnDaypartSelectB4_0, &Ui_MenuFile::btnDaypartSelectB4_1},
-}};
+    [[nodiscard]] constexpr Bin binIn(const holding::CabinetShape &shape) const
+    {
+        return {row, shape.zone(zone).first + number};
+    }
+    [[nodiscard]] constexpr bool isIn(const holding::CabinetShape &shape) const
+    {
+        return row < shape.rows && zone < shape.zones && number < shape.zone(zone).count;
+    }
+};
 
-// Zones keep their width whatever stands in them, so that filling a bin never moves another one.
-constexpr int onlyZoneWidth = 394;
-constexpr int zoneWidth = 340;
-constexpr int oneBinZoneWidth = 177;
+constexpr std::array gridButtons{
+#define GRID_BUTTON(button, zone, row, number) GridButton{&Ui_MenuFile::button, zone, row, number},
+    FOR_EACH_BIN_BUTTON(GRID_BUTTON)
+#undef GRID_BUTTON
+};
+
+constexpr bool hasButtonForEachBin(const holding::CabinetModel &model)
+{
+    int bins = 0;
+    for (int zone = 0; zone < model.shape.zones; ++zone)
+        bins += model.shape.rows * model.shape.zone(zone).count;
+    return bins == std::count_if(gridButtons.begin(), gridButtons.end(),
+                                 [&](const GridButton &button) { return button.isIn(model.shape); });
+}
+
+static_assert(std::all_of(holding::models.begin(), holding::models.end(), hasButtonForEachBin),
+              "the grid lacks buttons for the bins of some model");
+
 constexpr int binGap = 2; // in the form; 265 and 127 leave no more in the only zone
-
-int firstZoneWidth(const holding::CabinetShape &shape)
-{
-    return shape.zones == 2 ? zoneWidth : onlyZoneWidth;
-}
-
-int secondZoneWidth(const holding::CabinetShape &shape)
-{
-    return shape.singleBinSecondZone ? oneBinZoneWidth : zoneWidth;
-}
-
-template <typename Bins>
-auto &binOf(Bins &daypart, Bin bin)
-{
-    return daypart.bins[static_cast<std::size_t>(bin.row)][static_cast<std::size_t>(bin.slot)];
-}
 
 // A bin whose entry is missing or has no name is no empty bin; its id is all there is to show.
 QString binText(const holding::SlotContent &content, int id)
@@ -114,39 +111,25 @@ void MenuFile::showRemovalMode(bool removing)
 holding::Daypart *MenuFile::currentDaypart()
 {
     const int index = m_ui->comboDaypartSelect->currentIndex();
-    return index < 0 ? nullptr : &m_menu.dayparts[static_cast<std::size_t>(index)];
+    return index < 0 ? nullptr : &m_menu.dayparts[index];
 }
 
 void MenuFile::loadDayparts()
 {
     m_grid.clear();
-#define HIDE_BIN_BUTTON(button) m_ui->button->hide();
-    FOR_EACH_BIN_BUTTON(HIDE_BIN_BUTTON)
-#undef HIDE_BIN_BUTTON
-    if (holding::isShowableRowCount(m_shape.rows))
-        registerBins();
-    else
+    for (const GridButton &place : gridButtons) {
+        QPushButton *button = (*m_ui).*place.button;
+        button->hide();
+        if (place.isIn(m_shape))
+            m_grid.add(button, place.binIn(m_shape));
+    }
+    if (!holding::isShowableRowCount(m_shape.rows))
         messages::refusal(this, tr("Invalid number of rows!"));
-    m_ui->frameFirstZone->setFixedWidth(firstZoneWidth(m_shape));
-    m_ui->frameSecondZone->setFixedWidth(secondZoneWidth(m_shape));
+    m_ui->frameFirstZone->setFixedWidth(holding::zoneWidth(m_shape, 0));
+    m_ui->frameSecondZone->setFixedWidth(holding::zoneWidth(m_shape, 1));
     m_ui->frameSecondZone->setVisible(m_shape.zones == 2);
     loadDaypartSelector();
     loadCurrentDaypart();
-}
-
-void MenuFile::registerBins()
-{
-    for (int row = 0; row < m_shape.rows; ++row) {
-        const auto place = static_cast<std::size_t>(row);
-        for (int bin = 0; bin < m_shape.binsPerZone; ++bin)
-            m_grid.add((*m_ui).*(firstZoneButtons[place][static_cast<std::size_t>(bin)]), {row, bin});
-        if (m_shape.zones != 2)
-            continue;
-        const holding::Zone zone = holding::zoneOfSlot(m_shape, m_shape.binsPerZone);
-        for (int bin = 0; bin < zone.count; ++bin)
-            m_grid.add((*m_ui).*(secondZoneButtons[place][static_cast<std::size_t>(bin)]),
-                       {row, zone.first + bin});
-    }
 }
 
 void MenuFile::loadDaypartSelector()
@@ -154,7 +137,7 @@ void MenuFile::loadDaypartSelector()
     const QSignalBlocker blocker(m_ui->comboDaypartSelect);
     m_ui->comboDaypartSelect->clear();
     for (int i = 0; i < m_menu.daypartCount; ++i)
-        m_ui->comboDaypartSelect->addItem(shownName(m_menu.dayparts[static_cast<std::size_t>(i)].names));
+        m_ui->comboDaypartSelect->addItem(shownName(m_menu.dayparts[i].names));
     m_ui->btnDeleteDaypart->setEnabled(m_menu.daypartCount > 1);
 }
 
@@ -177,18 +160,16 @@ void MenuFile::loadCurrentDaypart()
 void MenuFile::showRow(const holding::Daypart &daypart, int row)
 {
     const holding::RowContent content = holding::rowContent(m_menu, daypart, row);
-    auto looks = holding::rowLook(m_shape, content);
-    holding::fitIntoZone(looks, holding::zoneOfSlot(m_shape, 0), firstZoneWidth(m_shape), binGap);
-    if (m_shape.zones == 2)
-        holding::fitIntoZone(looks, holding::zoneOfSlot(m_shape, m_shape.binsPerZone),
-                             secondZoneWidth(m_shape), binGap);
-    for (std::size_t slot = 0; slot < looks.size(); ++slot) {
-        const Bin bin{row, static_cast<int>(slot)};
+    holding::RowLook looks = holding::rowLook(m_shape, content);
+    for (int zone = 0; zone < m_shape.zones; ++zone)
+        holding::fitIntoZone(looks, m_shape.zone(zone), holding::zoneWidth(m_shape, zone), binGap);
+    for (int slot = 0; slot < looks.size(); ++slot) {
+        const Bin bin{row, slot};
         QPushButton *button = m_grid.button(bin);
         if (!button)
             continue;
         button->setMinimumWidth(looks[slot].minimumWidth);
-        m_grid.showContent(bin, binText(content[slot], binOf(daypart, bin)));
+        m_grid.showContent(bin, binText(content[slot], daypart.bins[bin]));
         button->setToolTip(asPlainText(binToolTip(content[slot].entry, m_menu.configuration)));
         button->setVisible(looks[slot].visible);
     }
@@ -213,22 +194,22 @@ void MenuFile::assignProductToBin(int rowIndex, int binIndex)
         return;
     const holding::RowContent row = holding::rowContent(m_menu, *daypart, rowIndex);
     const holding::BinLimits limits =
-        holding::zoneLimits(row, holding::zoneOfSlot(m_shape, binIndex), binIndex, getFanSpeedEnabled());
+        holding::zoneLimits(row, m_shape.zoneOfSlot(binIndex), binIndex, getFanSpeedEnabled());
     AssignDaypartItem dialog(holding::allowedZoneSplits(m_shape, row, binIndex), limits.upperTemp,
                              limits.lowerTemp, limits.fanSpeed, m_shape.singleBinSecondZone, this);
     if (dialog.exec() != Accepted)
         return;
-    binOf(*daypart, {rowIndex, binIndex}) = dialog.resultId();
+    daypart->bins[Bin{rowIndex, binIndex}] = dialog.resultId();
     loadCurrentDaypart();
 }
 
 void MenuFile::dayPartPressHoldDetected()
 {
     const holding::Daypart *daypart = currentDaypart();
-    m_grid.settleHold([daypart](Bin bin) { return daypart && binOf(*daypart, bin) != holding::emptyBin; });
+    m_grid.settleHold([daypart](Bin bin) { return daypart && daypart->bins[bin] != holding::emptyBin; });
 }
 
-#define DEFINE_SLOTS(button) DEFINE_BIN_BUTTON_SLOTS(MenuFile, button)
+#define DEFINE_SLOTS(button, ...) DEFINE_BIN_BUTTON_SLOTS(MenuFile, button)
 FOR_EACH_BIN_BUTTON(DEFINE_SLOTS)
 #undef DEFINE_SLOTS
 
@@ -237,7 +218,7 @@ void MenuFile::on_btnDaypartRemove_clicked()
     if (holding::Daypart *daypart = currentDaypart()) {
         const QList<Bin> bins = m_grid.checkedBins();
         for (const Bin bin : bins)
-            binOf(*daypart, bin) = holding::emptyBin;
+            daypart->bins[bin] = holding::emptyBin;
     }
     loadCurrentDaypart();
 }

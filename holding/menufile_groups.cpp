@@ -4,13 +4,25 @@
 #include "holding/menufile.h"
 
 #include "holding/groupedit.h"
+#include "holding/newentries.h"
+#include "holding/settings.h"
 #include "ui_menufile.h"
 #include "widgets/messages.h"
 #include "widgets/numberedrows.h"
 
+ProductInfo *MenuFile::currentGroup() const
+{
+    return entryAt(m_menu.groups, m_groups.currentRow());
+}
+
+QList<ProductInfo *> MenuFile::getMenuGroups()
+{
+    return pointersTo(m_menu.groups);
+}
+
 void MenuFile::loadGroups()
 {
-    m_groups.showNames(holding::namesOf(m_menu.groups));
+    m_groups.showNames(namesOf(m_menu.groups));
 }
 
 void MenuFile::loadGroupInfo()
@@ -70,15 +82,11 @@ void MenuFile::on_btnEditGroup_clicked()
     ProductInfo *group = currentGroup();
     if (!group || m_groups.isMultiSelecting())
         return;
-    const bool fanSpeedEnabled = getFanSpeedEnabled();
-    holding::HoldingSettings before = holding::holdingSettings(*group, fanSpeedEnabled);
+    const holding::HoldingSettings before = holding::groupBinSettings(*group, getFanSpeedEnabled());
     if (GroupEdit(*group, this).exec() != Accepted)
         return;
-    holding::HoldingSettings after = holding::holdingSettings(*group, fanSpeedEnabled);
-    // A group's lid does not decide which bins it fits.
-    before.lidType.clear();
-    after.lidType.clear();
-    const bool leftDayparts = before != after && removeIdFromAllDayparts(group->get_productId());
+    const bool changed = holding::groupBinSettings(*group, getFanSpeedEnabled()) != before;
+    const bool leftDayparts = changed && removeIdFromAllDayparts(group->get_productId());
     loadGroups();
     loadGroupInfo();
     loadCurrentDaypart();

@@ -3,38 +3,15 @@
 
 #include "holding/menufile.h"
 
-#include <algorithm>
-
+#include "holding/newentries.h"
 #include "holding/productedit.h"
+#include "holding/settings.h"
 #include "ui_menufile.h"
 #include "widgets/messages.h"
-
-namespace {
-
-QList<ProductInfo *> pointersTo(const holding::Entries &entries)
-{
-    QList<ProductInfo *> pointers;
-    pointers.reserve(static_cast<qsizetype>(entries.size()));
-    for (const auto &entry : entries)
-        pointers.append(entry.get());
-    return pointers;
-}
-
-ProductInfo *entryAt(const holding::Entries &entries, int row)
-{
-    return row < 0 ? nullptr : entries[static_cast<std::size_t>(row)].get();
-}
-
-} // namespace
 
 ProductInfo *MenuFile::currentProduct() const
 {
     return entryAt(m_menu.products, m_products.currentRow());
-}
-
-ProductInfo *MenuFile::currentGroup() const
-{
-    return entryAt(m_menu.groups, m_groups.currentRow());
 }
 
 QList<ProductInfo *> MenuFile::getMenuProducts()
@@ -42,53 +19,15 @@ QList<ProductInfo *> MenuFile::getMenuProducts()
     return pointersTo(m_menu.products);
 }
 
-QList<ProductInfo *> MenuFile::getMenuGroups()
-{
-    return pointersTo(m_menu.groups);
-}
-
 void MenuFile::loadProducts()
 {
-    m_products.showNames(holding::namesOf(m_menu.products));
+    m_products.showNames(namesOf(m_menu.products));
 }
 
 void MenuFile::loadProductInfo()
 {
     m_ui->detailsProduct->showEntry(currentProduct(), m_menu.configuration);
     m_products.updateButtons();
-}
-
-ProductInfo *MenuFile::getProductObject(int id)
-{
-    return m_menu.entry(id);
-}
-
-bool MenuFile::removeIdFromAllGroups(int id)
-{
-    return m_menu.removeFromGroups(id);
-}
-
-bool MenuFile::removeIdFromAllDayparts(int id)
-{
-    return m_menu.removeFromDayparts(id);
-}
-
-bool MenuFile::refuseWhenFull(const QString &message)
-{
-    if (!m_menu.isFull())
-        return false;
-    messages::refusal(this, message);
-    return true;
-}
-
-// Groups and bins show products too, also those whose ids they held before there was such a product.
-void MenuFile::reloadEntries()
-{
-    loadProducts();
-    loadProductInfo();
-    loadGroups();
-    loadGroupInfo();
-    loadCurrentDaypart();
 }
 
 void MenuFile::addProduct(std::unique_ptr<ProductInfo> product)
@@ -141,22 +80,6 @@ void MenuFile::on_btnDeleteProduct_clicked()
     deleteEntries(m_products, m_menu.products,
                   m_products.isMultiSelecting() ? tr("Delete all selected products?")
                                                 : tr("Delete selected product?"));
-}
-
-void MenuFile::deleteEntries(EntryPane &pane, holding::Entries &entries, const QString &question)
-{
-    const QList<int> rows = pane.rowsToDelete();
-    if (rows.isEmpty() || !messages::confirmDelete(this, question))
-        return;
-    pane.setMultiSelecting(false);
-    std::for_each(rows.rbegin(), rows.rend(), [&](int row) {
-        const auto place = entries.begin() + row;
-        if (!(*place)->get_isGroup())
-            removeIdFromAllGroups((*place)->get_productId());
-        removeIdFromAllDayparts((*place)->get_productId());
-        entries.erase(place);
-    });
-    reloadEntries();
 }
 
 void MenuFile::on_listWidgetProducts_itemSelectionChanged()

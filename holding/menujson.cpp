@@ -3,12 +3,13 @@
 
 #include "holding/menujson.h"
 
-#include <limits>
-
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include "holding/fields.h"
+#include "holding/menunames.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,13 +26,6 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(MenuFile)
 };
 
-int toInt(const QJsonValue &value)
-{
-    using Limits = std::numeric_limits<int>;
-    const qint64 number = value.toInteger(0);
-    return number < Limits::min() || number > Limits::max() ? 0 : static_cast<int>(number);
-}
-
 void readIfPresent(const QJsonValue &value, QString &field)
 {
     if (value.isString())
@@ -46,7 +40,7 @@ void readIfPresent(const QJsonValue &value, bool &field)
 void readIfPresent(const QJsonValue &value, int &field)
 {
     if (value.isDouble())
-        field = toInt(value);
+        field = intFromJson(value);
 }
 
 void readHeader(const QJsonObject &header, CabinetConfiguration &configuration)
@@ -79,80 +73,34 @@ QJsonObject writeHeader(const CabinetConfiguration &configuration)
 std::unique_ptr<ProductInfo> readProduct(const QJsonObject &json)
 {
     auto product = std::make_unique<ProductInfo>();
-    product->set_productId(toInt(json.value("productId"_L1)));
-    product->set_productName(namesFromJson(json.value("productName"_L1).toObject()));
-    product->set_holdTime(toInt(json.value("holdingTime"_L1)));
-    product->set_warningTime(toInt(json.value("warningTime"_L1)));
-    product->set_lowerTemp(toInt(json.value("lowerTemp"_L1)));
-    product->set_upperTemp(toInt(json.value("upperTemp"_L1)));
-    product->set_fanSpeed(toInt(json.value("fanSpeed"_L1)));
-    product->set_resetTime(toInt(json.value("resetTime"_L1)));
-    product->set_zoneSplits(json.value("zoneSplits"_L1).toString());
-    if (const QJsonValue color = json.value("timerColor"_L1); color.isString())
-        product->set_timerColor(color.toString());
-    product->set_productLocked(json.value("productLocked"_L1).toBool());
-    product->set_lidType(json.value("lidType"_L1).toString());
-    product->set_bottomType(json.value("bottomType"_L1).toString());
+    for (const ProductField &field : productFields())
+        field.stored.read(json.value(field.stored.key), *product);
     return product;
-}
-
-QJsonObject writeProduct(const ProductInfo &product, const CabinetConfiguration &configuration)
-{
-    return {
-        {"productId"_L1, product.get_productId()},
-        {"productName"_L1, namesToJson(product.get_productName())},
-        {"holdingTime"_L1, product.get_holdTime()},
-        {"warningTime"_L1, product.get_warningTime()},
-        {"lowerTemp"_L1, product.get_lowerTemp()},
-        {"upperTemp"_L1, product.get_upperTemp()},
-        {"fanSpeed"_L1, configuration.fanSpeedEnabled ? product.get_fanSpeed() : 0},
-        {"resetTime"_L1, configuration.resetTimeEnabled ? product.get_resetTime() : 0},
-        {"zoneSplits"_L1, product.get_zoneSplits()},
-        {"timerColor"_L1, product.get_timerColor()},
-        {"productLocked"_L1, product.get_productLocked()},
-        {"lidType"_L1, product.get_lidType()},
-        {"bottomType"_L1, product.get_bottomType()},
-    };
 }
 
 std::unique_ptr<ProductInfo> readGroup(const QJsonObject &json)
 {
     auto group = std::make_unique<ProductInfo>();
     group->set_isGroup(true);
-    group->set_productId(toInt(json.value("groupId"_L1)));
-    group->set_productName(namesFromJson(json.value("groupName"_L1).toObject()));
-    group->set_zoneSplits(json.value("zoneSplits"_L1).toString());
-    group->set_lowerTemp(toInt(json.value("lowerTemp"_L1)));
-    group->set_upperTemp(toInt(json.value("upperTemp"_L1)));
-    group->set_fanSpeed(toInt(json.value("fanSpeed"_L1)));
-    group->set_lidType(json.value("lidType"_L1).toString());
-    group->set_defaultIndex(toInt(json.value("defaultProd"_L1)));
-    QList<int> members;
-    const QJsonArray products = json.value("products"_L1).toArray();
-    members.reserve(products.size());
-    for (const QJsonValueConstRef product : products)
-        members.append(toInt(product));
-    group->set_productList(members);
+    for (const StoredField &field : groupFields())
+        field.read(json.value(field.key), *group);
     return group;
 }
 
-QJsonObject writeGroup(const ProductInfo &group)
+QJsonObject writeProduct(const ProductInfo &product, const CabinetConfiguration &configuration)
 {
-    QJsonArray members;
-    const QList<int> ids = group.get_productList();
-    for (const int id : ids)
-        members.append(id);
-    return {
-        {"groupId"_L1, group.get_productId()},
-        {"groupName"_L1, namesToJson(group.get_productName())},
-        {"zoneSplits"_L1, group.get_zoneSplits()},
-        {"lowerTemp"_L1, group.get_lowerTemp()},
-        {"upperTemp"_L1, group.get_upperTemp()},
-        {"fanSpeed"_L1, group.get_fanSpeed()},
-        {"lidType"_L1, group.get_lidType()},
-        {"defaultProd"_L1, group.get_defaultIndex()},
-        {"products"_L1, members},
-    };
+    QJsonObject json;
+    for (const ProductField &field : productFields())
+        json.insert(field.stored.key, field.stored.write(product, configuration));
+    return json;
+}
+
+QJsonObject writeGroup(const ProductInfo &group, const CabinetConfiguration &configuration)
+{
+    QJsonObject json;
+    for (const StoredField &field : groupFields())
+        json.insert(field.key, field.write(group, configuration));
+    return json;
 }
 
 // Entries without an id of their own are placeholders. They are left out before anything is made of them, as
@@ -162,7 +110,7 @@ void readEntries(const QJsonArray &array, QLatin1StringView idKey,
 {
     for (const QJsonValueConstRef element : array) {
         const QJsonObject json = element.toObject();
-        if (toInt(json.value(idKey)) != 0)
+        if (intFromJson(json.value(idKey)) != 0)
             entries.push_back(readOne(json));
     }
 }
@@ -173,17 +121,15 @@ Daypart readDaypart(const QJsonObject &json, const CabinetShape &shape)
     daypart.names = namesFromJson(json.value("daypartName"_L1).toObject());
     daypart.inUse = json.value("inUse"_L1).toBool(true);
     const int binsPerRow = shape.binsPerRow();
-    const int binCount = shape.rows * binsPerRow;
     const QJsonArray locations = json.value("productLocations"_L1).toArray();
     for (const QJsonValueConstRef element : locations) {
         const QJsonObject location = element.toObject();
-        const int bin = toInt(location.value("bin"_L1));
-        if (bin < 1 || bin > binCount)
+        const int number = intFromJson(location.value("bin"_L1));
+        if (number < 1 || binsPerRow == 0)
             continue;
-        const auto row = static_cast<std::size_t>((bin - 1) / binsPerRow);
-        const auto slot = static_cast<std::size_t>((bin - 1) % binsPerRow);
-        const bool missingBin = shape.singleBinSecondZone && slot == maxSlots - 1;
-        daypart.bins[row][slot] = missingBin ? emptyBin : toInt(location.value("productId"_L1));
+        const Bin bin{(number - 1) / binsPerRow, (number - 1) % binsPerRow};
+        if (shape.hasBin(bin))
+            daypart.bins[bin] = intFromJson(location.value("productId"_L1));
     }
     return daypart;
 }
@@ -193,10 +139,9 @@ QJsonObject writeDaypart(const Daypart &daypart, const CabinetShape &shape)
     QJsonArray locations;
     const int binsPerRow = shape.binsPerZone * shape.zones;
     for (int row = 0; row < shape.rows; ++row) {
-        for (int slot = 0; slot < binsPerRow; ++slot) {
-            const int id = daypart.bins[static_cast<std::size_t>(row)][static_cast<std::size_t>(slot)];
-            locations.append(QJsonObject{{"bin"_L1, row * binsPerRow + slot + 1}, {"productId"_L1, id}});
-        }
+        for (int slot = 0; slot < binsPerRow; ++slot)
+            locations.append(QJsonObject{{"bin"_L1, row * binsPerRow + slot + 1},
+                                         {"productId"_L1, daypart.bins[Bin{row, slot}]}});
     }
     return {
         {"daypartName"_L1, namesToJson(daypart.names)},
@@ -286,35 +231,15 @@ QByteArray writeMenu(const Menu &menu)
         products.append(writeProduct(*product, menu.configuration));
     QJsonArray groups;
     for (const auto &group : menu.groups)
-        groups.append(writeGroup(*group));
+        groups.append(writeGroup(*group, menu.configuration));
     QJsonArray layout;
     const CabinetShape shape = menu.shape();
     for (int i = 0; i < menu.daypartCount; ++i)
-        layout.append(writeDaypart(menu.dayparts[static_cast<std::size_t>(i)], shape));
+        layout.append(writeDaypart(menu.dayparts[i], shape));
 
     const QJsonObject content{{"products"_L1, products}, {"productGroups"_L1, groups}, {"layout"_L1, layout}};
     const QJsonObject root{{"header"_L1, writeHeader(menu.configuration)}, {"menu"_L1, content}};
     return QJsonDocument(root).toJson(QJsonDocument::Indented);
-}
-
-QJsonObject namesToJson(const QStringList &names)
-{
-    QJsonObject json;
-    for (qsizetype i = 0; i < static_cast<qsizetype>(nameLanguages.size()); ++i)
-        json.insert(nameLanguages[static_cast<std::size_t>(i)], names.value(i));
-    return json;
-}
-
-QStringList namesFromJson(const QJsonObject &names)
-{
-    QStringList list;
-    list.reserve(static_cast<qsizetype>(nameLanguages.size()));
-    for (const QLatin1StringView language : nameLanguages) {
-        const QString name = names.value(language).toString();
-        // Most menus carry one text in every language: the list then shares it.
-        list.append(!list.isEmpty() && name == list.constFirst() ? list.constFirst() : name);
-    }
-    return list;
 }
 
 } // namespace holding

@@ -6,9 +6,7 @@
 #include <functional>
 
 #include <QByteArray>
-#include <QJsonObject>
 #include <QString>
-#include <QStringList>
 
 #include "holding/menu.h"
 
@@ -20,24 +18,19 @@ namespace holding {
 using AskConfiguration = std::function<bool(CabinetConfiguration &)>;
 
 /// Reads a menu document into `menu`, whose configuration keeps what the document does not say; products,
-/// groups and day parts replace the old ones. Returns an empty text, or the message of the first fault;
+/// groups and day parts replace the old ones. Returns an empty text, or the message of the first error;
 /// `menu` then holds what was read before it.
 ///
 /// Wrong types count as missing keys, numbers that are no whole 32-bit numbers as 0, elements that are no
-/// objects as empty ones. More day parts than a menu can hold are a fault, as dropping one would lose it at
+/// objects as empty ones. More day parts than a menu can hold are an error, as dropping one would lose it at
 /// the next save.
 [[nodiscard]] QString readMenu(const QByteArray &json, Menu &menu, const AskConfiguration &askConfiguration);
 
 /// Appends the products and groups of the built-in menu that suits `binsPerZone`. Configuration and day parts
-/// stay as they are. Returns an empty text or the message of a fault.
+/// stay as they are. Returns an empty text or the message of an error.
 [[nodiscard]] QString readDefaultMenu(int binsPerZone, Menu &menu);
 
 /// The document of a menu, indented by four spaces. What the configuration switches off is written as 0.
 [[nodiscard]] QByteArray writeMenu(const Menu &menu);
-
-/// One member a language. A list that is too short counts as filled up with empty names.
-[[nodiscard]] QJsonObject namesToJson(const QStringList &names);
-/// Always as many names as there are languages; a missing one is empty.
-[[nodiscard]] QStringList namesFromJson(const QJsonObject &names);
 
 } // namespace holding

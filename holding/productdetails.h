@@ -5,12 +5,17 @@
 
 #include <memory>
 
+#include <QList>
 #include <QWidget>
 
 #include "holding/cabinet.h"
 
 class ProductInfo;
+class QLabel;
 
+namespace holding {
+struct FieldDetail;
+}
 namespace Ui {
 class ProductDetails;
 }
@@ -29,10 +34,16 @@ public:
     void showEntry(const ProductInfo *entry, const holding::CabinetConfiguration &configuration);
 
 private:
+    struct Row
+    {
+        const holding::FieldDetail *detail;
+        QLabel *label;
+        QLabel *value;
+    };
+
     void reserveRoom();
-    void showRows(const holding::CabinetConfiguration &configuration);
-    void clear();
-    void showTimerColor(const QString &colorName);
+    void showTimerColor(const ProductInfo *entry);
 
     std::unique_ptr<Ui::ProductDetails> m_ui;
+    QList<Row> m_rows;
 };

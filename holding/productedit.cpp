@@ -5,12 +5,13 @@
 
 #include <algorithm>
 
-#include "holding/menu.h"
 #include "holding/menufile.h"
+#include "holding/productrules.h"
 #include "holding/producttypes.h"
 #include "holding/timercolorpicker.h"
 #include "holding/timercolorsample.h"
-#include "model/times.h"
+#include "holding/zonesplits.h"
+#include "model/timelimits.h"
 #include "ui_productedit.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
@@ -20,23 +21,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int minHoldSeconds = 6 * 60;
-constexpr int maxHoldSeconds = 8 * 60 * 60;
-constexpr int maxResetSeconds = 60 * 60 - 1;
-
-int secondsIn(const QTimeEdit *edit)
+std::unique_ptr<Ui::ProductEdit> makeForm(ProductEdit *dialog)
 {
-    return secondsOf(edit->time());
+    auto form = std::make_unique<Ui::ProductEdit>();
+    form->setupUi(dialog);
+    return form;
 }
 
-// A stored 0 means that no temperature is set. In Celsius the box then reaches down to 0, so that opening
-// and saving does not make up a temperature.
 void loadTemperature(QSpinBox *box, int fahrenheit, int unit)
 {
-    if (unit == unitCelsius)
-        box->setRange(fahrenheit == 0 ? 0 : 32, 107);
-    else
-        box->setRange(90, 225);
+    const TemperatureRange range = holding::productTemperatureRange(unit, fahrenheit);
+    box->setRange(range.lowest, range.highest);
     box->setValue(shownTemperature(fahrenheit, unit));
 }
 
@@ -44,38 +39,33 @@ void loadTemperature(QSpinBox *box, int fahrenheit, int unit)
 
 ProductEdit::ProductEdit(ProductInfo &product, int productIndex, MenuFile *menuFile)
     : RefusableDialog(menuFile)
-    , m_ui(std::make_unique<Ui::ProductEdit>())
+    , m_ui(makeForm(this))
     , m_product(product)
     , m_productIndex(productIndex)
-    , m_menuFile(menuFile)
+    , m_configuration(menuFile->configuration())
+    , m_products(menuFile->getMenuProducts())
+    , m_holdTime(m_ui->timeHoldTime)
+    , m_warningTime(m_ui->timeWarningTime)
+    , m_resetTime(m_ui->timeResetTime)
 {
-    m_ui->setupUi(this);
     m_ui->btnTimerColor->setAttribute(Qt::WA_StyledBackground); // else a flat button does not paint it
     letEnterPressFocusedButton(this);
     fixDesignedSize(this);
     setWindowTitle(tr("Product Edit"));
-    fillChoices();
+    fillChoices(menuFile->getBinsPerZone());
     applyConfiguration();
-    m_ui->numProductId->setValue(product.get_productId());
-    m_ui->txtName->setText(shownName(product.get_productName()));
-    m_ui->txtName->setFocus();
-    loadTemperatures();
-    m_ui->timeHoldTime->setTime(timeOfSeconds(product.get_holdTime()));
-    m_ui->timeWarningTime->setTime(timeOfSeconds(product.get_warningTime()));
-    m_ui->timeResetTime->setTime(timeOfSeconds(product.get_resetTime()));
-    m_ui->numFanSpeed->setValue(product.get_fanSpeed());
-    m_ui->comboZoneSplits->setCurrentText(product.get_zoneSplits());
+    loadRecord();
     loadTypes();
     loadTimerColor();
 }
 
 ProductEdit::~ProductEdit() = default;
 
-void ProductEdit::fillChoices()
+void ProductEdit::fillChoices(int binsPerZone)
 {
     m_ui->comboLidType->addItems(holding::lidTexts());
     m_ui->comboBottomType->addItems(holding::bottomTexts());
-    const QStringList zoneSplits = holding::offeredZoneSplits(m_menuFile->getBinsPerZone());
+    const QStringList zoneSplits = holding::offeredZoneSplits(binsPerZone);
     m_ui->comboZoneSplits->addItems(zoneSplits);
     if (zoneSplits.isEmpty())
         refuse(tr("Invalid bins per zone value!"));
@@ -83,29 +73,35 @@ void ProductEdit::fillChoices()
 
 void ProductEdit::applyConfiguration()
 {
-    const QString suffix = u"(%1)"_s.arg(unitText(m_menuFile->getTemperatureUnit()));
-    const QString type = m_menuFile->getCabinetType();
-    if (holding::isZpv(type)) {
+    const QString suffix = u"(%1)"_s.arg(unitText(m_configuration.temperatureUnit));
+    if (holding::isZpv(m_configuration.type)) {
         m_ui->lblTemp1->setText(tr("Temperature ") + suffix);
         m_ui->frameTemp2->hide();
         m_ui->frameLidType->hide();
-    } else if (holding::isQhx(type)) {
+    } else if (holding::isQhx(m_configuration.type)) {
         m_ui->lblTemp1->setText(tr("Upper Temperature ") + suffix);
         m_ui->lblTemp2->setText(tr("Lower Temperature ") + suffix);
     } else {
         refuse(tr("Unkown cabinet type!"));
     }
-    m_ui->frameProductId->setVisible(m_menuFile->getProductIdEnabled());
-    m_ui->frameFanSpeed->setVisible(m_menuFile->getFanSpeedEnabled());
-    m_ui->frameResetTime->setVisible(m_menuFile->getResetTimeEnabled());
-    m_ui->frameTimerColor->setVisible(m_menuFile->getTimerColorEnabled());
+    m_ui->frameProductId->setVisible(m_configuration.productIdEnabled);
+    m_ui->frameFanSpeed->setVisible(m_configuration.fanSpeedEnabled);
+    m_ui->frameResetTime->setVisible(m_configuration.resetTimeEnabled);
+    m_ui->frameTimerColor->setVisible(m_configuration.timerColorEnabled);
 }
 
-void ProductEdit::loadTemperatures()
+void ProductEdit::loadRecord()
 {
-    const int unit = m_menuFile->getTemperatureUnit();
-    loadTemperature(m_ui->numTemp1, m_product.get_upperTemp(), unit);
-    loadTemperature(m_ui->numTemp2, m_product.get_lowerTemp(), unit);
+    m_ui->numProductId->setValue(m_product.get_productId());
+    m_ui->txtName->setText(shownName(m_product.get_productName()));
+    m_ui->txtName->setFocus();
+    loadTemperature(m_ui->numTemp1, m_product.get_upperTemp(), m_configuration.temperatureUnit);
+    loadTemperature(m_ui->numTemp2, m_product.get_lowerTemp(), m_configuration.temperatureUnit);
+    m_holdTime.show(m_product.get_holdTime());
+    m_warningTime.show(m_product.get_warningTime());
+    m_resetTime.show(m_product.get_resetTime());
+    m_ui->numFanSpeed->setValue(m_product.get_fanSpeed());
+    m_ui->comboZoneSplits->setCurrentText(m_product.get_zoneSplits());
 }
 
 void ProductEdit::loadTypes()
@@ -116,7 +112,7 @@ void ProductEdit::loadTypes()
 
 void ProductEdit::loadTimerColor()
 {
-    if (!m_menuFile->getTimerColorEnabled())
+    if (!m_configuration.timerColorEnabled)
         return;
     const holding::TimerColor &entry = holding::timerColorByName(m_product.get_timerColor());
     m_timerColorName = entry.colorName;
@@ -169,51 +165,34 @@ int ProductEdit::enteredId() const
     return showsOwnId ? ownId : box->value();
 }
 
-bool ProductEdit::isIdTaken() const
-{
-    const int id = enteredId();
-    const QList<ProductInfo *> products = m_menuFile->getMenuProducts();
-    for (qsizetype i = 0; i < products.size(); ++i) {
-        if (i != m_productIndex && products[i]->get_productId() == id)
-            return true;
-    }
-    return false;
-}
-
 QString ProductEdit::firstFault() const
 {
-    const int holdSeconds = secondsIn(m_ui->timeHoldTime);
-    if (m_menuFile->getProductIdEnabled() && isIdTaken())
+    if (m_configuration.productIdEnabled && holding::isIdTaken(m_products, m_productIndex, enteredId()))
         return tr("Product Id is duplicated!");
     if (m_ui->txtName->text().isEmpty())
         return tr("Product name is empty!");
-    if (holdSeconds < minHoldSeconds)
-        return tr("Invalid hold time. Minimum value is 6 minutes!");
-    if (holdSeconds > maxHoldSeconds)
-        return tr("Invalid hold time. Maximum value is 8 hours!");
-    if (holdSeconds <= secondsIn(m_ui->timeWarningTime))
-        return tr("Invalid cook more alert time. Value must be less than hold time!");
-    if (m_menuFile->getResetTimeEnabled() && secondsIn(m_ui->timeResetTime) > maxResetSeconds)
-        return tr("Invalid reset time!");
-    return {};
+    QString fault = holdTimeFault(m_holdTime.seconds(), m_warningTime.seconds());
+    if (fault.isEmpty() && m_configuration.resetTimeEnabled)
+        fault = resetTimeFault(m_resetTime.seconds());
+    return fault;
 }
 
 void ProductEdit::writeRecord()
 {
-    const int unit = m_menuFile->getTemperatureUnit();
+    const int unit = m_configuration.temperatureUnit;
     const int upperTemp = enteredTemperature(m_ui->numTemp1->value(), m_product.get_upperTemp(), unit);
     const int lowerTemp = enteredTemperature(m_ui->numTemp2->value(), m_product.get_lowerTemp(), unit);
     const bool oneTemperature = m_ui->frameTemp2->isHidden();
     m_product.set_productName(sameNameInAllLanguages(m_ui->txtName->text()));
     m_product.set_upperTemp(upperTemp);
     m_product.set_lowerTemp(oneTemperature ? upperTemp : lowerTemp);
-    m_product.set_holdTime(secondsIn(m_ui->timeHoldTime));
-    m_product.set_warningTime(secondsIn(m_ui->timeWarningTime));
-    m_product.set_resetTime(m_menuFile->getResetTimeEnabled() ? secondsIn(m_ui->timeResetTime) : 0);
-    m_product.set_fanSpeed(m_menuFile->getFanSpeedEnabled() ? m_ui->numFanSpeed->value() : 0);
+    m_product.set_holdTime(m_holdTime.seconds());
+    m_product.set_warningTime(m_warningTime.seconds());
+    m_product.set_resetTime(m_configuration.resetTimeEnabled ? m_resetTime.seconds() : 0);
+    m_product.set_fanSpeed(m_configuration.fanSpeedEnabled ? m_ui->numFanSpeed->value() : 0);
     m_product.set_zoneSplits(m_ui->comboZoneSplits->currentText());
     m_product.set_lidType(holding::lidTypes().value(m_ui->comboLidType->currentIndex()));
     m_product.set_bottomType(holding::bottomTypes().value(m_ui->comboBottomType->currentIndex()));
-    m_product.set_timerColor(m_menuFile->getTimerColorEnabled() ? m_timerColorName
-                                                                : holding::timerPalette().front().colorName);
+    m_product.set_timerColor(m_configuration.timerColorEnabled ? m_timerColorName
+                                                               : holding::timerPalette().front().colorName);
 }

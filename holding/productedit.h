@@ -5,12 +5,15 @@
 
 #include <memory>
 
+#include <QList>
+
+#include "holding/cabinet.h"
 #include "holding/timercolors.h"
 #include "widgets/refusabledialog.h"
+#include "widgets/timeentry.h"
 
 class MenuFile;
 class ProductInfo;
-class QSpinBox;
 
 namespace Ui {
 class ProductEdit;
@@ -34,20 +37,23 @@ public slots:
     void on_btnSave_clicked();
 
 private:
-    void fillChoices();
+    void fillChoices(int binsPerZone);
     void applyConfiguration();
-    void loadTemperatures();
+    void loadRecord();
     void loadTypes();
     void loadTimerColor();
     void showTimerColor(const holding::TimerColor &entry);
     [[nodiscard]] int enteredId() const;
-    [[nodiscard]] bool isIdTaken() const;
     [[nodiscard]] QString firstFault() const;
     void writeRecord();
 
     std::unique_ptr<Ui::ProductEdit> m_ui;
     ProductInfo &m_product;
-    int m_productIndex;
-    MenuFile *m_menuFile;
+    const int m_productIndex;
+    const holding::CabinetConfiguration m_configuration;
+    const QList<ProductInfo *> m_products; ///< the menu's
+    TimeEntry m_holdTime;
+    TimeEntry m_warningTime;
+    TimeEntry m_resetTime;
     QString m_timerColorName;
 };

@@ -3,6 +3,8 @@
 
 #include "holding/qhximport.h"
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 
 #include <QCoreApplication>
@@ -205,21 +207,17 @@ QString readDayparts(const QByteArray &bytes, qint64 offset, Menu &menu)
             return Text::tr("Invalid daypart size!");
         if (!record->isIntact())
             return Text::tr("Invalid daypart CRC!");
-        Daypart &daypart = menu.dayparts[static_cast<std::size_t>(i)];
+        Daypart &daypart = menu.dayparts[i];
         daypart.inUse = true;
-        for (int bin = 0; bin < bins; ++bin) {
-            const BinPlace place = placeOfFileBin(shape, bin);
-            daypart.bins[static_cast<std::size_t>(place.row)][static_cast<std::size_t>(place.slot)] =
-                record->i32(2 + 4 * bin);
-        }
+        for (int bin = 0; bin < bins; ++bin)
+            daypart.bins[placeOfFileBin(shape, bin)] = record->i32(2 + 4 * bin);
     }
-    menu.daypartCount = importedDayparts;
     return {};
 }
 
 } // namespace
 
-BinPlace placeOfFileBin(const CabinetShape &shape, int fileBin)
+Bin placeOfFileBin(const CabinetShape &shape, int fileBin)
 {
     const int binsPerRow = shape.binsPerRow();
     return {shape.rows - 1 - fileBin / binsPerRow, fileBin % binsPerRow};
@@ -242,6 +240,17 @@ QString importQhxMenu(const QByteArray &bytes, Menu &menu)
     if (QString fault = readEntries(bytes, header->u32(10), count, menu); !fault.isEmpty())
         return fault;
     return readDayparts(bytes, header->u32(14), menu);
+}
+
+void addImportedMenu(Menu &&imported, Menu &menu)
+{
+    menu.configuration.type = imported.configuration.type;
+    menu.configuration.model = imported.configuration.model;
+    menu.configuration.temperatureUnit = imported.configuration.temperatureUnit;
+    std::move(imported.products.begin(), imported.products.end(), std::back_inserter(menu.products));
+    std::move(imported.groups.begin(), imported.groups.end(), std::back_inserter(menu.groups));
+    menu.dayparts = imported.dayparts;
+    menu.daypartCount = imported.daypartCount;
 }
 
 } // namespace holding

@@ -11,18 +11,15 @@
 namespace holding {
 
 /// Where the old binary menus keep a bin: the bottom row comes first.
-struct BinPlace
-{
-    int row = 0; ///< from the top
-    int slot = 0;
-
-    friend bool operator==(const BinPlace &, const BinPlace &) = default;
-};
-[[nodiscard]] BinPlace placeOfFileBin(const CabinetShape &shape, int fileBin);
+[[nodiscard]] Bin placeOfFileBin(const CabinetShape &shape, int fileBin);
 
 /// Fills a new menu from an old binary one: configuration, products, groups and two day parts. The old form
-/// says nothing of the four switches; they stay off. Returns an empty text or the message of the first
-/// fault; `menu` then holds what was read before it.
+/// says nothing of the four switches; they stay off. Returns an empty text or the message of the first error;
+/// `menu` then holds what was read before it.
 [[nodiscard]] QString importQhxMenu(const QByteArray &bytes, Menu &menu);
+
+/// Makes an imported menu part of another one: its entries come behind those that are there, its cabinet and
+/// its day parts replace the others. The four switches of `menu` stay.
+void addImportedMenu(Menu &&imported, Menu &menu);
 
 } // namespace holding

@@ -5,6 +5,7 @@
 
 #include <QPushButton>
 
+#include "holding/timercolorsample.h"
 #include "ui_timercolorpicker.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"

@@ -52,21 +52,6 @@ TimerPalette makePalette()
     return palette;
 }
 
-int red(int color)
-{
-    return (color >> 16) & 0xff;
-}
-
-int green(int color)
-{
-    return (color >> 8) & 0xff;
-}
-
-int blue(int color)
-{
-    return color & 0xff;
-}
-
 } // namespace
 
 bool TimerColor::isNone() const
@@ -86,20 +71,6 @@ const TimerColor &timerColorByName(const QString &colorName)
     const auto *found = std::find_if(palette.begin(), palette.end(),
                                      [&](const TimerColor &entry) { return entry.colorName == colorName; });
     return found == palette.end() ? palette.front() : *found;
-}
-
-QString sampleStyle(const TimerColor &entry)
-{
-    return backgroundStyle(entry) + u" color: rgb(%1, %2, %3);"_s.arg(red(entry.textColor))
-                                        .arg(green(entry.textColor))
-                                        .arg(blue(entry.textColor));
-}
-
-QString backgroundStyle(const TimerColor &entry)
-{
-    return u"background-color: rgb(%1,%2,%3);"_s.arg(red(entry.color))
-        .arg(green(entry.color))
-        .arg(blue(entry.color));
 }
 
 } // namespace holding

@@ -33,9 +33,4 @@ using TimerPalette = std::array<TimerColor, paletteRows * paletteColumns>;
 /// The entry with exactly this name, else the no-colour entry.
 [[nodiscard]] const TimerColor &timerColorByName(const QString &colorName);
 
-/// "background-color: rgb(r,g,b); color: rgb(r, g, b);" of the colour and its text.
-[[nodiscard]] QString sampleStyle(const TimerColor &entry);
-/// "background-color: rgb(r,g,b);" of the colour alone.
-[[nodiscard]] QString backgroundStyle(const TimerColor &entry);
-
 } // namespace holding

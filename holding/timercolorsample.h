@@ -18,4 +18,7 @@ struct TimerColorSample
 
 [[nodiscard]] TimerColorSample timerColorSample(const TimerColor &entry);
 
+/// The style sheet "background-color: rgb(r,g,b);" of a colour.
+[[nodiscard]] QString backgroundStyle(const TimerColor &entry);
+
 } // namespace holding

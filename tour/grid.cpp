@@ -36,7 +36,7 @@ holding::Menu filledMenu(const QString &type, const QString &model)
     for (int row = 0; row < shape.rows; ++row) {
         const QString split = splits.value(row % static_cast<int>(splits.size()));
         for (int slot = 0; slot < shape.binsPerRow(); ++slot) {
-            const bool first = slot == holding::zoneOfSlot(shape, slot).first;
+            const bool first = slot == shape.zoneOfSlot(slot).first;
             if (!first && (split == "1/1"_L1 || (row + slot) % 3 == 0))
                 continue;
             ProductInfo &product = *menu.products[next++];

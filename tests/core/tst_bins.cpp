@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "holding/bins.h"
+#include "holding/newentries.h"
 #include "tests/support/binrows.h"
 #include "tests/support/warnings.h"
 
@@ -32,7 +33,6 @@ private slots:
     void allowedZoneSplitsByTable();
     void fitsBin();
     void fitsBinComparesSplitsExactly();
-    void showableRowCounts();
 };
 
 void TestBins::rowContent()
@@ -62,7 +62,7 @@ void TestBins::zones()
     for (int slot = 0; slot < layout.size(); ++slot) {
         const QChar zone = layout[slot];
         const Zone expected{int(layout.indexOf(zone)), int(layout.count(zone))};
-        QVERIFY2(zoneOfSlot(shape, slot) == expected, qPrintable(QString::number(slot)));
+        QVERIFY2(shape.zoneOfSlot(slot) == expected, qPrintable(QString::number(slot)));
     }
 }
 
@@ -85,7 +85,7 @@ void TestBins::zoneLimits()
             const int factor = int(first) + 1;
             const BinLimits limits =
                 first < 0 ? BinLimits{} : BinLimits{200 + factor, 100 + factor, 10 * factor};
-            const Zone zone = zoneOfSlot(shape, slot);
+            const Zone zone = shape.zoneOfSlot(slot);
             QVERIFY2(holding::zoneLimits(row, zone, slot, true) == limits, qPrintable(fill));
             const BinLimits withoutFan{limits.upperTemp, limits.lowerTemp, 0};
             QVERIFY2(holding::zoneLimits(row, zone, slot, false) == withoutFan, qPrintable(fill));
@@ -100,7 +100,7 @@ void TestBins::freeRun()
     const binrows::Entries entries;
     binrows::forEachRow([&](const QString &fill) {
         for (int slot = 0; slot < layout.size(); ++slot)
-            QCOMPARE(holding::freeRun(entries.row(fill), zoneOfSlot(shape, slot), slot),
+            QCOMPARE(holding::freeRun(entries.row(fill), shape.zoneOfSlot(slot), slot),
                      binrows::freeRun(fill, layout, slot));
     });
 }
@@ -201,13 +201,6 @@ void TestBins::fitsBinComparesSplitsExactly()
     entry.set_zoneSplits(u"half"_s);
     QVERIFY(holding::fitsBin(entry, {}, {u"half"_s}, false));
     QVERIFY(!holding::fitsBin(entry, {}, {u"Half"_s, u"half "_s, u"hal"_s}, false));
-}
-
-void TestBins::showableRowCounts()
-{
-    const QSet<int> showable{2, 3, 4, 5, 6, 8};
-    for (int rows = 0; rows <= 255; ++rows)
-        QCOMPARE(isShowableRowCount(rows), showable.contains(rows));
 }
 
 QTEST_APPLESS_MAIN(TestBins)

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QSet>
 #include <QTest>
 
 #include "holding/cabinet.h"
-#include "holding/menu.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -21,6 +21,7 @@ private slots:
     void unknownCabinets_data();
     void unknownCabinets();
     void offeredInOrder();
+    void showableRowCounts();
     void types_data();
     void types();
     void newConfiguration();
@@ -108,6 +109,13 @@ void TestCabinet::offeredInOrder()
     QCOMPARE(cabinetModels(u"ZPV"_s), (QStringList{u"ZPV43"_s, u"ZPV23"_s}));
     QCOMPARE(cabinetModels(u"zpv"_s), QStringList());
     QCOMPARE(cabinetModels(QString()), QStringList());
+}
+
+void TestCabinet::showableRowCounts()
+{
+    const QSet<int> showable{2, 3, 4, 5, 6, 8};
+    for (int rows = 0; rows <= 255; ++rows)
+        QCOMPARE(isShowableRowCount(rows), showable.contains(rows));
 }
 
 void TestCabinet::types_data()

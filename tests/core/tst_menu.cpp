@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "holding/menu.h"
+#include "holding/newentries.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -76,7 +77,7 @@ void TestMenu::newMenu()
     QCOMPARE(int(menu.dayparts.size()), 10);
     QCOMPARE(menu.dayparts[0].names, QStringList(15, u"BREAKFAST"_s));
     QCOMPARE(menu.dayparts[1].names, QStringList(15, u"LUNCH/DINNER"_s));
-    for (std::size_t i = 0; i < menu.dayparts.size(); ++i) {
+    for (int i = 0; i < menu.dayparts.size(); ++i) {
         QCOMPARE(menu.dayparts[i].inUse, i < 2);
         QVERIFY(menu.dayparts[i].bins == Daypart().bins);
         if (i >= 2)
@@ -94,7 +95,7 @@ void TestMenu::newDaypart()
     QCOMPARE(daypart.inUse, false);
     QCOMPARE(int(daypart.bins.size()), 8);
     for (const auto &row : daypart.bins)
-        QVERIFY(row == (std::array<int, 4>{0, 0, 0, 0}));
+        QVERIFY(row == (FixedList<int, 4>{0, 0, 0, 0}));
 }
 
 void TestMenu::nextFreeId_data()
@@ -213,8 +214,8 @@ void TestMenu::removeFromDayparts()
     menu.dayparts[1].bins[2] = {6, 6, 6, 5};
     QVERIFY(!menu.removeFromDayparts(7));
     QVERIFY(menu.removeFromDayparts(5));
-    QVERIFY(menu.dayparts[0].bins[0] == (std::array<int, 4>{0, 6, 0, 0}));
-    QVERIFY(menu.dayparts[1].bins[2] == (std::array<int, 4>{6, 6, 6, 0}));
+    QVERIFY(menu.dayparts[0].bins[0] == (FixedList<int, 4>{0, 6, 0, 0}));
+    QVERIFY(menu.dayparts[1].bins[2] == (FixedList<int, 4>{6, 6, 6, 0}));
     QVERIFY(!menu.removeFromDayparts(5));
 }
 
@@ -233,7 +234,7 @@ void TestMenu::nothingIsRemovedForNoEntry()
     Menu menu;
     menu.dayparts[0].bins[0] = {5, 0, 5, 0};
     QVERIFY(!menu.removeFromDayparts(emptyBin));
-    QVERIFY(menu.dayparts[0].bins[0] == (std::array<int, 4>{5, 0, 5, 0}));
+    QVERIFY(menu.dayparts[0].bins[0] == (FixedList<int, 4>{5, 0, 5, 0}));
 }
 
 void TestMenu::clearBins()
@@ -241,7 +242,7 @@ void TestMenu::clearBins()
     Menu menu;
     for (Daypart &daypart : menu.dayparts) {
         for (auto &row : daypart.bins)
-            row.fill(3);
+            row = {3, 3, 3, 3};
     }
     menu.dayparts[9].names = QStringList(15, u"NIGHT"_s);
     menu.dayparts[9].inUse = true;

@@ -35,7 +35,7 @@ Daypart marked(int mark)
     daypart.names = sameNameInAllLanguages(u"Part %1"_s.arg(mark));
     daypart.inUse = mark % 2 != 0;
     for (auto &row : daypart.bins)
-        row.fill(mark);
+        row = {mark, mark, mark, mark};
     daypart.bins[7][3] = -mark;
     return daypart;
 }

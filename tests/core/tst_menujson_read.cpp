@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "holding/menujson.h"
+#include "holding/settings.h"
 #include "tests/support/menudocument.h"
 #include "tests/support/warnings.h"
 

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "holding/menujson.h"
+#include "holding/menunames.h"
 #include "tests/support/samplemenu.h"
 #include "tests/support/warnings.h"
 

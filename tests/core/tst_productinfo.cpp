@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "model/productinfo.h"
+#include "tests/support/recordfields.h"
 #include "tests/support/slotlist.h"
 #include "tests/support/warnings.h"
 
@@ -89,6 +90,7 @@ private slots:
     void equalTextKeepsStoredData_data();
     void equalTextKeepsStoredData();
     void listsAreAlwaysAssigned();
+    void copiesEveryField();
     void validatesNothing();
     void metaTypeMakesRecords();
     void takesParent();
@@ -190,6 +192,22 @@ void TestProductInfo::listsAreAlwaysAssigned()
     const QList<int> members{1, 2};
     record.set_productList(members);
     QCOMPARE(record.get_productList().constData(), members.constData());
+}
+
+void TestProductInfo::copiesEveryField()
+{
+    const ProductInfo fresh;
+    ProductInfo source;
+    recordfields::fill(source);
+    const recordfields::Values values = recordfields::valuesOf(source);
+    QCOMPARE(values.size(), fields().size());
+    const recordfields::Values before = recordfields::valuesOf(fresh);
+    for (auto field = values.begin(); field != values.end(); ++field)
+        QVERIFY2(field.value() != before.value(field.key()), qPrintable(field.key()));
+
+    ProductInfo copy;
+    copyFields(source, copy);
+    QCOMPARE(recordfields::valuesOf(copy), values);
 }
 
 void TestProductInfo::validatesNothing()

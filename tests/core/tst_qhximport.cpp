@@ -319,21 +319,21 @@ void TestQhxImport::dayparts()
     QCOMPARE(menu.daypartCount, 2);
     QCOMPARE(menu.dayparts[0].names, QStringList(15, u"BREAKFAST"_s));
     QCOMPARE(menu.dayparts[1].names, QStringList(15, u"LUNCH/DINNER"_s));
-    for (std::size_t i = 0; i < menu.dayparts.size(); ++i) {
+    for (int i = 0; i < menu.dayparts.size(); ++i) {
         QCOMPARE(menu.dayparts[i].inUse, i < 2);
         QCOMPARE(menu.dayparts[i].bins == Daypart().bins, i >= 2);
     }
-    QCOMPARE(menu.dayparts[0].bins[4], (std::array<int, 4>{12, 0, 0, 12}));
-    QCOMPARE(menu.dayparts[1].bins[0], (std::array<int, 4>{7, 300, 7, 300}));
+    QCOMPARE(menu.dayparts[0].bins[4], (FixedList<int, 4>{12, 0, 0, 12}));
+    QCOMPARE(menu.dayparts[1].bins[0], (FixedList<int, 4>{7, 300, 7, 300}));
 }
 
 void TestQhxImport::placeOfFileBin()
 {
     const CabinetShape shape = cabinetShape(u"ZPV"_s, u"ZPV43"_s); // 4 rows of 3 bins
-    QVERIFY(holding::placeOfFileBin(shape, 0) == (BinPlace{3, 0}));
-    QVERIFY(holding::placeOfFileBin(shape, 2) == (BinPlace{3, 2}));
-    QVERIFY(holding::placeOfFileBin(shape, 3) == (BinPlace{2, 0}));
-    QVERIFY(holding::placeOfFileBin(shape, 11) == (BinPlace{0, 2}));
+    QVERIFY(holding::placeOfFileBin(shape, 0) == (Bin{3, 0}));
+    QVERIFY(holding::placeOfFileBin(shape, 2) == (Bin{3, 2}));
+    QVERIFY(holding::placeOfFileBin(shape, 3) == (Bin{2, 0}));
+    QVERIFY(holding::placeOfFileBin(shape, 11) == (Bin{0, 2}));
 }
 
 void TestQhxImport::binOrder_data()
@@ -365,13 +365,13 @@ void TestQhxImport::binOrder()
     Menu menu;
     import(file, menu);
     for (int daypart = 0; daypart < 2; ++daypart) {
-        std::array<std::array<int, 4>, 8> expected{};
+        BinTable<int, 8, 4> expected;
         int next = 100 + 100 * daypart;
         for (int row = rows; row-- > 0;) {
             for (int bin = 0; bin < binsInRow; ++bin)
-                expected[std::size_t(row)][std::size_t(bin)] = next++;
+                expected[Bin{row, bin}] = next++;
         }
-        QVERIFY(menu.dayparts[std::size_t(daypart)].bins == expected);
+        QVERIFY(menu.dayparts[daypart].bins == expected);
     }
 }
 
@@ -382,7 +382,7 @@ void TestQhxImport::binsThatNoEntryHas()
     file.dayparts[0] = {4, 99};
     Menu menu;
     import(file, menu);
-    QCOMPARE(menu.dayparts[0].bins[1], (std::array<int, 4>{4, 99, 0, 0}));
+    QCOMPARE(menu.dayparts[0].bins[1], (FixedList<int, 4>{4, 99, 0, 0}));
 }
 
 QTEST_APPLESS_MAIN(TestQhxImport)

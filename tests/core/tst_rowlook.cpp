@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include "holding/rowlook.h"
 #include "tests/support/binrows.h"
 #include "tests/support/warnings.h"
 
@@ -122,7 +123,7 @@ void TestRowLook::everyRow()
         }
         expected = expected.leftJustified(maxSlots, u'-');
         for (int slot = 0; slot < maxSlots; ++slot) {
-            const BinLook &look = looks[std::size_t(slot)];
+            const BinLook &look = looks[slot];
             QVERIFY2(look.visible == (expected[slot] != u'-'), qPrintable(fill));
             if (look.visible)
                 QVERIFY2(look.minimumWidth == widthOf(shape, expected[slot], fill[slot]), qPrintable(fill));
@@ -172,11 +173,11 @@ void TestRowLook::byTable()
 
 namespace {
 
-int totalWidth(const std::array<BinLook, maxSlots> &looks, const Zone &zone, int gap)
+int totalWidth(const RowLook &looks, const Zone &zone, int gap)
 {
     int width = -gap;
     for (int slot = zone.first; slot < zone.first + zone.count; ++slot) {
-        const BinLook &look = looks[std::size_t(slot)];
+        const BinLook &look = looks[slot];
         width += look.visible ? look.minimumWidth + gap : 0;
     }
     return width;
@@ -196,13 +197,14 @@ void TestRowLook::everyRowFitsItsZones()
         for (const QChar name : {u'a', u'b'}) {
             if (!layout.contains(name))
                 continue;
-            const Zone zone = zoneOfSlot(shape, int(layout.indexOf(name)));
+            const Zone zone = shape.zoneOfSlot(int(layout.indexOf(name)));
             const int width = zone.count == 1 ? 177 : shape.zones == 2 ? 340 : 394;
+            QCOMPARE(zoneWidth(shape, name == u'a' ? 0 : 1), width);
             fitIntoZone(looks, zone, width, gap);
             QVERIFY2(totalWidth(looks, zone, gap) == std::min(width, totalWidth(before, zone, gap)),
                      qPrintable(fill));
         }
-        for (std::size_t slot = 0; slot < looks.size(); ++slot) {
+        for (int slot = 0; slot < looks.size(); ++slot) {
             QCOMPARE(looks[slot].visible, before[slot].visible);
             QVERIFY(looks[slot].minimumWidth >= 112);
         }
@@ -218,7 +220,7 @@ void TestRowLook::whatFitsStaysAsItIs()
         for (const QString &fill : fills) {
             auto looks = rowLook(shape, entries.row(fill));
             const auto before = looks;
-            fitIntoZone(looks, zoneOfSlot(shape, 0), 394, 2);
+            fitIntoZone(looks, shape.zoneOfSlot(0), 394, 2);
             QVERIFY2(looks == before, qPrintable(fill));
         }
     };

@@ -121,8 +121,6 @@ private slots:
     void onlyFirstIsNone();
     void unknownNames_data();
     void unknownNames();
-    void styles_data();
-    void styles();
 };
 
 void TestTimerColors::palette_data()
@@ -173,31 +171,6 @@ void TestTimerColors::unknownNames()
 {
     QFETCH(QString, name);
     QCOMPARE(&timerColorByName(name), &timerPalette().front());
-}
-
-void TestTimerColors::styles_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("sample");
-    QTest::addColumn<QString>("background");
-    QTest::newRow("three different parts, grey text")
-        << u"#380070"_s << u"background-color: rgb(56,0,112); color: rgb(160, 160, 160);"_s
-        << u"background-color: rgb(56,0,112);"_s;
-    QTest::newRow("three different parts, black text")
-        << u"#ff9830"_s << u"background-color: rgb(255,152,48); color: rgb(0, 0, 0);"_s
-        << u"background-color: rgb(255,152,48);"_s;
-    QTest::newRow("white") << u"#ffffff"_s << u"background-color: rgb(255,255,255); color: rgb(0, 0, 0);"_s
-                           << u"background-color: rgb(255,255,255);"_s;
-    QTest::newRow("black") << u"#000000"_s << u"background-color: rgb(0,0,0); color: rgb(160, 160, 160);"_s
-                           << u"background-color: rgb(0,0,0);"_s;
-}
-
-void TestTimerColors::styles()
-{
-    QFETCH(QString, name);
-    const TimerColor &entry = timerColorByName(name);
-    QTEST(sampleStyle(entry), "sample");
-    QTEST(backgroundStyle(entry), "background");
 }
 
 QTEST_APPLESS_MAIN(TestTimerColors)

@@ -55,7 +55,7 @@ private:
 void TestPseudoTranslation::initTestCase()
 {
     const holding::Menu menu = windowmenu::menu();
-    for (const holding::Entries *entries : {&menu.products, &menu.groups}) {
+    for (const Entries *entries : {&menu.products, &menu.groups}) {
         for (const auto &entry : *entries)
             m_names.append(shownName(entry->get_productName()));
     }

@@ -99,7 +99,7 @@ Entries::Entries()
             entry->set_lowerTemp(101 + slot);
             entry->set_fanSpeed(10 + 10 * slot);
             entry->set_zoneSplits(splitsOf(entryFills[i]));
-            m_entries[std::size_t(slot)][std::size_t(i)] = std::move(entry);
+            m_entries[slot][i] = std::move(entry);
         }
     }
 }
@@ -107,10 +107,10 @@ Entries::Entries()
 RowContent Entries::row(const QString &fill) const
 {
     RowContent row;
-    for (std::size_t slot = 0; slot < row.size(); ++slot) {
-        const QChar content = fill[qsizetype(slot)];
+    for (int slot = 0; slot < row.size(); ++slot) {
+        const QChar content = fill[slot];
         const qsizetype entry = entryFills.indexOf(content);
-        row[slot] = {content != u'.', entry < 0 ? nullptr : m_entries[slot][std::size_t(entry)].get()};
+        row[slot] = {content != u'.', entry < 0 ? nullptr : m_entries[slot][entry].get()};
     }
     return row;
 }

@@ -43,7 +43,7 @@ public:
     [[nodiscard]] holding::RowContent row(const QString &fill) const;
 
 private:
-    std::array<std::array<std::unique_ptr<ProductInfo>, 4>, holding::maxSlots> m_entries;
+    FixedList<FixedList<std::unique_ptr<ProductInfo>, 4>, holding::maxSlots> m_entries;
 };
 
 } // namespace binrows

@@ -99,7 +99,7 @@ void fillRichDayparts(Menu &menu)
 {
     constexpr std::array<int, 6> ids{0, 12, 3, 13, -5, 99};
     menu.daypartCount = maxDayparts;
-    for (std::size_t i = 0; i < menu.dayparts.size(); ++i) {
+    for (std::size_t i = 0; i < maxDayparts; ++i) {
         Daypart &daypart = menu.dayparts[i];
         daypart.names = QStringList(15, u"Part %1"_s.arg(i + 1));
         daypart.inUse = i % 3 != 1;

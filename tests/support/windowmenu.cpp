@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "holding/menujson.h"
+#include "holding/newentries.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,7 +49,7 @@ holding::Menu menu(const holding::CabinetConfiguration &configuration)
     group->set_fanSpeed(configuration.fanSpeedEnabled ? first.get_fanSpeed() : 0);
     group->set_productList({first.get_productId(), menu.products[1]->get_productId()});
     menu.dayparts[0].bins[0] = {first.get_productId(), group->get_productId(),
-                                menu.products[2]->get_productId()};
+                                menu.products[2]->get_productId(), holding::emptyBin};
     menu.groups.push_back(std::move(group));
     return menu;
 }

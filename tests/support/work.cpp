@@ -20,6 +20,7 @@
 #include "holding/groupedit.h"
 #include "holding/menufile.h"
 #include "holding/menujson.h"
+#include "holding/newentries.h"
 #include "holding/productedit.h"
 #include "holding/timercolorpicker.h"
 #include "tests/support/windowmenu.h"

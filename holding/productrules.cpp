@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "holding/productrules.h"
+
+namespace holding {
+
+TemperatureRange productTemperatureRange(int unit, int storedFahrenheit)
+{
+    if (unit == unitCelsius)
+        return {storedFahrenheit == 0 ? 0 : 32, 107};
+    return {90, 225};
+}
+
+bool isIdTaken(const QList<ProductInfo *> &products, int ownIndex, int id)
+{
+    for (qsizetype i = 0; i < products.size(); ++i) {
+        if (i != ownIndex && products[i]->get_productId() == id)
+            return true;
+    }
+    return false;
+}
+
+} // namespace holding

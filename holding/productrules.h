@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QList>
+
+#include "model/productinfo.h"
+#include "model/temperature.h"
+
+/// What a product may be given in its dialog.
+namespace holding {
+
+/// The temperatures that can be entered, in the menu's unit. A stored 0 means that no temperature is set: in
+/// Celsius the range then begins at 0, so that opening and saving does not make up a temperature.
+[[nodiscard]] TemperatureRange productTemperatureRange(int unit, int storedFahrenheit);
+
+/// Whether another product has this id. `ownIndex` is the product's place among the menu's products; for a
+/// new one any place that no product has.
+[[nodiscard]] bool isIdTaken(const QList<ProductInfo *> &products, int ownIndex, int id);
+
+} // namespace holding

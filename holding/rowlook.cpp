@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "holding/rowlook.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace holding {
+
+namespace {
+
+constexpr int onlyZoneWidth = 394;
+constexpr int besideZoneWidth = 340;
+constexpr int oneBinZoneWidth = 177;
+
+// Two halves of a zone of three bins: its third button goes, the other two share the width.
+void showHalves(const CabinetShape &shape, const Zone &zone, RowLook &looks)
+{
+    looks[zone.first + 2].visible = false;
+    for (const int slot : {zone.first, zone.first + 1})
+        looks[slot].minimumWidth = binButtonWidth(shape, u"1/2"_s);
+}
+
+void hideCoveredBins(const CabinetShape &shape, const Zone &zone, const RowContent &row, int slot,
+                     RowLook &looks)
+{
+    const SlotContent &content = row[slot];
+    const int last = zone.end() - 1;
+    const bool ofThree = shape.binsPerZone == 3;
+    if (content.hasSplits("1/1"_L1)) {
+        for (int covered = slot + 1; covered <= last; ++covered)
+            looks[covered].visible = false;
+    } else if (ofThree && content.hasSplits("1/2"_L1) && slot < last) {
+        showHalves(shape, zone, looks);
+    } else if (ofThree && content.hasSplits("2/3"_L1) && slot < last && !row[slot + 1].filled) {
+        // A filled neighbour stays in sight: nothing that is assigned is concealed.
+        looks[slot + 1].visible = false;
+    }
+}
+
+void showZone(const CabinetShape &shape, const Zone &zone, const RowContent &row, RowLook &looks)
+{
+    for (int slot = zone.first; slot < zone.end(); ++slot) {
+        looks[slot].visible = true;
+        if (const ProductInfo *entry = row[slot].entry)
+            looks[slot].minimumWidth = binButtonWidth(shape, entry->get_zoneSplits());
+    }
+    for (int slot = zone.first; slot < zone.end(); ++slot) {
+        if (looks[slot].visible)
+            hideCoveredBins(shape, zone, row, slot, looks);
+    }
+}
+
+} // namespace
+
+RowLook rowLook(const CabinetShape &shape, const RowContent &row)
+{
+    RowLook looks;
+    for (int zone = 0; zone < std::max<int>(shape.zones, 1); ++zone)
+        showZone(shape, shape.zone(zone), row, looks);
+    return looks;
+}
+
+int zoneWidth(const CabinetShape &shape, int zone)
+{
+    if (shape.zones != 2)
+        return onlyZoneWidth;
+    return zone > 0 && shape.singleBinSecondZone ? oneBinZoneWidth : besideZoneWidth;
+}
+
+void fitIntoZone(RowLook &looks, const Zone &zone, int zoneWidth, int gap)
+{
+    int excess = -gap - zoneWidth;
+    for (int slot = zone.first; slot < zone.end(); ++slot)
+        excess += looks[slot].visible ? looks[slot].minimumWidth + gap : 0;
+    for (int slot = zone.end() - 1; slot >= zone.first && excess > 0; --slot) {
+        BinLook &look = looks[slot];
+        const int cut = look.visible ? std::min(excess, look.minimumWidth - emptyBinButtonWidth) : 0;
+        look.minimumWidth -= cut;
+        excess -= cut;
+    }
+}
+
+} // namespace holding

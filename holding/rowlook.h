@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "holding/bins.h"
+
+/// How a row of the grid looks with what stands in its bins. All widths are in pixels.
+namespace holding {
+
+/// How a bin's button shows.
+struct BinLook
+{
+    bool visible = false;
+    int minimumWidth = emptyBinButtonWidth;
+
+    friend bool operator==(const BinLook &, const BinLook &) = default;
+};
+using RowLook = FixedList<BinLook, maxSlots>;
+
+/// A row's buttons. An entry that takes more than its own bin hides the bins that it covers.
+[[nodiscard]] RowLook rowLook(const CabinetShape &shape, const RowContent &row);
+
+/// Zones keep their width whatever stands in them, so that filling a bin never moves another one. Zones are
+/// counted from 0.
+[[nodiscard]] int zoneWidth(const CabinetShape &shape, int zone);
+
+/// What a file holds, or another cabinet left, may ask for more than a zone has: the last bins then give way,
+/// down to the width of an empty one; `gap` lies between two bins.
+void fitIntoZone(RowLook &looks, const Zone &zone, int zoneWidth, int gap);
+
+} // namespace holding
