@@ -36,7 +36,7 @@ public:
 
     bool writeToFile(const QString &path) override;
     /// Asks for another name and writes there. The main window asks by itself, so that nothing in the program
-    /// calls this; it is the editor's own way for whoever holds one without a main window.
+    /// calls this; it is the editor's own way where there is no main window.
     void saveAs();
 
     [[nodiscard]] const holding::CabinetConfiguration &configuration() const { return m_menu.configuration; }

@@ -28,8 +28,9 @@ class BinGrid final : public QObject
 public:
     explicit BinGrid(QObject *parent = nullptr);
 
-    /// The buttons that the cabinet has; hidden ones take no part in removal mode.
+    /// Leaves removal mode, ends a press and forgets all buttons.
     void clear();
+    /// A button that the cabinet has. While it is hidden it takes no part in removal mode.
     void add(QPushButton *button, Bin bin);
     [[nodiscard]] QPushButton *button(Bin bin) const; ///< null for a bin that the cabinet lacks
     [[nodiscard]] QList<Bin> bins() const;

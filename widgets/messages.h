@@ -21,8 +21,7 @@ void entryFault(QWidget *parent, const QString &message);
 /// What a dialog or an editor cannot do at all: the same with a warning icon.
 void refusal(QWidget *parent, const QString &message);
 
-/// What the user should know of what he just did, such as data that was removed with it. `button` closes the
-/// box.
+/// What the user should know of an act, such as data that was removed with it. `button` closes the box.
 void warning(QWidget *parent, const QString &message, QMessageBox::StandardButton button = QMessageBox::Ok);
 
 /// What an accepted configuration did to the menu.
