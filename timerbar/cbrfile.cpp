@@ -3,8 +3,6 @@
 
 #include "timerbar/cbrfile.h"
 
-#include <algorithm>
-
 #include <QCoreApplication>
 #include <QIODevice>
 #include <QtEndian>
@@ -34,8 +32,8 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(TimerBarMenuFile)
 };
 
-// The fault of writing a menu of an unknown model. It is pending only: such a menu is written without bins,
-// and the message of a later fault takes its place, so that nobody ever sees it.
+// The error of writing a menu of an unknown model. Nobody sees it: such a menu is written without bins, and
+// the message of a later error takes its place.
 [[maybe_unused]] constexpr auto unknownModelFault =
     QT_TRANSLATE_NOOP("TimerBarMenuFile", "Unkown cabinet model");
 
@@ -49,17 +47,10 @@ qsizetype daypartSize(int bins)
     return 1 + 2 * bins;
 }
 
-struct Cell
+// Files number the bins from the bottom row upward, in a row from the left.
+Bin binOfNumber(const CabinetShape &shape, int number)
 {
-    std::size_t row;
-    std::size_t column;
-};
-
-// Bins run from the bottom row upward, in a row from the left.
-Cell cellOfBin(const CabinetShape &shape, int bin)
-{
-    return {static_cast<std::size_t>(shape.rows - 1 - bin / shape.columns()),
-            static_cast<std::size_t>(bin % shape.columns())};
+    return {shape.rows - 1 - number / shape.columns(), number % shape.columns()};
 }
 
 quint8 encodeTemperature(int fahrenheit)
@@ -97,10 +88,9 @@ QByteArray encodeProduct(const ProductInfo &product)
 QByteArray encodeDaypart(int index, const DaypartCells &cells, const CabinetShape &shape)
 {
     QByteArray record(1, static_cast<char>(index));
-    for (int bin = 0; bin < shape.bins(); ++bin) {
-        const Cell cell = cellOfBin(shape, bin);
-        record.append(static_cast<char>(bin));
-        record.append(static_cast<char>(cells[cell.row][cell.column]));
+    for (int number = 0; number < shape.bins(); ++number) {
+        record.append(static_cast<char>(number));
+        record.append(static_cast<char>(cells[binOfNumber(shape, number)]));
     }
     return record;
 }
@@ -165,12 +155,10 @@ std::unique_ptr<ProductInfo> decodeProduct(QByteArrayView record, int id)
 void decodeDaypart(QByteArrayView record, const CabinetShape &shape, int productCount, DaypartCells &cells)
 {
     for (qsizetype i = 1; i + 1 < record.size(); i += 2) {
-        const int bin = byteAt(record, i);
+        const int number = byteAt(record, i);
         const int product = byteAt(record, i + 1);
-        if (bin >= shape.bins())
-            continue;
-        const Cell cell = cellOfBin(shape, bin);
-        cells[cell.row][cell.column] = product < productCount ? product : emptyCell;
+        if (number < shape.bins())
+            cells[binOfNumber(shape, number)] = product < productCount ? product : emptyCell;
     }
 }
 
@@ -223,8 +211,7 @@ QString readDayparts(RecordSource &source, Menu &menu)
         const int index = byteAt(record, 0);
         if (index >= daypartCount)
             return Text::tr("Invalid daypart index detected!");
-        decodeDaypart(record, shape, static_cast<int>(menu.products.size()),
-                      menu.dayparts[static_cast<std::size_t>(index)]);
+        decodeDaypart(record, shape, static_cast<int>(menu.products.size()), menu.dayparts[index]);
     }
     return {};
 }
@@ -265,7 +252,7 @@ QString writeMenu(QIODevice &device, const Menu &menu)
         crc = resume(record, crc);
     }
     for (int i = 0; i < daypartCount; ++i) {
-        const QByteArray record = encodeDaypart(i, menu.dayparts[static_cast<std::size_t>(i)], shape);
+        const QByteArray record = encodeDaypart(i, menu.dayparts[i], shape);
         if (!placed || !write(device, record))
             return Text::tr("Failed to write daypart info to the file");
         crc = resume(record, crc);

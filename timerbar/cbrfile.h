@@ -13,7 +13,7 @@ class QIODevice;
 /// The binary file of a Timer Bar menu.
 namespace timerbar {
 
-/// Reads a menu into a fresh `menu`. Returns an empty text, or the message of the first fault; `menu` then
+/// Reads a menu into a fresh `menu`. Returns an empty text, or the message of the first error; `menu` then
 /// holds the products that were read before it. Bytes behind the last record are passed over.
 [[nodiscard]] QString readMenu(const QByteArray &bytes, Menu &menu);
 

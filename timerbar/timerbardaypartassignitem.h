@@ -8,7 +8,7 @@
 #include <QDialog>
 #include <QList>
 
-#include "timerbar/menu.h"
+#include "timerbar/bins.h"
 
 class TimerBarMenuFile;
 

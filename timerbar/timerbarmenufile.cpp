@@ -7,6 +7,7 @@
 
 #include "model/files.h"
 #include "timerbar/cbrfile.h"
+#include "timerbar/defaultproducts.h"
 #include "timerbar/timerbarconfig.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/fixedsize.h"

@@ -3,10 +3,13 @@
 
 #include "timerbar/timerbarmenufile.h"
 
+#include <array>
+
 #include <QPushButton>
 #include <QSignalBlocker>
 
 #include "model/names.h"
+#include "timerbar/bins.h"
 #include "timerbar/timerbardaypartassignitem.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/binbutton.h"
@@ -74,7 +77,7 @@ void TimerBarMenuFile::showRemovalMode(bool removing)
 timerbar::DaypartCells *TimerBarMenuFile::currentCells()
 {
     const int index = m_ui->comboDaypartSelect->currentIndex();
-    return index < 0 ? nullptr : &m_menu.dayparts[static_cast<std::size_t>(index)];
+    return index < 0 ? nullptr : &m_menu.dayparts[index];
 }
 
 void TimerBarMenuFile::loadDayparts()
@@ -132,7 +135,7 @@ void TimerBarMenuFile::assignProductToBin(int rowIndex, int binIndex)
     if (m_menu.products.empty() || !cells || !m_grid.button(bin))
         return;
     const int daypart = m_ui->comboDaypartSelect->currentIndex();
-    const auto reference = timerbar::neighbourTemperatures(m_menu, daypart, rowIndex, binIndex);
+    const auto reference = timerbar::neighbourTemperatures(m_menu, daypart, bin);
     TimerBarDaypartAssignItem dialog(reference.upper, reference.lower, this);
     if (dialog.exec() != Accepted)
         return;

@@ -9,35 +9,27 @@
 #include <QMessageBox>
 #include <QSignalBlocker>
 
-#include "model/names.h"
 #include "timerbar/timerbarproductedit.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/messages.h"
 
 QList<ProductInfo *> TimerBarMenuFile::products() const
 {
-    QList<ProductInfo *> pointers;
-    for (const auto &product : m_menu.products)
-        pointers.append(product.get());
-    return pointers;
+    return pointersTo(m_menu.products);
 }
 
 ProductInfo *TimerBarMenuFile::currentProduct() const
 {
-    const int row = m_products.currentRow();
-    return row < 0 ? nullptr : m_menu.products[static_cast<std::size_t>(row)].get();
+    return entryAt(m_menu.products, m_products.currentRow());
 }
 
 void TimerBarMenuFile::loadProducts()
 {
-    QStringList names;
-    for (const auto &product : m_menu.products)
-        names.append(shownName(product->get_productName()));
-    m_products.showNames(names);
+    m_products.showNames(namesOf(m_menu.products));
     const QSignalBlocker blocker(m_ui->listWidgetProducts);
-    for (int row = 0; row < m_ui->listWidgetProducts->count(); ++row)
-        m_ui->listWidgetProducts->item(row)->setData(
-            Qt::UserRole, m_menu.products[static_cast<std::size_t>(row)]->get_productId());
+    int row = 0;
+    for (const auto &product : m_menu.products)
+        m_ui->listWidgetProducts->item(row++)->setData(Qt::UserRole, product->get_productId());
 }
 
 void TimerBarMenuFile::loadProductInfo()

@@ -7,6 +7,7 @@
 #include "tests/support/sampletimerbar.h"
 #include "tests/support/warnings.h"
 #include "timerbar/cbrfile.h"
+#include "timerbar/defaultproducts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -82,7 +83,7 @@ QByteArray record(int index, const QByteArray &pairs)
 }
 
 // The cells of a KTR22 as "top left, top right, bottom left, bottom right".
-QList<int> cells(const timerbar::Menu &menu, std::size_t daypart)
+QList<int> cells(const timerbar::Menu &menu, int daypart)
 {
     const timerbar::DaypartCells &all = menu.dayparts[daypart];
     return {all[0][0], all[0][1], all[1][0], all[1][1]};
@@ -252,8 +253,8 @@ void TestCbrRead::daypartsInAnyOrder()
         records.append(
             record(index, "00" + QByteArray(1, static_cast<char>(index)).toHex() + "016402640364"));
     const timerbar::Menu menu = read(withDayparts(6, records));
-    for (std::size_t index = 0; index < 6; ++index)
-        QCOMPARE(cells(menu, index), (QList<int>{100, 100, static_cast<int>(index), 100}));
+    for (int index = 0; index < 6; ++index)
+        QCOMPARE(cells(menu, index), (QList<int>{100, 100, index, 100}));
 }
 
 // The later record wins bin by bin; a day part without a record stays empty.
@@ -264,7 +265,7 @@ void TestCbrRead::daypartsRepeated()
                          record(1, "0002016402640364"), record(1, "0301030203030302"), record(0, noCells)}));
     QCOMPARE(cells(menu, 2), (QList<int>{2, 3, 3, 1}));
     QCOMPARE(cells(menu, 1), (QList<int>{100, 2, 2, 100}));
-    for (const std::size_t index : {0U, 3U, 4U, 5U})
+    for (const int index : {0, 3, 4, 5})
         QCOMPARE(cells(menu, index), emptyCells);
 }
 
@@ -292,8 +293,8 @@ void TestCbrRead::binsThatTheCabinetLacks()
                               record(3, noCells), record(4, noCells), record(5, noCells)}));
     QCOMPARE(cells(menu, 0), (QList<int>{100, 3, 100, 100}));
     for (const timerbar::DaypartCells &all : menu.dayparts) {
-        for (std::size_t row = 0; row < 4; ++row) {
-            for (std::size_t column = 0; column < 4; ++column)
+        for (int row = 0; row < timerbar::maxRows; ++row) {
+            for (int column = 0; column < timerbar::maxColumns; ++column)
                 QVERIFY((row < 2 && column < 2) || all[row][column] == timerbar::emptyCell);
         }
     }

@@ -210,9 +210,9 @@ void checkSane(const timerbar::Menu &menu)
     for (std::size_t i = 0; i < menu.products.size(); ++i)
         QCOMPARE(menu.products[i]->get_productId(), static_cast<int>(i));
     for (const timerbar::DaypartCells &cells : menu.dayparts) {
-        for (int row = 0; row < 4; ++row) {
-            for (int column = 0; column < 4; ++column) {
-                const int cell = cells[std::size_t(row)][std::size_t(column)];
+        for (int row = 0; row < timerbar::maxRows; ++row) {
+            for (int column = 0; column < timerbar::maxColumns; ++column) {
+                const int cell = cells[row][column];
                 const bool exists = row < shape.rows && column < shape.columns();
                 QVERIFY(cell == timerbar::emptyCell || (exists && menu.product(cell)));
             }

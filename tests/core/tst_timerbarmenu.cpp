@@ -5,6 +5,7 @@
 
 #include "tests/support/sampletimerbar.h"
 #include "tests/support/warnings.h"
+#include "timerbar/defaultproducts.h"
 #include "timerbar/menu.h"
 
 using namespace Qt::StringLiterals;
@@ -16,26 +17,15 @@ class TestTimerBarMenu : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void newMenuIsEmpty();
-    void modelsAreInOrder();
-    void shapes_data();
-    void shapes();
-    void unknownModels_data();
-    void unknownModels();
-    void modelsOfShapes();
-    void daypartsAreNamed();
     void defaultProducts();
     void newProduct();
     void duplicate();
     void smallestFreeId_data();
     void smallestFreeId();
     void fullWithHundred();
+    void idsOfDeletedProductsAreGivenAgain();
     void productById();
     void removalEmptiesEveryCell();
-    void neighbours_data();
-    void neighbours();
-    void neighbourOfTheSelectedDaypart();
-    void fitting_data();
-    void fitting();
 };
 
 namespace {
@@ -53,82 +43,10 @@ timerbar::Menu menuWithIds(const QList<int> &ids)
 void TestTimerBarMenu::newMenuIsEmpty()
 {
     const timerbar::Menu menu;
-    QStringList expected{u"KTR22, unit 0"_s};
-    for (int index = 0; index < 6; ++index)
-        expected.append(u"100 100 100 100 / 100 100 100 100 / 100 100 100 100 / 100 100 100 100 / "_s);
-    QCOMPARE(sample::describe(menu), expected);
-}
-
-void TestTimerBarMenu::modelsAreInOrder()
-{
-    QCOMPARE(timerbar::cabinetModels(),
-             (QStringList{u"KTR22"_s, u"KTR23"_s, u"KTR24"_s, u"KTR32"_s, u"KTR34"_s, u"KTR42"_s}));
-}
-
-void TestTimerBarMenu::shapes_data()
-{
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("columnLayout");
-    QTest::addColumn<bool>("threeColumns");
-    QTest::addColumn<int>("bins");
-    QTest::newRow("KTR22") << 2 << 1 << false << 4;
-    QTest::newRow("KTR23") << 2 << 2 << true << 6;
-    QTest::newRow("KTR24") << 2 << 2 << false << 8;
-    QTest::newRow("KTR32") << 3 << 1 << false << 6;
-    QTest::newRow("KTR34") << 3 << 2 << false << 12;
-    QTest::newRow("KTR42") << 4 << 1 << false << 8;
-}
-
-void TestTimerBarMenu::shapes()
-{
-    QFETCH(int, rows);
-    QFETCH(int, columnLayout);
-    QFETCH(bool, threeColumns);
-    QFETCH(int, bins);
-    const timerbar::CabinetShape shape = timerbar::cabinetShape(QString::fromLatin1(QTest::currentDataTag()));
-    QCOMPARE(shape.rows, rows);
-    QCOMPARE(shape.columnLayout, columnLayout);
-    QCOMPARE(shape.threeColumns, threeColumns);
-    QCOMPARE(shape.columns() * rows, bins);
-    QCOMPARE(shape.bins(), bins);
-}
-
-void TestTimerBarMenu::unknownModels_data()
-{
-    QTest::addColumn<QString>("model");
-    QTest::newRow("none") << QString();
-    QTest::newRow("lower case") << u"ktr22"_s;
-    QTest::newRow("blank behind") << u"KTR22 "_s;
-    QTest::newRow("of the holding line") << u"KTR33"_s;
-    QTest::newRow("bare digits") << u"22"_s;
-}
-
-void TestTimerBarMenu::unknownModels()
-{
-    QFETCH(QString, model);
-    const timerbar::CabinetShape shape = timerbar::cabinetShape(model);
-    QCOMPARE(shape, timerbar::CabinetShape());
-    QCOMPARE(shape.rows, 0);
-    QCOMPARE(shape.columnLayout, 0);
-    QCOMPARE(shape.bins(), 0);
-}
-
-void TestTimerBarMenu::modelsOfShapes()
-{
-    const QHash<int, QString> known{{22, u"KTR22"_s}, {23, u"KTR23"_s}, {24, u"KTR24"_s},
-                                    {32, u"KTR32"_s}, {34, u"KTR34"_s}, {42, u"KTR42"_s}};
-    for (int rows = 0; rows < 256; ++rows) {
-        for (int columns = 0; columns < 256; ++columns) {
-            const QString expected = columns < 10 ? known.value(10 * rows + columns) : QString();
-            QCOMPARE(timerbar::modelOfShape(rows, columns), expected);
-        }
-    }
-}
-
-void TestTimerBarMenu::daypartsAreNamed()
-{
-    QCOMPARE(timerbar::daypartNames(), (QStringList{u"Breakfast"_s, u"ChangeOver 1"_s, u"Lunch"_s,
-                                                    u"ChangeOver 2"_s, u"Dinner"_s, u"ChangeOver 3"_s}));
+    const QString emptyRow = u"100 "_s.repeated(timerbar::maxColumns) + u"/ "_s;
+    const QStringList expected{u"KTR22, unit 0"_s};
+    const QStringList emptyDayparts(6, emptyRow.repeated(timerbar::maxRows));
+    QCOMPARE(sample::describe(menu), expected + emptyDayparts);
 }
 
 void TestTimerBarMenu::defaultProducts()
@@ -251,6 +169,14 @@ void TestTimerBarMenu::fullWithHundred()
     QVERIFY(menu.isFull());
 }
 
+void TestTimerBarMenu::idsOfDeletedProductsAreGivenAgain()
+{
+    timerbar::Menu menu = menuWithIds({0, 1, 2});
+    menu.products.erase(menu.products.begin() + 1);
+    QCOMPARE(menu.nextFreeId(), 1);
+    QCOMPARE(menu.products[1]->get_productId(), 2);
+}
+
 void TestTimerBarMenu::productById()
 {
     const timerbar::Menu menu = menuWithIds({4, 0, 7, 4});
@@ -267,7 +193,7 @@ void TestTimerBarMenu::removalEmptiesEveryCell()
     menu.dayparts[2][3] = {1, 100, 100, 1}; // beyond the model
     menu.dayparts[5][1] = {2, 2, 1, 2};
     QVERIFY(menu.removeFromDayparts(1));
-    using Row = std::array<int, 4>;
+    using Row = FixedList<int, 4>;
     QCOMPARE(menu.dayparts[0][0], (Row{100, 2, 100, 100}));
     QCOMPARE(menu.dayparts[2][3], (Row{100, 100, 100, 100}));
     QCOMPARE(menu.dayparts[5][1], (Row{2, 2, 100, 2}));
@@ -275,83 +201,6 @@ void TestTimerBarMenu::removalEmptiesEveryCell()
     QVERIFY(!menu.removeFromDayparts(1));
     QVERIFY(!menu.removeFromDayparts(7));
     QCOMPARE(sample::describe(menu), before);
-}
-
-void TestTimerBarMenu::neighbours_data()
-{
-    using Row = QList<int>;
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<QList<int>>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("upper"); // the products' temperatures are 100 + id and 200 + id
-    QTest::addColumn<int>("lower");
-    QTest::newRow("left of a product") << u"KTR22"_s << Row{100, 1, 100, 100} << 0 << 101 << 201;
-    QTest::newRow("right of a product") << u"KTR22"_s << Row{2, 100, 100, 100} << 1 << 102 << 202;
-    QTest::newRow("empty neighbour") << u"KTR22"_s << Row{1, 100, 100, 100} << 0 << 0 << 0;
-    QTest::newRow("the bin's own product does not count")
-        << u"KTR22"_s << Row{1, 2, 100, 100} << 1 << 101 << 201;
-    QTest::newRow("unknown product") << u"KTR22"_s << Row{77, 100, 100, 100} << 1 << 0 << 0;
-    QTest::newRow("second pair, left") << u"KTR24"_s << Row{1, 1, 100, 2} << 2 << 102 << 202;
-    QTest::newRow("second pair, right") << u"KTR24"_s << Row{1, 1, 3, 2} << 3 << 103 << 203;
-    QTest::newRow("pairs are apart") << u"KTR34"_s << Row{1, 1, 100, 100} << 2 << 0 << 0;
-    QTest::newRow("first pair is apart too") << u"KTR34"_s << Row{100, 100, 2, 3} << 1 << 0 << 0;
-    QTest::newRow("single bin of a pair") << u"KTR23"_s << Row{1, 1, 100, 100} << 2 << 0 << 0;
-}
-
-void TestTimerBarMenu::neighbours()
-{
-    QFETCH(QString, model);
-    QFETCH(QList<int>, row);
-    QFETCH(int, column);
-    QFETCH(int, upper);
-    QFETCH(int, lower);
-    timerbar::Menu menu = menuWithIds({1, 2, 3});
-    menu.model = model;
-    for (const auto &product : menu.products) {
-        product->set_upperTemp(100 + product->get_productId());
-        product->set_lowerTemp(200 + product->get_productId());
-    }
-    std::copy(row.begin(), row.end(), menu.dayparts[4][1].begin());
-    const timerbar::ReferenceTemperatures expected{upper, lower};
-    QCOMPARE(timerbar::neighbourTemperatures(menu, 4, 1, column), expected);
-}
-
-void TestTimerBarMenu::neighbourOfTheSelectedDaypart()
-{
-    timerbar::Menu menu = menuWithIds({1});
-    menu.dayparts[0][0][1] = 1;
-    QCOMPARE(timerbar::neighbourTemperatures(menu, 0, 0, 0), (timerbar::ReferenceTemperatures{200, 200}));
-    QCOMPARE(timerbar::neighbourTemperatures(menu, 1, 0, 0), timerbar::ReferenceTemperatures());
-    QCOMPARE(timerbar::neighbourTemperatures(menu, 0, 1, 0), timerbar::ReferenceTemperatures());
-}
-
-void TestTimerBarMenu::fitting_data()
-{
-    QTest::addColumn<int>("upper");
-    QTest::addColumn<int>("lower");
-    QTest::addColumn<int>("referenceUpper");
-    QTest::addColumn<int>("referenceLower");
-    QTest::addColumn<bool>("fits");
-    QTest::newRow("no neighbour") << 215 << 200 << 0 << 0 << true;
-    QTest::newRow("no neighbour by its upper temperature alone") << 215 << 200 << 0 << 180 << true;
-    QTest::newRow("same") << 215 << 215 << 215 << 215 << true;
-    QTest::newRow("upper differs") << 216 << 215 << 215 << 215 << false;
-    QTest::newRow("lower differs") << 215 << 214 << 215 << 215 << false;
-    QTest::newRow("the reference's upper one is not compared") << 200 << 200 << 215 << 200 << true;
-    QTest::newRow("not even by the same product") << 215 << 200 << 215 << 200 << false;
-}
-
-void TestTimerBarMenu::fitting()
-{
-    QFETCH(int, upper);
-    QFETCH(int, lower);
-    QFETCH(int, referenceUpper);
-    QFETCH(int, referenceLower);
-    QFETCH(bool, fits);
-    ProductInfo product;
-    product.set_upperTemp(upper);
-    product.set_lowerTemp(lower);
-    QCOMPARE(timerbar::fitsNeighbour(product, {referenceUpper, referenceLower}), fits);
 }
 
 QTEST_APPLESS_MAIN(TestTimerBarMenu)

@@ -29,11 +29,8 @@ timerbar::Menu timerBarMenu(const cbr::Menu &file)
         menu.products.push_back(timerBarProduct(file.products[i], i));
     const QList<QByteArray> &bins = cbr::model(file.model).bins;
     for (std::size_t index = 0; index < file.dayparts.size(); ++index) {
-        for (qsizetype bin = 0; bin < file.dayparts[index].size(); ++bin) {
-            const auto row = static_cast<std::size_t>(bins[bin][0] - '0');
-            const auto column = static_cast<std::size_t>(bins[bin][1] - '0');
-            menu.dayparts[index][row][column] = file.dayparts[index][bin];
-        }
+        for (qsizetype bin = 0; bin < file.dayparts[index].size(); ++bin)
+            menu.dayparts[index][bins[bin][0] - '0'][bins[bin][1] - '0'] = file.dayparts[index][bin];
     }
     return menu;
 }

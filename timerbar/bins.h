@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QStringList>
+
+#include "timerbar/menu.h"
+
+namespace timerbar {
+
+/// Names of the six day parts in the order of their indices, as the user sees them.
+[[nodiscard]] QStringList daypartNames();
+
+/// °F; 0 for both where the bin has no neighbour.
+struct ReferenceTemperatures
+{
+    int upper = 0;
+    int lower = 0;
+
+    friend bool operator==(const ReferenceTemperatures &, const ReferenceTemperatures &) = default;
+};
+
+/// The temperatures of the product in the other bin of the same pair.
+[[nodiscard]] ReferenceTemperatures neighbourTemperatures(const Menu &menu, int daypart, Bin bin);
+
+/// Whether a product may stand beside one with these temperatures. The upper one only says that there is a
+/// neighbour: both of the product's temperatures are compared with the lower one.
+[[nodiscard]] bool fitsNeighbour(const ProductInfo &product, const ReferenceTemperatures &reference);
+
+} // namespace timerbar
