@@ -3,6 +3,7 @@
 
 #include "timerbar/timerbarconfig.h"
 
+#include "timerbar/cabinet.h"
 #include "ui_timerbarconfig.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
@@ -12,6 +13,7 @@ TimerBarConfig::TimerBarConfig(QWidget *parent)
     , m_ui(std::make_unique<Ui::TimerBarConfig>())
 {
     m_ui->setupUi(this);
+    m_ui->comboUnitModel->addItems(timerbar::cabinetModels());
     letEnterPressFocusedButton(this);
     fixDesignedSize(this);
 }

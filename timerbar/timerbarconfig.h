@@ -24,7 +24,7 @@ public:
     ~TimerBarConfig() override;
 
 public slots:
-    /// The stored values: what the user sees only after Save.
+    /// The stored values; what the user chooses is stored by Save.
     [[nodiscard]] quint8 getTempUnit() const;
     void setTempUnit(quint8 value);
     [[nodiscard]] QString getCabinetModel() const;

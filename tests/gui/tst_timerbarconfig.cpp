@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "tests/support/cbrbuilder.h"
 #include "tests/support/slotlist.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
@@ -46,6 +47,14 @@ QString shownUnit(const TimerBarConfig &dialog)
     return (fahrenheit ? u"F"_s : QString()) + (celsius ? u"C"_s : QString());
 }
 
+QStringList modelNames()
+{
+    QStringList names;
+    for (const cbr::Model &model : cbr::models())
+        names.append(model.name);
+    return names;
+}
+
 } // namespace
 
 void TestTimerBarConfig::slotsAreInOrder()
@@ -64,7 +73,7 @@ void TestTimerBarConfig::formShowsItsTexts()
     QStringList names;
     for (int i = 0; i < models.count(); ++i)
         names.append(models.itemText(i));
-    QCOMPARE(names, (QStringList{u"KTR22"_s, u"KTR23"_s, u"KTR24"_s, u"KTR32"_s, u"KTR34"_s, u"KTR42"_s}));
+    QCOMPARE(names, modelNames());
     QVERIFY(!models.isEditable());
     QCOMPARE(ui::get<QLabel>(dialog, "lblUnitModel").text(), u"Unit Model"_s);
     QCOMPARE(ui::get<QGroupBox>(dialog, "gbTempUnit").title(), u"Temperature Unit"_s);
@@ -120,8 +129,8 @@ void TestTimerBarConfig::saveTakesTheValues_data()
     QTest::addColumn<QString>("model");
     QTest::addColumn<bool>("celsius");
     QTest::newRow("as offered") << u"KTR22"_s << false;
-    for (const char *model : {"KTR23", "KTR24", "KTR32", "KTR34", "KTR42"})
-        QTest::newRow(model) << QString::fromLatin1(model) << true;
+    for (const QString &model : modelNames())
+        QTest::newRow(qPrintable(model)) << model << true;
 }
 
 void TestTimerBarConfig::saveTakesTheValues()
