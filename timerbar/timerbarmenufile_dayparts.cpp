@@ -3,12 +3,13 @@
 
 #include "timerbar/timerbarmenufile.h"
 
+#include <algorithm>
 #include <array>
 
-#include <QPushButton>
 #include <QSignalBlocker>
 
 #include "model/names.h"
+#include "timerbar/binbuttons.h"
 #include "timerbar/bins.h"
 #include "timerbar/timerbardaypartassignitem.h"
 #include "ui_timerbarmenufile.h"
@@ -16,33 +17,43 @@
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-using BinButtonMember = BinButton *Ui_TimerBarMenuFile::*;
-using Form = Ui_TimerBarMenuFile;
+struct GridButton
+{
+    BinButton *Ui_TimerBarMenuFile::*button;
+    Bin bin;
+};
 
-// [row][column]; the last row has no right pair.
-constexpr std::array<std::array<BinButtonMember, timerbar::maxColumns>, timerbar::maxRows> binButtons{{
-    {&Form::btnDaypartSelect0_0, &Form::btnDaypartSelect0_1, &Form::btnDaypartSelectB0_0,
-     &Form::btnDaypartSelectB0_1},
-    {&Form::btnDaypartSelect1_0, &Form::btnDaypartSelect1_1, &Form::btnDaypartSelectB1_0,
-     &Form::btnDaypartSelectB1_1},
-    {&Form::btnDaypartSelect2_0, &Form::btnDaypartSelect2_1, &Form::btnDaypartSelectB2_0,
-     &Form::btnDaypartSelectB2_1},
-    {&Form::btnDaypartSelect3_0, &Form::btnDaypartSelect3_1, nullptr, nullptr},
-}};
+constexpr auto gridButtons = std::to_array<GridButton>({
+#define GRID_BUTTON(button, row, column) {&Ui_TimerBarMenuFile::button, {row, column}},
+    FOR_EACH_TIMER_BAR_BIN_BUTTON(GRID_BUTTON)
+#undef GRID_BUTTON
+});
+
+constexpr bool hasOneButton(Bin bin)
+{
+    return std::count_if(gridButtons.begin(), gridButtons.end(),
+                         [bin](const GridButton &each) { return each.bin == bin; }) == 1;
+}
+
+constexpr bool hasItsButtons(const timerbar::CabinetModel &model)
+{
+    for (int row = 0; row < model.shape.rows; ++row) {
+        for (int column = 0; column < model.shape.columns(); ++column) {
+            if (!hasOneButton({row, column}))
+                return false;
+        }
+    }
+    return true;
+}
+
+static_assert(std::all_of(timerbar::allModels.begin(), timerbar::allModels.end(), hasItsButtons),
+              "A model has a bin without a button, or with two, in timerbar/binbuttons.h");
 
 // Pairs keep their width whatever stands in them, so that filling a bin never moves another one.
 constexpr int pairWidth = 340;
 constexpr int oneBinPairWidth = 177;
-
-template <typename Cells>
-auto &cellAt(Cells &cells, Bin bin)
-{
-    return cells[static_cast<std::size_t>(bin.row)][static_cast<std::size_t>(bin.slot)];
-}
 
 QString toolTipOf(const ProductInfo *product, int unit)
 {
@@ -82,17 +93,12 @@ timerbar::DaypartCells *TimerBarMenuFile::currentCells()
 
 void TimerBarMenuFile::loadDayparts()
 {
-    m_grid.clear();
-#define HIDE_BIN_BUTTON(button) m_ui->button->hide();
-    FOR_EACH_TIMER_BAR_BIN_BUTTON(HIDE_BIN_BUTTON)
-#undef HIDE_BIN_BUTTON
     const timerbar::CabinetShape shape = m_menu.shape();
+    registerBins(shape);
     m_ui->frameRightPair->setVisible(shape.columnLayout == 2);
     m_ui->frameLeftPair->setFixedWidth(pairWidth);
     m_ui->frameRightPair->setFixedWidth(shape.threeColumns ? oneBinPairWidth : pairWidth);
-    if (shape.rows >= 2 && shape.rows <= timerbar::maxRows)
-        registerBins(shape);
-    else
+    if (!shape.isKnown())
         messages::fileFault(tr("Invalid number of rows!"));
     {
         const QSignalBlocker blocker(m_ui->comboDaypartSelect);
@@ -104,12 +110,12 @@ void TimerBarMenuFile::loadDayparts()
 
 void TimerBarMenuFile::registerBins(const timerbar::CabinetShape &shape)
 {
-    for (int row = 0; row < shape.rows; ++row) {
-        for (int column = 0; column < shape.columns(); ++column) {
-            QPushButton *button = (*m_ui).*cellAt(binButtons, {row, column});
-            m_grid.add(button, {row, column});
-            button->show();
-        }
+    m_grid.clear();
+    for (const auto &[member, bin] : gridButtons) {
+        BinButton *button = (*m_ui).*member;
+        button->setVisible(shape.has(bin));
+        if (shape.has(bin))
+            m_grid.add(button, bin);
     }
 }
 
@@ -121,7 +127,7 @@ void TimerBarMenuFile::loadCurrentDaypart()
         return;
     const QList<Bin> bins = m_grid.bins();
     for (const Bin bin : bins) {
-        const int id = cellAt(*cells, bin);
+        const int id = (*cells)[bin];
         const ProductInfo *product = id == timerbar::emptyCell ? nullptr : getProductObject(id);
         m_grid.showContent(bin, product ? product->get_productShortName() : QString());
         m_grid.button(bin)->setToolTip(asPlainText(toolTipOf(product, m_menu.temperatureUnit)));
@@ -139,17 +145,17 @@ void TimerBarMenuFile::assignProductToBin(int rowIndex, int binIndex)
     TimerBarDaypartAssignItem dialog(reference.upper, reference.lower, this);
     if (dialog.exec() != Accepted)
         return;
-    cellAt(*cells, bin) = dialog.chosenId();
+    (*cells)[bin] = dialog.chosenId();
     loadCurrentDaypart();
 }
 
 void TimerBarMenuFile::dayPartPressHoldDetected()
 {
     const timerbar::DaypartCells *cells = currentCells();
-    m_grid.settleHold([cells](Bin bin) { return cells && cellAt(*cells, bin) < timerbar::emptyCell; });
+    m_grid.settleHold([cells](Bin bin) { return cells && (*cells)[bin] < timerbar::emptyCell; });
 }
 
-#define DEFINE_SLOTS(button) DEFINE_BIN_BUTTON_SLOTS(TimerBarMenuFile, button)
+#define DEFINE_SLOTS(...) DEFINE_BIN_BUTTON_SLOTS(TimerBarMenuFile, __VA_ARGS__)
 FOR_EACH_TIMER_BAR_BIN_BUTTON(DEFINE_SLOTS)
 #undef DEFINE_SLOTS
 
@@ -163,7 +169,7 @@ void TimerBarMenuFile::on_btnDaypartRemove_clicked()
     if (timerbar::DaypartCells *cells = currentCells()) {
         const QList<Bin> bins = m_grid.checkedBins();
         for (const Bin bin : bins)
-            cellAt(*cells, bin) = timerbar::emptyCell;
+            (*cells)[bin] = timerbar::emptyCell;
     }
     loadCurrentDaypart();
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/gui/opentimerbar.h"
+#include "tests/gui/timerbarbuttons.h"
 #include "tests/support/warnings.h"
 #include "timerbar/timerbarconfig.h"
 #include "timerbar/timerbardaypartassignitem.h"
@@ -15,7 +16,7 @@ class TestTimerBarGrid : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void daypartsAreNamed();
-    void modelsShowTheirBins_data();
+    void modelsShowTheirBins_data() { cbr::addModelRows(); }
     void modelsShowTheirBins();
     void everyBinShowsItsProduct_data() { cbr::addModelRows(); }
     void everyBinShowsItsProduct();
@@ -35,17 +36,9 @@ private slots:
 
 namespace {
 
-// "20" is the left-most bin of the third row from the top.
-QByteArray buttonName(const QByteArray &bin)
-{
-    const int column = bin[1] - '0';
-    return QByteArray("btnDaypartSelect") + (column >= 2 ? "B" : "") + bin[0] + '_' +
-           QByteArray::number(column % 2);
-}
-
 QPushButton &binButton(OpenTimerBar &editor, const QByteArray &bin)
 {
-    return editor.button(buttonName(bin).constData());
+    return editor.button(timerbarbuttons::nameOf(bin).toLatin1().constData());
 }
 
 QStringList shownButtons(OpenTimerBar &editor)
@@ -53,7 +46,7 @@ QStringList shownButtons(OpenTimerBar &editor)
     QStringList names;
     for (const QPushButton *button : editor->findChildren<QPushButton *>()) {
         if (button->objectName().startsWith(u"btnDaypartSelect"_s) && button->isVisible())
-            names.append(button->objectName().sliced(QLatin1StringView("btnDaypartSelect").size()));
+            names.append(button->objectName());
     }
     names.sort();
     return names;
@@ -112,27 +105,13 @@ void TestTimerBarGrid::daypartsAreNamed()
     QVERIFY(editor.button("btnCancelDaypartRemove").isHidden());
 }
 
-void TestTimerBarGrid::modelsShowTheirBins_data()
-{
-    QTest::addColumn<QStringList>("buttons");
-    QTest::addColumn<int>("rightWidth"); // 0: no right pair
-    const QStringList left2{u"0_0"_s, u"0_1"_s, u"1_0"_s, u"1_1"_s};
-    const QStringList left3 = left2 + QStringList{u"2_0"_s, u"2_1"_s};
-    const QStringList right2{u"B0_0"_s, u"B0_1"_s, u"B1_0"_s, u"B1_1"_s};
-    QTest::newRow("KTR22") << left2 << 0;
-    QTest::newRow("KTR23") << left2 + QStringList{u"B0_0"_s, u"B1_0"_s} << 177;
-    QTest::newRow("KTR24") << left2 + right2 << 340;
-    QTest::newRow("KTR32") << left3 << 0;
-    QTest::newRow("KTR34") << left3 + right2 + QStringList{u"B2_0"_s, u"B2_1"_s} << 340;
-    QTest::newRow("KTR42") << left3 + QStringList{u"3_0"_s, u"3_1"_s} << 0;
-}
-
 // When it opens, and when another model is changed to it.
 void TestTimerBarGrid::modelsShowTheirBins()
 {
-    QFETCH(QStringList, buttons);
-    QFETCH(int, rightWidth);
-    const QString model = QString::fromLatin1(QTest::currentDataTag());
+    QFETCH(QString, model);
+    QStringList buttons = timerbarbuttons::namesOf(cbr::model(model).bins);
+    buttons.sort();
+    const int rightWidth = std::array{0, 0, 0, 177, 340}.at(std::size_t(cbr::model(model).columns));
     for (const QString &before : {model, u"KTR22"_s, u"KTR23"_s, u"KTR34"_s, u"KTR42"_s}) {
         OpenTimerBar editor(baconHamChili(before));
         if (before != model)

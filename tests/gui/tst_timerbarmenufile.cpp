@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/gui/opentimerbar.h"
+#include "tests/gui/timerbarbuttons.h"
 #include "tests/support/slotlist.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/warnings.h"
+#include "timerbar/binbuttons.h"
 #include "timerbar/timerbarconfig.h"
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,7 @@ class TestTimerBarMenuFile : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void slotsAreInOrder();
+    void everyButtonIsABin();
     void newMenuAsksForTheCabinet();
     void newMenuHoldsTheDefaultProducts();
     void cancelledConfigurationMakesNoMenu_data();
@@ -60,10 +63,9 @@ QByteArray written(TimerBarMenuFile &editor)
 QStringList binButtonSlots()
 {
     QStringList names;
-    for (const QString &bin : {u"0_0"_s, u"0_1"_s, u"1_0"_s, u"1_1"_s, u"2_0"_s, u"2_1"_s, u"3_0"_s, u"3_1"_s,
-                               u"B0_0"_s, u"B0_1"_s, u"B1_0"_s, u"B1_1"_s, u"B2_0"_s, u"B2_1"_s}) {
+    for (const QString &button : timerbarbuttons::namesOf(timerbarbuttons::allBins())) {
         for (const QString &signal : {u"pressed"_s, u"released"_s, u"clicked"_s})
-            names.append(u"on_btnDaypartSelect%1_%2()"_s.arg(bin, signal));
+            names.append(u"on_%1_%2()"_s.arg(button, signal));
     }
     return names;
 }
@@ -100,8 +102,25 @@ void TestTimerBarMenuFile::slotsAreInOrder()
                             u"on_listWidgetProducts_itemDoubleClicked(QListWidgetItem* item)"_s,
                             u"on_comboDaypartSelect_currentIndexChanged(int index)"_s,
                             u"on_listWidgetProducts_itemChanged(QListWidgetItem* item)"_s};
-    QCOMPARE(binButtonSlots().size(), 42);
     QCOMPARE(ownSlots(TimerBarMenuFile::staticMetaObject), before + binButtonSlots() + after);
+}
+
+// A model's bins, the form's buttons and the editor's list of them belong together.
+void TestTimerBarMenuFile::everyButtonIsABin()
+{
+#define NAME_OF(button, row, column) QStringLiteral(#button),
+    QStringList listed{FOR_EACH_TIMER_BAR_BIN_BUTTON(NAME_OF)};
+#undef NAME_OF
+    QCOMPARE(listed, timerbarbuttons::namesOf(timerbarbuttons::allBins()));
+    OpenTimerBar editor(baconHamChili());
+    QStringList inTheForm;
+    for (const QPushButton *button : editor->findChildren<QPushButton *>()) {
+        if (button->objectName().startsWith(u"btnDaypartSelect"_s))
+            inTheForm.append(button->objectName());
+    }
+    inTheForm.sort();
+    listed.sort();
+    QCOMPARE(inTheForm, listed);
 }
 
 void TestTimerBarMenuFile::newMenuAsksForTheCabinet()
