@@ -3,6 +3,8 @@
 
 #include "timerbar/timerbarmenufile.h"
 
+#include <utility>
+
 #include <QFile>
 
 #include "model/files.h"
@@ -41,7 +43,7 @@ TimerBarMenuFile::TimerBarMenuFile(const QString &filePath, QWidget *parent)
                   m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct})
 {
     m_ui->btnExportFile->hide(); // there is nothing to export to yet
-    setMenuValid(filePath.isEmpty() ? createMenu() : readMenuFile());
+    setMenuValid(filePath.isEmpty() ? createMenu() : readInto(m_menu));
     if (!isMenuValid())
         return;
     loadCabinetInfo();
@@ -81,17 +83,26 @@ SaveNameRequest TimerBarMenuFile::closingNameRequest() const
 
 bool TimerBarMenuFile::readMenuFile()
 {
+    timerbar::Menu menu;
+    if (!readInto(menu))
+        return false;
+    m_menu = std::move(menu);
+    loadCabinetInfo();
+    loadMenuFile();
+    return true;
+}
+
+bool TimerBarMenuFile::readInto(timerbar::Menu &menu)
+{
     const QString path = filePath();
     const std::optional<QByteArray> bytes = readFile(path);
-    m_menu = {};
-    const QString fault = bytes ? timerbar::readMenu(*bytes, m_menu) : tr("Failed to open the file:") + path;
-    if (!fault.isEmpty()) {
+    const QString fault = bytes ? timerbar::readMenu(*bytes, menu) : tr("Failed to open the file:") + path;
+    setMenuValid(fault.isEmpty());
+    if (fault.isEmpty())
+        setFilePath(path);
+    else
         messages::fileFault(fault);
-        setMenuValid(false);
-        return false;
-    }
-    setFilePath(path);
-    return true;
+    return fault.isEmpty();
 }
 
 bool TimerBarMenuFile::writeMenuFile(const QString &fileName)

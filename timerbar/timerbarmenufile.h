@@ -21,7 +21,8 @@ class TimerBarMenuFile;
 
 /// The editor of one Timer Bar menu. It owns the menu: model, unit, products and the bins of six day parts.
 ///
-/// The slots are its whole surface; rules and file format are in the core. Dialogs read the accessors.
+/// Rules and file format are in the core. The slots keep their names and order, as callers find them by name.
+/// Dialogs read the accessors when they are built.
 class TimerBarMenuFile final : public MenuEditor
 {
     Q_OBJECT
@@ -31,19 +32,21 @@ public:
     explicit TimerBarMenuFile(const QString &filePath, QWidget *parent = nullptr);
     ~TimerBarMenuFile() override;
 
-    /// Writes in place, record by record: after a failure, which has been shown, the file holds a part of the
-    /// menu and the editor counts as invalid until a later write succeeds.
+    /// Writes in place, record by record: after an error, which has been shown, the file holds a part of the
+    /// menu and the editor counts as invalid until a later read or write succeeds.
     bool writeMenuFile(const QString &fileName);
     bool writeToFile(const QString &path) override { return writeMenuFile(path); }
 
     [[nodiscard]] QString model() const { return m_menu.model; }
     [[nodiscard]] int temperatureUnit() const { return m_menu.temperatureUnit; }
-    /// The records stay the editor's and go with the next deletion.
+    /// The records stay the editor's: they go when they are deleted or the file is read again.
     [[nodiscard]] QList<ProductInfo *> products() const;
 
 public slots:
     void closeEvent(QCloseEvent *event) override;
     void reject() override;
+    /// Reads the file again and shows it. After an error, which has been shown, the menu is as it was, and
+    /// the editor counts as invalid until a later read or write succeeds.
     bool readMenuFile();
     void loadDefaultMenu();
     /// Shows everything anew, with no current row.
@@ -78,6 +81,7 @@ protected:
 
 private:
     [[nodiscard]] bool createMenu();
+    [[nodiscard]] bool readInto(timerbar::Menu &menu);
     [[nodiscard]] ProductInfo *currentProduct() const; ///< null for none
     void addProduct(std::unique_ptr<ProductInfo> product);
     [[nodiscard]] bool refuseWhenFull();

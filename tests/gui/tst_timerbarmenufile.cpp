@@ -24,7 +24,6 @@ private slots:
     void cancelledConfigurationMakesNoMenu_data();
     void cancelledConfigurationMakesNoMenu();
     void openedMenuIsShown();
-    void readingAgainReplacesTheMenu();
     void saveWithoutAPathDoesNothing();
     void configurationChangesTheMenu();
     void cancelledConfigurationChangesNothing();
@@ -201,26 +200,6 @@ void TestTimerBarMenuFile::openedMenuIsShown()
     QCOMPARE(editor.products().size(), 12);
     QVERIFY(editor.save());
     QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(menu));
-}
-
-void TestTimerBarMenuFile::readingAgainReplacesTheMenu()
-{
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.cbr"_s, cbr::manyInBins(u"KTR34"_s, 12, 1).bytes());
-    TimerBarMenuFile editor(path);
-    QVERIFY(editor.readMenuFile());
-    QVERIFY(editor.save());
-    QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(cbr::manyInBins(u"KTR34"_s, 12, 1)));
-    // A file need not name every day part; the missing one is empty then.
-    cbr::Menu other = cbr::manyInBins(u"KTR24"_s, 3);
-    QByteArray bytes = other.bytes();
-    const qsizetype daypartSize = other.daypartRecord(0).size();
-    bytes.replace(bytes.size() - daypartSize, daypartSize, other.daypartRecord(0));
-    folder.write(u"menu.cbr"_s, cbr::withChecksum(bytes));
-    QVERIFY(editor.readMenuFile());
-    QVERIFY(editor.save());
-    other.dayparts[5] = {};
-    QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(other));
 }
 
 void TestTimerBarMenuFile::saveWithoutAPathDoesNothing()
