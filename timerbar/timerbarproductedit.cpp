@@ -8,8 +8,10 @@
 #include <QSignalBlocker>
 
 #include "model/names.h"
+#include "model/productinfo.h"
 #include "model/temperature.h"
-#include "model/times.h"
+#include "model/timelimits.h"
+#include "timerbar/productrules.h"
 #include "timerbar/timerbarmenufile.h"
 #include "ui_timerbarproductedit.h"
 #include "widgets/enterkey.h"
@@ -20,38 +22,30 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int minHoldSeconds = 6 * 60;
-constexpr int maxHoldSeconds = 8 * 60 * 60;
-// Cabinets with older software know no lower temperatures.
-constexpr int leastCommonTemperature = 155;
-
-// A box shows a time of day, whereas files can hold times of 24 h and more: 24:30 is shown as 00:30. While a
-// box still shows what it was filled with, the product's own time counts, in the checks as in the record. So
-// saving never turns such a time into a short one unseen; it is refused until another one is entered.
-int enteredSeconds(const QTimeEdit *edit, int storedSeconds)
+std::unique_ptr<Ui::TimerBarProductEdit> makeForm(TimerBarProductEdit *dialog)
 {
-    return edit->time() == timeOfSeconds(storedSeconds) ? storedSeconds : secondsOf(edit->time());
-}
-
-bool isLetterOrDigit(QChar character)
-{
-    return (character >= u'A' && character <= u'Z') || (character >= u'a' && character <= u'z') ||
-           (character >= u'0' && character <= u'9');
+    auto form = std::make_unique<Ui::TimerBarProductEdit>();
+    form->setupUi(dialog);
+    return form;
 }
 
 } // namespace
 
 TimerBarProductEdit::TimerBarProductEdit(ProductInfo &product, TimerBarMenuFile *menuFile)
     : QDialog(menuFile)
-    , m_ui(std::make_unique<Ui::TimerBarProductEdit>())
+    , m_ui(makeForm(this))
     , m_product(product)
     , m_temperatureUnit(menuFile->temperatureUnit())
+    , m_holdTime(m_ui->timeHoldTime)
+    , m_alertTime(m_ui->timeWarningTime)
 {
-    m_ui->setupUi(this);
     const QString suffix = u"(%1)"_s.arg(unitText(m_temperatureUnit));
     m_ui->lblTempUpper->setText(tr("Upper Temperature ") + suffix);
     m_ui->lblTempLower->setText(tr("Lower Temperature ") + suffix);
-    fillFields();
+    fillNames();
+    fillTemperatures();
+    m_holdTime.show(m_product.get_holdTime());
+    m_alertTime.show(m_product.get_warningTime());
     m_ui->txtProductName->setFocus();
     letEnterPressFocusedButton(this);
     fixDesignedSize(this);
@@ -59,7 +53,7 @@ TimerBarProductEdit::TimerBarProductEdit(ProductInfo &product, TimerBarMenuFile 
 
 TimerBarProductEdit::~TimerBarProductEdit() = default;
 
-void TimerBarProductEdit::fillFields()
+void TimerBarProductEdit::fillNames()
 {
     // What a menu already holds is not checked: a name such as "Eggs / Egg Patties" may stay.
     const QSignalBlocker nameBlocker(m_ui->txtProductName);
@@ -68,14 +62,15 @@ void TimerBarProductEdit::fillFields()
     m_ui->txtShortName->setText(m_product.get_productShortName());
     m_acceptedName = m_ui->txtProductName->text();
     m_acceptedShortName = m_ui->txtShortName->text();
+}
 
-    const bool celsius = m_temperatureUnit == unitCelsius;
+void TimerBarProductEdit::fillTemperatures()
+{
+    const TemperatureRange range = timerbar::productTemperatureRange(m_temperatureUnit);
     for (QSpinBox *box : {m_ui->numTempUpper, m_ui->numTempLower})
-        box->setRange(celsius ? 38 : 100, celsius ? 107 : 225);
+        box->setRange(range.lowest, range.highest);
     m_ui->numTempUpper->setValue(shownTemperature(m_product.get_upperTemp(), m_temperatureUnit));
     m_ui->numTempLower->setValue(shownTemperature(m_product.get_lowerTemp(), m_temperatureUnit));
-    m_ui->timeHoldTime->setTime(timeOfSeconds(m_product.get_holdTime()));
-    m_ui->timeWarningTime->setTime(timeOfSeconds(m_product.get_warningTime()));
 }
 
 void TimerBarProductEdit::on_btnCancel_clicked()
@@ -97,12 +92,7 @@ void TimerBarProductEdit::on_btnSave_clicked()
 
 int TimerBarProductEdit::holdSeconds() const
 {
-    return enteredSeconds(m_ui->timeHoldTime, m_product.get_holdTime()) / 60 * 60; // whole minutes
-}
-
-int TimerBarProductEdit::alertSeconds() const
-{
-    return enteredSeconds(m_ui->timeWarningTime, m_product.get_warningTime());
+    return m_holdTime.seconds() / 60 * 60;
 }
 
 QString TimerBarProductEdit::firstFault() const
@@ -111,13 +101,7 @@ QString TimerBarProductEdit::firstFault() const
         return tr("Product name is empty!");
     if (m_ui->txtShortName->text().isEmpty())
         return tr("Product short name is empty!");
-    if (holdSeconds() < minHoldSeconds)
-        return tr("Invalid hold time. Minimum value is 6 minutes!");
-    if (holdSeconds() > maxHoldSeconds)
-        return tr("Invalid hold time. Maximum value is 8 hours!");
-    if (holdSeconds() <= alertSeconds())
-        return tr("Invalid cook more alert time. Value must be less than hold time!");
-    return {};
+    return holdTimeFault(holdSeconds(), m_alertTime.seconds());
 }
 
 void TimerBarProductEdit::storeNamesAndTemperatures()
@@ -133,34 +117,31 @@ void TimerBarProductEdit::storeNamesAndTemperatures()
 
 void TimerBarProductEdit::noticeLowTemperatures()
 {
-    if (std::min(m_product.get_lowerTemp(), m_product.get_upperTemp()) < leastCommonTemperature)
-        messages::warning(this, tr("Temperature values less than 155°F are supported in cabinet IO software "
-                                   "version 1.6.2 or newer"));
+    const QString notice = timerbar::temperatureNotice(m_product.get_upperTemp(), m_product.get_lowerTemp());
+    if (!notice.isEmpty())
+        messages::warning(this, notice);
 }
 
 void TimerBarProductEdit::storeTimes()
 {
     m_product.set_holdTime(holdSeconds());
-    m_product.set_warningTime(alertSeconds());
+    m_product.set_warningTime(m_alertTime.seconds());
 }
 
 void TimerBarProductEdit::on_txtShortName_textChanged(const QString &arg1)
 {
-    if (std::all_of(arg1.begin(), arg1.end(), isLetterOrDigit))
+    if (const QString fault = timerbar::shortNameFault(arg1); fault.isEmpty())
         m_acceptedShortName = arg1;
     else
-        revert(m_ui->txtShortName, m_acceptedShortName,
-               tr("Product short name should be English characters or numbers only"));
+        revert(m_ui->txtShortName, m_acceptedShortName, fault);
 }
 
 void TimerBarProductEdit::on_txtProductName_textChanged(const QString &arg1)
 {
-    const auto isAllowed = [](QChar character) { return character == u' ' || isLetterOrDigit(character); };
-    if (std::all_of(arg1.begin(), arg1.end(), isAllowed))
+    if (const QString fault = timerbar::nameFault(arg1); fault.isEmpty())
         m_acceptedName = arg1;
     else
-        revert(m_ui->txtProductName, m_acceptedName,
-               tr("Product name should be English characters or numbers only"));
+        revert(m_ui->txtProductName, m_acceptedName, fault);
 }
 
 void TimerBarProductEdit::revert(QLineEdit *edit, const QString &acceptedText, const QString &message)

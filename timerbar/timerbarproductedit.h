@@ -7,6 +7,8 @@
 
 #include <QDialog>
 
+#include "widgets/timeentry.h"
+
 class ProductInfo;
 class QLineEdit;
 class TimerBarMenuFile;
@@ -15,7 +17,7 @@ namespace Ui {
 class TimerBarProductEdit;
 }
 
-/// Edits one product of a Timer Bar menu. The record is written only by a Save that passes every check.
+/// Edits one product of a Timer Bar menu. Only a Save that passes every check writes the record.
 class TimerBarProductEdit final : public QDialog
 {
     Q_OBJECT
@@ -32,11 +34,11 @@ public slots:
     void on_txtProductName_textChanged(const QString &arg1);
 
 private:
-    void fillFields();
+    void fillNames();
+    void fillTemperatures();
     void revert(QLineEdit *edit, const QString &acceptedText, const QString &message);
     [[nodiscard]] QString firstFault() const;
-    [[nodiscard]] int holdSeconds() const;
-    [[nodiscard]] int alertSeconds() const;
+    [[nodiscard]] int holdSeconds() const; ///< whole minutes
     void storeNamesAndTemperatures();
     void noticeLowTemperatures();
     void storeTimes();
@@ -44,7 +46,9 @@ private:
     std::unique_ptr<Ui::TimerBarProductEdit> m_ui;
     ProductInfo &m_product;
     int m_temperatureUnit;
-    // What a field goes back to when a character is refused.
+    TimeEntry m_holdTime;
+    TimeEntry m_alertTime;
+    // What a field goes back to when a character cannot be taken.
     QString m_acceptedName;
     QString m_acceptedShortName;
 };
