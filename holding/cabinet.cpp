@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace holding {
 
-static_assert(std::all_of(models.begin(), models.end(),
+static_assert(std::all_of(allModels.begin(), allModels.end(),
                           [](const CabinetModel &model) {
                               return model.shape.rows <= maxRows && model.shape.binsPerRow() <= maxSlots;
                           }),
@@ -28,7 +28,7 @@ bool isZpv(const QString &type)
 QStringList cabinetTypes()
 {
     QStringList types;
-    for (const CabinetModel &model : models)
+    for (const CabinetModel &model : allModels)
         types.append(model.type);
     types.removeDuplicates();
     return types;
@@ -37,7 +37,7 @@ QStringList cabinetTypes()
 QStringList cabinetModels(const QString &type)
 {
     QStringList names;
-    for (const CabinetModel &model : models) {
+    for (const CabinetModel &model : allModels) {
         if (model.type == type)
             names.append(model.name);
     }
@@ -46,15 +46,15 @@ QStringList cabinetModels(const QString &type)
 
 CabinetShape cabinetShape(const QString &type, const QString &model)
 {
-    const auto *found = std::find_if(models.begin(), models.end(), [&](const CabinetModel &candidate) {
+    const auto *found = std::find_if(allModels.begin(), allModels.end(), [&](const CabinetModel &candidate) {
         return candidate.type == type && candidate.name == model;
     });
-    return found == models.end() ? CabinetShape{} : found->shape;
+    return found == allModels.end() ? CabinetShape{} : found->shape;
 }
 
 bool isShowableRowCount(int rows)
 {
-    return std::any_of(models.begin(), models.end(),
+    return std::any_of(allModels.begin(), allModels.end(),
                        [rows](const CabinetModel &model) { return model.shape.rows == rows; });
 }
 

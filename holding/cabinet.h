@@ -74,7 +74,7 @@ struct CabinetModel
 };
 
 /// In the order in which they are offered: of the ZPV cabinets the larger one comes first.
-inline constexpr std::array<CabinetModel, 13> models{{
+inline constexpr auto allModels = std::to_array<CabinetModel>({
     {QLatin1StringView("QHX"), QLatin1StringView("KTR22"), {2, 2, 1, false}},
     {QLatin1StringView("QHX"), QLatin1StringView("KTR23"), {2, 2, 2, true}},
     {QLatin1StringView("QHX"), QLatin1StringView("KTR24"), {2, 2, 2, false}},
@@ -88,7 +88,7 @@ inline constexpr std::array<CabinetModel, 13> models{{
     {QLatin1StringView("QHX"), QLatin1StringView("KTR82"), {8, 2, 1, false}},
     {QLatin1StringView("ZPV"), QLatin1StringView("ZPV43"), {4, 3, 1, false}},
     {QLatin1StringView("ZPV"), QLatin1StringView("ZPV23"), {2, 3, 1, false}},
-}};
+});
 
 /// The largest row count and row of all models: what a day part has room for.
 inline constexpr int maxRows = 8;

@@ -54,7 +54,7 @@ constexpr bool hasButtonForEachBin(const holding::CabinetModel &model)
                                  [&](const GridButton &button) { return button.isIn(model.shape); });
 }
 
-static_assert(std::all_of(holding::models.begin(), holding::models.end(), hasButtonForEachBin),
+static_assert(std::all_of(holding::allModels.begin(), holding::allModels.end(), hasButtonForEachBin),
               "the grid lacks buttons for the bins of some model");
 
 constexpr int binGap = 2; // in the form; 265 and 127 leave no more in the only zone

@@ -19,7 +19,7 @@ constexpr bool hasSplits(int binsPerZone)
                        [=](const ZoneSplit &split) { return split.binsPerZone == binsPerZone; });
 }
 
-static_assert(std::all_of(models.begin(), models.end(),
+static_assert(std::all_of(allModels.begin(), allModels.end(),
                           [](const CabinetModel &model) { return hasSplits(model.shape.binsPerZone); }),
               "the zones of some model have no zone splits");
 

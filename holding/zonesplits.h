@@ -27,7 +27,7 @@ struct ZoneSplit
 };
 
 /// By bins a zone, in the order in which they are offered; the first one is what a new product starts with.
-inline constexpr std::array<ZoneSplit, 10> allZoneSplits{{
+inline constexpr auto allZoneSplits = std::to_array<ZoneSplit>({
     {2, QLatin1StringView("1/2"), 1, 194},
     {2, QLatin1StringView("1/1"), 2, 394, 230},
     {3, QLatin1StringView("1/3"), 1, 127},
@@ -38,7 +38,7 @@ inline constexpr std::array<ZoneSplit, 10> allZoneSplits{{
     {4, QLatin1StringView("1/2"), 2},
     {4, QLatin1StringView("3/4"), 3},
     {4, QLatin1StringView("1/1"), 4},
-}};
+});
 
 /// The zone splits that a product of a cabinet may have. Empty for a number of bins that no zone has.
 [[nodiscard]] QStringList offeredZoneSplits(int binsPerZone);

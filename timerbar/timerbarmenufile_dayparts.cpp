@@ -113,8 +113,8 @@ void TimerBarMenuFile::registerBins(const timerbar::CabinetShape &shape)
     m_grid.clear();
     for (const auto &[member, bin] : gridButtons) {
         BinButton *button = (*m_ui).*member;
-        button->setVisible(shape.has(bin));
-        if (shape.has(bin))
+        button->setVisible(shape.hasBin(bin));
+        if (shape.hasBin(bin))
             m_grid.add(button, bin);
     }
 }

@@ -61,7 +61,7 @@ void TestTimerBarCabinet::bins()
     QList<QByteArray> found;
     for (int row = 0; row < 10; ++row) {
         for (int column = 0; column < 10; ++column) {
-            if (shape.has({row, column}))
+            if (shape.hasBin({row, column}))
                 found.append(QByteArray::number(row) + QByteArray::number(column));
         }
     }
@@ -89,7 +89,7 @@ void TestTimerBarCabinet::unknownModels()
     QCOMPARE(shape.columnLayout, 0);
     QCOMPARE(shape.bins(), 0);
     QVERIFY(!shape.isKnown());
-    QVERIFY(!shape.has({0, 0}));
+    QVERIFY(!shape.hasBin({0, 0}));
 }
 
 void TestTimerBarCabinet::modelsOfShapes()

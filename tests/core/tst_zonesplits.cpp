@@ -74,7 +74,7 @@ void TestZoneSplits::room()
 // A whole zone can be taken, a single slot too, and no split asks for more than a zone has.
 void TestZoneSplits::everyModelHasSplits()
 {
-    for (const CabinetModel &model : models) {
+    for (const CabinetModel &model : allModels) {
         const int bins = model.shape.binsPerZone;
         QVERIFY2(zoneSplitsForRun(bins, bins).contains(u"1/1"_s), model.name.data());
         QCOMPARE(zoneSplitsForRun(bins, 1).size(), 1);
