@@ -89,22 +89,17 @@ void MainWindow::on_actionNew_triggered()
 
 void MainWindow::on_actionOpen_triggered()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open JSON Menu"), {},
-        tr("Varno Menu Files (*.json *.qhx *.txt *.cbr);;QHX Json Menu Files (*.json);;"
-           "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"));
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open JSON Menu"), {}, openFilter());
     if (const ProductLine *line = productLineOfFile(path))
         openEditor(*line, path);
 }
 
 void MainWindow::openEditor(const ProductLine &line, const QString &path)
 {
-    MenuEditor *editor = line.create(path, this);
-    if (!editor->isMenuValid()) {
-        delete editor;
+    std::unique_ptr<MenuEditor> editor = line.editor.create(path, this);
+    if (!editor->isMenuValid())
         return;
-    }
-    QMdiSubWindow *subWindow = m_ui->mdiArea->addSubWindow(editor);
+    QMdiSubWindow *subWindow = m_ui->mdiArea->addSubWindow(editor.release());
     subWindow->setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowMinimizeButtonHint |
                               Qt::MSWindowsFixedSizeDialogHint);
     // A sub-window of fixed size is given a system menu, with which styles draw a close button.
@@ -113,45 +108,45 @@ void MainWindow::openEditor(const ProductLine &line, const QString &path)
     subWindow->setObjectName(line.subWindowName);
 }
 
-OpenMenu MainWindow::activeMenu() const
+MenuEditor *MainWindow::activeEditor() const
 {
     const QMdiSubWindow *subWindow = m_ui->mdiArea->activeSubWindow();
-    return subWindow ? openMenuIn(*subWindow) : OpenMenu{};
+    return subWindow ? menuEditorIn(*subWindow) : nullptr;
 }
 
 void MainWindow::on_action_Save_triggered()
 {
-    const OpenMenu menu = activeMenu();
-    if (!menu.editor)
+    MenuEditor *editor = activeEditor();
+    if (!editor)
         return;
-    if (menu.editor->filePath().isEmpty())
-        saveUnderChosenName(menu, menu.line->saveRequest(*menu.editor));
+    if (editor->filePath().isEmpty())
+        saveUnderChosenName(*editor, SaveKind::Save);
     else
-        menu.editor->save();
+        editor->save();
 }
 
 void MainWindow::on_actionSaveAs_triggered()
 {
-    if (const OpenMenu menu = activeMenu(); menu.editor)
-        saveUnderChosenName(menu, menu.line->saveAsRequest(*menu.editor));
+    if (MenuEditor *editor = activeEditor())
+        saveUnderChosenName(*editor, SaveKind::SaveAs);
 }
 
-void MainWindow::saveUnderChosenName(const OpenMenu &menu, const SaveNameRequest &request)
+void MainWindow::saveUnderChosenName(MenuEditor &editor, SaveKind kind)
 {
-    const QString path = askSaveName(this, request);
+    const QString path = askSaveName(this, editor.nameRequest(kind));
     if (!path.isEmpty())
-        menu.editor->writeToFile(path);
+        editor.writeToFile(path);
 }
 
 bool MainWindow::saveAll()
 {
     const QList<QMdiSubWindow *> subWindows = m_ui->mdiArea->subWindowList();
     for (QMdiSubWindow *subWindow : subWindows) {
-        const OpenMenu menu = openMenuIn(*subWindow);
-        if (!menu.editor)
+        MenuEditor *editor = menuEditorIn(*subWindow);
+        if (!editor)
             continue;
-        if (!menu.editor->filePath().isEmpty()) {
-            if (!menu.editor->save())
+        if (!editor->filePath().isEmpty()) {
+            if (!editor->save())
                 return false;
             continue;
         }
@@ -159,10 +154,10 @@ bool MainWindow::saveAll()
         if (subWindow->isMinimized())
             subWindow->showNormal();
         m_ui->mdiArea->setActiveSubWindow(subWindow);
-        const QString path = askSaveName(this, menu.line->saveRequest(*menu.editor));
+        const QString path = askSaveName(this, editor->nameRequest(SaveKind::Save));
         if (path.isEmpty())
             return false;
-        menu.editor->writeToFile(path); // a failure has been shown and does not keep the program open
+        editor->writeToFile(path); // a failure has been shown and does not keep the program open
     }
     return true;
 }

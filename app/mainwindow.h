@@ -14,7 +14,7 @@ class MainWindow;
 }
 
 /// The main window: each open menu is a sub-window of its document area, and the File menu acts on the
-/// active one. It knows the editors only through ProductLine and MenuEditor. Constructing it sets, for the
+/// active one. It knows the editors only as MenuEditor. Constructing it sets, for the
 /// whole application, how the titles of sub-windows are laid out.
 class MainWindow final : public QMainWindow
 {
@@ -25,7 +25,7 @@ public:
     ~MainWindow() override;
 
     /// Opens a file, or a new menu for an empty path, in a sub-window of its own. Nothing is left of an
-    /// editor that has refused it.
+    /// editor that could not be set up.
     void openEditor(const ProductLine &line, const QString &path);
 
 public slots:
@@ -40,8 +40,8 @@ public slots:
     void on_actionSaveAs_triggered();
 
 private:
-    [[nodiscard]] OpenMenu activeMenu() const;
-    void saveUnderChosenName(const OpenMenu &menu, const SaveNameRequest &request);
+    [[nodiscard]] MenuEditor *activeEditor() const; ///< null for none
+    void saveUnderChosenName(MenuEditor &editor, SaveKind kind);
     [[nodiscard]] bool saveAll();
 
     std::unique_ptr<Ui::MainWindow> m_ui;

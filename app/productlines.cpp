@@ -17,16 +17,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 template <typename Editor>
-MenuEditor *create(const QString &path, QWidget *parent)
-{
-    return new Editor(path, parent);
-}
-
-template <typename Editor>
-MenuEditor *cast(QWidget *widget)
-{
-    return qobject_cast<Editor *>(widget);
-}
+constexpr EditorClass editorClass{
+    .create = [](const QString &path, QWidget *parent) -> std::unique_ptr<MenuEditor> {
+        return std::make_unique<Editor>(path, parent);
+    },
+    .cast = [](QWidget *widget) -> MenuEditor * { return qobject_cast<Editor *>(widget); }};
 
 struct Text
 {
@@ -43,52 +38,27 @@ const ProductLine *find(Predicate matches)
 
 } // namespace
 
-SaveNameRequest ProductLine::saveRequest(const MenuEditor &editor) const
-{
-    const QString path = editor.filePath();
-    return {saveCaption(), path.isEmpty() ? startName : path, fileFilter()};
-}
-
-SaveNameRequest ProductLine::saveAsRequest(const MenuEditor &editor) const
-{
-    SaveNameRequest request = saveRequest(editor);
-    request.caption = saveAsCaption();
-    return request;
-}
-
 const QList<ProductLine> &productLines()
 {
     static const QList<ProductLine> lines{
         {.resultCode = 1,
          .name = u"QHX/ZPV"_s,
          .subWindowName = "QhxMenuFile"_L1,
-         .endings = {".json"_L1, ".qhx"_L1},
-         .startName = {},
-         .saveCaption = [] { return Text::tr("Save JSON Menu"); },
-         .saveAsCaption = [] { return Text::tr("Save As JSON Menu"); },
-         .fileFilter = [] { return Text::tr("JSON Menu Files (*.json)"); },
-         .create = create<MenuFile>,
-         .cast = cast<MenuFile>},
+         .suffixes = {".json"_L1, ".qhx"_L1},
+         .openFilter = [] { return Text::tr("QHX Json Menu Files (*.json)"); },
+         .editor = editorClass<MenuFile>},
         {.resultCode = 2,
          .name = u"Savorix"_s,
          .subWindowName = "SvrxMenuFile"_L1,
-         .endings = {".txt"_L1},
-         .startName = lanes::configurationPrefix,
-         .saveCaption = SvrxMenuFile::saveCaption,
-         .saveAsCaption = SvrxMenuFile::saveCaption,
-         .fileFilter = SvrxMenuFile::fileFilter,
-         .create = create<SvrxMenuFile>,
-         .cast = cast<SvrxMenuFile>},
+         .suffixes = {".txt"_L1},
+         .openFilter = [] { return Text::tr("Savorix Menu Files (*.txt)"); },
+         .editor = editorClass<SvrxMenuFile>},
         {.resultCode = 3,
          .name = u"Timer Bar Cabinet"_s,
          .subWindowName = "TimerBarMenuFile"_L1,
-         .endings = {".cbr"_L1},
-         .startName = {},
-         .saveCaption = [] { return Text::tr("Save TimerBar Menu"); },
-         .saveAsCaption = [] { return Text::tr("Save TimerBar Menu"); },
-         .fileFilter = [] { return Text::tr("TimerBar Menu Files (*.cbr)"); },
-         .create = create<TimerBarMenuFile>,
-         .cast = cast<TimerBarMenuFile>},
+         .suffixes = {".cbr"_L1},
+         .openFilter = [] { return Text::tr("TimerBar Menu Files (*.cbr)"); },
+         .editor = editorClass<TimerBarMenuFile>},
     };
     return lines;
 }
@@ -101,17 +71,29 @@ const ProductLine *productLineByResult(int resultCode)
 const ProductLine *productLineOfFile(const QString &path)
 {
     return find([&path](const ProductLine &line) {
-        return std::any_of(line.endings.begin(), line.endings.end(), [&path](QLatin1StringView ending) {
-            return path.endsWith(ending, Qt::CaseInsensitive);
+        return std::any_of(line.suffixes.begin(), line.suffixes.end(), [&path](QLatin1StringView suffix) {
+            return path.endsWith(suffix, Qt::CaseInsensitive);
         });
     });
 }
 
-OpenMenu openMenuIn(const QMdiSubWindow &subWindow)
+QString openFilter()
+{
+    QStringList patterns;
+    QStringList filters;
+    for (const ProductLine &line : productLines()) {
+        for (const QLatin1StringView suffix : line.suffixes)
+            patterns.append(u'*' + suffix);
+        filters.append(line.openFilter());
+    }
+    filters.prepend(Text::tr("Varno Menu Files (%1)").arg(patterns.join(u' ')));
+    return filters.join(";;"_L1);
+}
+
+MenuEditor *menuEditorIn(const QMdiSubWindow &subWindow)
 {
     const ProductLine *line = find([&subWindow](const ProductLine &candidate) {
         return subWindow.objectName() == candidate.subWindowName;
     });
-    MenuEditor *editor = line ? line->cast(subWindow.widget()) : nullptr;
-    return editor ? OpenMenu{line, editor} : OpenMenu{};
+    return line ? line->editor.cast(subWindow.widget()) : nullptr;
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <memory>
+
 #include <QList>
 #include <QString>
 
@@ -10,38 +12,35 @@
 
 class QMdiSubWindow;
 
-/// What the main window knows of one line of cabinets. Texts are looked up each time that they are needed, as
-/// the table outlives a translator.
+/// A line's class of editors.
+struct EditorClass
+{
+    /// For a file, or for a new menu with an empty path. See MenuEditor for one that is not valid.
+    std::unique_ptr<MenuEditor> (*create)(const QString &path, QWidget *parent);
+    /// The widget if it is such an editor, else null.
+    MenuEditor *(*cast)(QWidget *widget);
+};
+
+/// One line of cabinets, as the main window tells it from the others.
 struct ProductLine
 {
-    int resultCode;                   ///< of the product-line chooser; never 0
-    QString name;                     ///< as the chooser shows it; a product's name, not translated
-    QLatin1StringView subWindowName;  ///< object name of the sub-windows that hold its editors
-    QList<QLatin1StringView> endings; ///< of its files, in lower case
-    QString startName;                ///< proposed for a menu that was never saved
-    QString (*saveCaption)();
-    QString (*saveAsCaption)();
-    QString (*fileFilter)();
-    MenuEditor *(*create)(const QString &path, QWidget *parent);
-    MenuEditor *(*cast)(QWidget *widget); ///< the line's editor, or null for anything else
-
-    /// How to ask where to save; starts from the editor's current path if it has one.
-    [[nodiscard]] SaveNameRequest saveRequest(const MenuEditor &editor) const;
-    [[nodiscard]] SaveNameRequest saveAsRequest(const MenuEditor &editor) const;
+    int resultCode;                    ///< of the product-line chooser; never 0
+    QString name;                      ///< as the chooser shows it; a product's name, not translated
+    QLatin1StringView subWindowName;   ///< object name of the sub-windows that hold its editors
+    QList<QLatin1StringView> suffixes; ///< of its files, in lower case
+    QString (*openFilter)();           ///< its own entry in the open dialog; asked anew for each translation
+    EditorClass editor;
 };
 
 /// The lines whose menus can be created and opened, in the order in which they are offered.
 [[nodiscard]] const QList<ProductLine> &productLines();
 
-/// By the chooser's result, or by a file's ending in any case; null when no line matches.
+/// By the chooser's result, or by a file's suffix in any case; null when no line matches.
 [[nodiscard]] const ProductLine *productLineByResult(int resultCode);
 [[nodiscard]] const ProductLine *productLineOfFile(const QString &path);
 
-/// An open menu: its editor and its line; both null for a sub-window that holds none.
-struct OpenMenu
-{
-    const ProductLine *line = nullptr;
-    MenuEditor *editor = nullptr;
-};
+/// The filter of the open dialog: the files of all lines, then an entry for each line.
+[[nodiscard]] QString openFilter();
 
-[[nodiscard]] OpenMenu openMenuIn(const QMdiSubWindow &subWindow);
+/// The editor in a sub-window, which its line's name and class tell; null for none.
+[[nodiscard]] MenuEditor *menuEditorIn(const QMdiSubWindow &subWindow);

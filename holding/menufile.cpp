@@ -150,15 +150,15 @@ bool MenuFile::writeToFile(const QString &path)
 
 void MenuFile::saveAs()
 {
-    const QString path =
-        askSaveName(this, {tr("Save As JSON Menu"), filePath(), tr("JSON Menu Files (*.json)")});
+    const QString path = askSaveName(this, nameRequest(SaveKind::SaveAs));
     if (!path.isEmpty())
         writeToFile(path);
 }
 
-SaveNameRequest MenuFile::closingNameRequest() const
+SaveNameRequest MenuFile::nameRequest(SaveKind kind) const
 {
-    return {tr("Save JSON Menu"), filePath(), tr("JSON Menu Files (*.json)")};
+    const QString caption = kind == SaveKind::SaveAs ? tr("Save As JSON Menu") : tr("Save JSON Menu");
+    return {caption, filePath(), tr("JSON Menu Files (*.json)")};
 }
 
 void MenuFile::loadMenuFile()

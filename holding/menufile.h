@@ -35,6 +35,7 @@ public:
     ~MenuFile() override;
 
     bool writeToFile(const QString &path) override;
+    [[nodiscard]] SaveNameRequest nameRequest(SaveKind kind) const override;
     /// Asks for another name and writes there. The main window asks by itself, so that nothing in the program
     /// calls this; it is the editor's own way where there is no main window.
     void saveAs();
@@ -114,9 +115,6 @@ public slots: // old menus
     /// Adds the entries of an old binary menu and takes over its cabinet and its two day parts. The old menu
     /// is never written: a new menu has no path of its own yet. An error has been shown and changes nothing.
     bool importQhxMenuFile(const QString &fileName);
-
-protected:
-    [[nodiscard]] SaveNameRequest closingNameRequest() const override;
 
 private:
     [[nodiscard]] bool load(const QString &path);

@@ -93,19 +93,11 @@ void SvrxMenuFile::reject()
     MenuEditor::reject();
 }
 
-QString SvrxMenuFile::saveCaption()
+// Whatever it is asked for.
+SaveNameRequest SvrxMenuFile::nameRequest(SaveKind /*kind*/) const
 {
-    return tr("Save Savorix Menu");
-}
-
-QString SvrxMenuFile::fileFilter()
-{
-    return tr("Savorix Menu Files (*.txt)");
-}
-
-SaveNameRequest SvrxMenuFile::closingNameRequest() const
-{
-    return {saveCaption(), lanes::configurationPrefix, fileFilter()};
+    const QString start = filePath().isEmpty() ? QString(lanes::configurationPrefix) : filePath();
+    return {tr("Save Savorix Menu"), start, tr("Savorix Menu Files (*.txt)")};
 }
 
 void SvrxMenuFile::createMenu()

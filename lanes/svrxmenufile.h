@@ -26,15 +26,12 @@ public:
     explicit SvrxMenuFile(const QString &filePath, QWidget *parent = nullptr);
     ~SvrxMenuFile() override;
 
-    /// How a file dialog asks where to save.
-    [[nodiscard]] static QString saveCaption();
-    [[nodiscard]] static QString fileFilter();
-
     /// Writes the configuration to the current path; the production file stays as it is.
     bool save() override;
     /// Writes the configuration to a name that a cabinet loads, and the production file beside it. Any other
     /// name is refused and nothing is written.
     bool writeToFile(const QString &path) override;
+    [[nodiscard]] SaveNameRequest nameRequest(SaveKind kind) const override;
 
 public slots:
     void closeEvent(QCloseEvent *event) override;
@@ -55,7 +52,6 @@ public slots:
     void on_numTemperature4_valueChanged(int arg1);
 
 protected:
-    [[nodiscard]] SaveNameRequest closingNameRequest() const override;
     bool writeOnClosing(const QString &path) override;
 
 private:

@@ -76,9 +76,10 @@ void TimerBarMenuFile::reject()
     MenuEditor::reject();
 }
 
-SaveNameRequest TimerBarMenuFile::closingNameRequest() const
+SaveNameRequest TimerBarMenuFile::nameRequest(SaveKind kind) const
 {
-    return {tr("TimerBar Menu"), filePath(), tr("TimerBar Menu Files (*.cbr)")};
+    const QString caption = kind == SaveKind::Closing ? tr("TimerBar Menu") : tr("Save TimerBar Menu");
+    return {caption, filePath(), tr("TimerBar Menu Files (*.cbr)")};
 }
 
 bool TimerBarMenuFile::readMenuFile()

@@ -36,6 +36,7 @@ public:
     /// menu and the editor counts as invalid until a later read or write succeeds.
     bool writeMenuFile(const QString &fileName);
     bool writeToFile(const QString &path) override { return writeMenuFile(path); }
+    [[nodiscard]] SaveNameRequest nameRequest(SaveKind kind) const override;
 
     [[nodiscard]] QString model() const { return m_menu.model; }
     [[nodiscard]] int temperatureUnit() const { return m_menu.temperatureUnit; }
@@ -75,9 +76,6 @@ public slots:
     void on_listWidgetProducts_itemDoubleClicked(QListWidgetItem *item);
     void on_comboDaypartSelect_currentIndexChanged(int index);
     void on_listWidgetProducts_itemChanged(QListWidgetItem *item);
-
-protected:
-    [[nodiscard]] SaveNameRequest closingNameRequest() const override;
 
 private:
     [[nodiscard]] bool createMenu();

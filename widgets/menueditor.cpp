@@ -68,6 +68,6 @@ bool MenuEditor::writeOnClosing(const QString &path)
 
 bool MenuEditor::saveUnderNewName()
 {
-    const QString path = askSaveName(this, closingNameRequest());
+    const QString path = askSaveName(this, nameRequest(SaveKind::Closing));
     return !path.isEmpty() && writeOnClosing(path);
 }

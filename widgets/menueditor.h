@@ -6,6 +6,9 @@
 #include <QDialog>
 #include <QString>
 
+/// What a name to save under is asked for.
+enum class SaveKind { Save, SaveAs, Closing };
+
 /// What a save-file dialog is asked with.
 struct SaveNameRequest
 {
@@ -39,6 +42,8 @@ public:
     virtual bool save();
     /// Writes to a path that the user chose and makes it the current one. A failure has been shown.
     virtual bool writeToFile(const QString &path) = 0;
+    /// How to ask where to save; starts from the current path if there is one.
+    [[nodiscard]] virtual SaveNameRequest nameRequest(SaveKind kind) const = 0;
 
     /// Escape closes the sub-window, which asks as any closing does: a dialog's own way would hide the
     /// editor and leave its frame behind.
@@ -53,8 +58,7 @@ protected:
 
     /// Asks whether to save first. The editor schedules its own deletion, except after a save in place.
     void closeEvent(QCloseEvent *event) override;
-    /// How closing asks for the name of a menu that has none, and what it writes there.
-    [[nodiscard]] virtual SaveNameRequest closingNameRequest() const = 0;
+    /// What closing writes under the name that it asked for.
     virtual bool writeOnClosing(const QString &path);
 
 private:

@@ -6,6 +6,7 @@
 #include <QMdiSubWindow>
 
 #include "app/mainwindow.h"
+#include "app/productlines.h"
 #include "app/selectproductline.h"
 #include "holding/configuration.h"
 #include "tests/support/cbrbuilder.h"
@@ -42,14 +43,14 @@ const QList<Saving> savings{
 
 const QByteArray laneText = lanefile::text("T1=350,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0");
 
-// A menu of the line whose files end so.
-QByteArray bytesOf(const QString &ending)
+// A menu of the line whose files have the suffix.
+QByteArray bytesOf(const QString &suffix)
 {
-    if (ending == "json"_L1)
+    if (suffix == "json"_L1)
         return samplefile::Menu{}.bytes();
-    if (ending == "qhx"_L1)
+    if (suffix == "qhx"_L1)
         return qhx::sample().bytes();
-    return ending == "txt"_L1 ? laneText : cbr::Menu{}.bytes();
+    return suffix == "txt"_L1 ? laneText : cbr::Menu{}.bytes();
 }
 
 /// The main window with menus of all lines.
@@ -122,10 +123,11 @@ class TestProductLines : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void chooserOffersThemInOrder();
+    void openFilterNamesThemInOrder();
     void newOpensTheEditor_data() { addLineRows(); }
     void newOpensTheEditor();
-    void openGoesByTheEnding_data();
-    void openGoesByTheEnding();
+    void openGoesByTheSuffix_data();
+    void openGoesByTheSuffix();
     void saveAsksForAName_data() { addLineRows(); }
     void saveAsksForAName();
     void exitSavesThemAll();
@@ -143,6 +145,12 @@ void TestProductLines::chooserOffersThemInOrder()
     QCOMPARE(combo.currentIndex(), 0);
 }
 
+void TestProductLines::openFilterNamesThemInOrder()
+{
+    QCOMPARE(openFilter(), u"Varno Menu Files (*.json *.qhx *.txt *.cbr);;QHX Json Menu Files (*.json);;"
+                           "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"_s);
+}
+
 void TestProductLines::newOpensTheEditor()
 {
     QFETCH(const int, line);
@@ -153,7 +161,7 @@ void TestProductLines::newOpensTheEditor()
     QCOMPARE(subWindow->windowTitle(), line == TimerBar ? u"TimerBar Menu File - "_s : u"Menu File - "_s);
 }
 
-void TestProductLines::openGoesByTheEnding_data()
+void TestProductLines::openGoesByTheSuffix_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("kind");
@@ -172,7 +180,7 @@ void TestProductLines::openGoesByTheEnding_data()
     row("Menu.Cbr", TimerBar, u"cbr"_s);
 }
 
-void TestProductLines::openGoesByTheEnding()
+void TestProductLines::openGoesByTheSuffix()
 {
     QFETCH(const int, line);
     QFETCH(const QString, kind);
