@@ -3,8 +3,8 @@
 
 #include "app/mainwindow.h"
 
-#include <QApplication>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QMdiSubWindow>
 
@@ -15,26 +15,10 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// Whenever a menu becomes the active one, Qt measures the titles of all open ones. Laid out letter by letter,
-// a title costs a sixth of what kerning makes of it; scripts that need shaping get it all the same.
-void layOutTitlesPlainly()
-{
-    constexpr auto titleBar = "QMdiSubWindowTitleBar";
-    QFont font = QApplication::font(titleBar);
-    font.setStyleStrategy(QFont::PreferNoShaping);
-    font.setKerning(false);
-    QApplication::setFont(font, titleBar);
-}
-
-} // namespace
-
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
 {
-    layOutTitlesPlainly();
     m_ui->setupUi(this);
     setCentralWidget(m_ui->mdiArea);
     setWindowIcon(QIcon(u":/myapp.ico"_s));

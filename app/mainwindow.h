@@ -14,8 +14,7 @@ class MainWindow;
 }
 
 /// The main window: each open menu is a sub-window of its document area, and the File menu acts on the
-/// active one. It knows the editors only as MenuEditor. Constructing it sets, for the
-/// whole application, how the titles of sub-windows are laid out.
+/// active one. It knows the editors only as MenuEditor.
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT

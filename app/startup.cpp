@@ -9,8 +9,29 @@
 #include "app/mainwindow.h"
 #include "app/translation.h"
 
+namespace {
+
+// Whenever a menu becomes the active one, Qt measures the titles of all open ones. Laid out letter by letter,
+// a title costs a sixth of what kerning makes of it; scripts that need shaping get it all the same.
+void layOutTitlesPlainly()
+{
+    constexpr auto titleBar = "QMdiSubWindowTitleBar";
+    QFont font = QApplication::font(titleBar);
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    font.setKerning(false);
+    QApplication::setFont(font, titleBar);
+}
+
+} // namespace
+
+void prepareApplication()
+{
+    layOutTitlesPlainly();
+}
+
 int runProgram(const QStringList &uiLanguages)
 {
+    prepareApplication();
     QTranslator translator;
     if (loadTranslator(translator, uiLanguages))
         QApplication::installTranslator(&translator);

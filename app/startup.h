@@ -5,6 +5,10 @@
 
 #include <QStringList>
 
+/// Sets what holds for the whole application: how the titles of sub-windows are laid out. To be called before
+/// the first window is made.
+void prepareApplication();
+
 /// The program from its start to its end, once there is an application object: it speaks the first of the
 /// user's languages that it knows and shows its main window maximised. Returns the exit code.
 [[nodiscard]] int runProgram(const QStringList &uiLanguages);

@@ -25,6 +25,7 @@
 
 #include "app/mainwindow.h"
 #include "app/productlines.h"
+#include "app/startup.h"
 #include "benchmarks/bigmenu.h"
 #include "benchmarks/measured.h"
 #include "benchmarks/memory.h"
@@ -98,6 +99,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "open_menus: the large menu cannot be written\n");
         return EXIT_FAILURE;
     }
+    prepareApplication();
     MainWindow window;
     PaintWatch watch;
     Answerer answerer;

@@ -18,6 +18,7 @@
 
 #include "app/mainwindow.h"
 #include "app/productlines.h"
+#include "app/startup.h"
 #include "benchmarks/fulltimerbarmenu.h"
 #include "benchmarks/measured.h"
 #include "benchmarks/painted.h"
@@ -50,6 +51,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "open_timerbar: the full menu cannot be written\n");
         return EXIT_FAILURE;
     }
+    prepareApplication();
     MainWindow window;
     PaintWatch watch;
     window.showMaximized();

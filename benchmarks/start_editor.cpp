@@ -8,12 +8,14 @@
 #include <QTranslator>
 
 #include "app/mainwindow.h"
+#include "app/startup.h"
 #include "app/translation.h"
 #include "benchmarks/firstframe.h"
 
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
+    prepareApplication();
     QTranslator translator;
     if (loadTranslator(translator, QLocale::system().uiLanguages()))
         QApplication::installTranslator(&translator);

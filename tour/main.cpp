@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "app/mainwindow.h"
+#include "app/startup.h"
 #include "tour/grid.h"
 #include "tour/holding.h"
 #include "tour/lanes.h"
@@ -59,6 +60,7 @@ int main(int argc, char *argv[])
     Album album(arguments[1]);
     if (!album.exists())
         return fault("the output folder cannot be created");
+    prepareApplication();
     MainWindow window;
     window.showMaximized();
     return runChapters(window, album) ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleOptionTitleBar>
+#include <QTimer>
 
+#include "app/startup.h"
 #include "tests/gui/lanemenus.h"
 #include "tests/support/lanefile.h"
 #include "tests/support/warnings.h"
@@ -44,14 +46,21 @@ class TestTitles : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QApplication::setStyle(m_style); }
+    void initTestCase();
     void init() { failOnWarnings(); }
     void fileNamesStandAsTheyAre_data();
     void fileNamesStandAsTheyAre();
+    void programLaysThemOutPlainly();
 
 private:
     TitleNotingStyle *m_style = new TitleNotingStyle; ///< the application's from initTestCase() on
 };
+
+void TestTitles::initTestCase()
+{
+    QApplication::setStyle(m_style);
+    prepareApplication();
+}
 
 void TestTitles::fileNamesStandAsTheyAre_data()
 {
@@ -72,6 +81,17 @@ void TestTitles::fileNamesStandAsTheyAre()
     const QString other = u"svrxconfig_"_s + name;
     QVERIFY(menus.editor()->writeToFile(menus.path(other)));
     QCOMPARE(m_style->titleOf(*menus.subWindow()), u"Menu File - "_s + other);
+}
+
+void TestTitles::programLaysThemOutPlainly()
+{
+    constexpr auto titleBar = "QMdiSubWindowTitleBar";
+    QApplication::setFont(QApplication::font(), titleBar);
+    QVERIFY(QApplication::font(titleBar).kerning());
+    QTimer::singleShot(0, this, [] { QCoreApplication::exit(); });
+    QCOMPARE(runProgram({}), 0);
+    QVERIFY(!QApplication::font(titleBar).kerning());
+    QCOMPARE(QApplication::font(titleBar).styleStrategy(), QFont::PreferNoShaping);
 }
 
 QTEST_MAIN(TestTitles)
