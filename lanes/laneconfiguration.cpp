@@ -40,8 +40,7 @@ QByteArray contentsLine(const Configuration &configuration)
     QByteArrayList temperatures;
     QByteArrayList fanSpeeds;
     for (int i = 0; i < maxLanes; ++i) {
-        const Lane lane =
-            i < configuration.laneCount ? configuration.lanes[static_cast<std::size_t>(i)] : Lane{0, 0};
+        const Lane lane = i < configuration.laneCount ? configuration.lanes[i] : Lane{0, 0};
         const QByteArray number = QByteArray::number(i + 1);
         temperatures.append("T" + number + "=" + QByteArray::number(lane.temperature));
         fanSpeeds.append("F" + number + "=" + QByteArray::number(lane.fanSpeed));
@@ -49,10 +48,10 @@ QByteArray contentsLine(const Configuration &configuration)
     return (temperatures + fanSpeeds).join(',');
 }
 
-// A file may be large and hold anything: its text is walked in views, without a copy of each part.
+// Views into the text: a file may be large, and its parts are not copied.
 struct Lines
 {
-    std::optional<uint> identifier; ///< no number: nothing matches
+    std::optional<uint> identifier; ///< none where the file has no valid number
     QStringView contents;
 };
 
@@ -67,31 +66,31 @@ QStringView part(QStringView text, int number, Qt::SplitBehavior behavior = Qt::
 }
 
 // Of repeated lines the last one counts.
-Lines sortLines(QStringView text)
+Lines scanLines(QStringView text)
 {
-    Lines sorted;
+    Lines found;
     for (const QStringView line : text.tokenize(u'\n', Qt::SkipEmptyParts)) {
         if (line.startsWith("Identifier"_L1)) {
             const QStringView digits = part(line, 1, Qt::SkipEmptyParts);
             bool ok = false;
             const uint number = digits.toUInt(&ok, 16);
             if (!digits.isEmpty())
-                sorted.identifier = ok ? std::optional(number) : std::nullopt;
+                found.identifier = ok ? std::optional(number) : std::nullopt;
         } else if (line.startsWith("T1="_L1)) {
-            sorted.contents = line;
+            found.contents = line;
         }
     }
-    return sorted;
+    return found;
 }
 
-using Lanes = std::array<Lane, maxLanes>;
+using Lanes = FixedList<Lane, maxLanes>;
 
 // The value that has this name in the contents line, T1 to T4 or F1 to F4; null for any other name.
 int *valueNamed(QStringView name, Lanes &lanes)
 {
     if (name.size() != 2 || name[1] < u'1' || name[1] >= QChar(u'1' + maxLanes))
         return nullptr;
-    Lane &lane = lanes[static_cast<std::size_t>(name[1].unicode() - u'1')];
+    Lane &lane = lanes[name[1].unicode() - u'1'];
     if (name[0] == u'T')
         return &lane.temperature;
     return name[0] == u'F' ? &lane.fanSpeed : nullptr;
@@ -101,7 +100,7 @@ int *valueNamed(QStringView name, Lanes &lanes)
 Lanes lanesOf(QStringView contents)
 {
     Lanes lanes;
-    lanes.fill({0, 0});
+    std::fill(lanes.begin(), lanes.end(), Lane{0, 0});
     for (const QStringView field : contents.tokenize(u',')) {
         if (int *value = valueNamed(part(field, 0), lanes))
             *value = part(field, 1).toInt();
@@ -113,12 +112,8 @@ Lanes lanesOf(QStringView contents)
 int laneCountOf(const Lanes &lanes)
 {
     int count = maxLanes;
-    while (count > 0) {
-        const Lane &last = lanes[static_cast<std::size_t>(count - 1)];
-        if (last.temperature != 0 && last.fanSpeed != 0)
-            break;
+    while (count > 0 && (lanes[count - 1].temperature == 0 || lanes[count - 1].fanSpeed == 0))
         --count;
-    }
     return count;
 }
 
@@ -131,12 +126,17 @@ void appendBigEndian(QByteArray &record, quint16 value)
 
 } // namespace
 
+TemperatureRange temperatureRange(int temperatureUnit)
+{
+    return temperatureUnit == unitCelsius ? TemperatureRange{66, 204} : TemperatureRange{150, 400};
+}
+
 QString readConfiguration(const QByteArray &text, Configuration &configuration)
 {
     const QString unified = QString::fromUtf8(text).replace(u'\r', u'\n');
     if (unified.count(u'\n') == unified.size())
         return Text::tr("Invalid file format");
-    const Lines lines = sortLines(unified);
+    const Lines lines = scanLines(unified);
     const QByteArray contents = lines.contents.toLatin1();
     if (lines.identifier != crc16(contents.constData(), contents.size(), crc16IdentifierSeed))
         return Text::tr("Invalid file identifier value");
@@ -164,11 +164,11 @@ QByteArray writeProductionRecord(const Configuration &configuration)
     record.append('\x01');
     for (int i = 0; i < maxLanes; ++i) {
         const bool present = i < configuration.laneCount;
-        const Lane &lane = configuration.lanes[static_cast<std::size_t>(i)];
+        const Lane &lane = configuration.lanes[i];
         appendBigEndian(record, present ? static_cast<quint16>(lane.fanSpeed) : absentLane);
         appendBigEndian(record, present ? static_cast<quint16>(lane.temperature) : absentLane);
     }
-    // Another start value than the identifier's.
+    // Not the identifier's start value.
     appendBigEndian(record, crc16(record.constData(), record.size(), crc16MenuSeed));
     return record.toHex();
 }

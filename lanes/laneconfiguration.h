@@ -3,10 +3,11 @@
 
 #pragma once
 
-#include <array>
-
 #include <QByteArray>
 #include <QString>
+
+#include "model/fixedlist.h"
+#include "model/temperature.h"
 
 /// The configuration of a lane cabinet as plain data, and its two files.
 namespace lanes {
@@ -25,12 +26,17 @@ struct Configuration
 {
     int laneCount = 2;
     /// Lanes from laneCount on are not written; what they hold comes back when the count grows again.
-    std::array<Lane, maxLanes> lanes;
+    FixedList<Lane, maxLanes> lanes;
 
     friend bool operator==(const Configuration &, const Configuration &) = default;
 };
 
-/// Reads a configuration file. Returns an empty text, or the message of the first fault; `configuration` is
+/// What can be entered: temperatures in the unit that is shown, fan speeds in RPM.
+[[nodiscard]] TemperatureRange temperatureRange(int temperatureUnit);
+inline constexpr int minFanSpeed = 1500;
+inline constexpr int maxFanSpeed = 3200;
+
+/// Reads a configuration file. Returns an empty text, or the message of the first error; `configuration` is
 /// then unchanged. Values may lie outside what the cabinet allows: they are kept as they are. Lanes beyond
 /// the file's start from the defaults.
 [[nodiscard]] QString readConfiguration(const QByteArray &text, Configuration &configuration);

@@ -13,38 +13,24 @@
 #include "widgets/messages.h"
 #include "widgets/wheelfocus.h"
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int minFahrenheit = 150;
-constexpr int maxFahrenheit = 400;
-constexpr int minCelsius = 66;
-constexpr int maxCelsius = 204;
-
-} // namespace
-
 SvrxMenuFile::SvrxMenuFile(const QString &filePath, QWidget *parent)
     : MenuEditor(filePath, parent)
     , m_ui(std::make_unique<Ui::SvrxMenuFile>())
 {
     m_ui->setupUi(this);
-    int number = 0;
-    for (Row &row : m_rows) {
-        row = rowOf(++number);
-        takeWhatIsTyped(row.temperature);
-        takeWhatIsTyped(row.fanSpeed);
-    }
+    m_rows = rowsOf(*m_ui);
+    prepareBoxes();
     needFocusForWheel(this);
+    showConfiguration();
     const bool isNew = filePath.isEmpty();
     if (isNew)
-        createMenu();
+        showTitle({});
     setMenuValid(isNew || readMenuFile());
     fixDesignedSize(this);
 }
 
-// While it goes the editor is hidden, which takes the focus from a box: what that box then reports would come
-// to an editor that is half gone.
+// Qt hides the editor while it is destroyed, which takes the focus from a box. What that box then reports
+// must not reach an editor whose members are gone.
 SvrxMenuFile::~SvrxMenuFile()
 {
     for (const Row &row : m_rows) {
@@ -53,32 +39,38 @@ SvrxMenuFile::~SvrxMenuFile()
     }
 }
 
-SvrxMenuFile::Row SvrxMenuFile::rowOf(int number) const
+SvrxMenuFile::Rows SvrxMenuFile::rowsOf(const Ui::SvrxMenuFile &form)
 {
-    const auto label = [&](QLatin1StringView name) {
-        return findChild<QLabel *>(name + QString::number(number));
-    };
-    const auto box = [&](QLatin1StringView name) {
-        return findChild<QSpinBox *>(name + QString::number(number));
-    };
-    return {.lane = label("lblLane"_L1),
-            .temperature = box("numTemperature"_L1),
-            .temperatureUnit = label("lblTemperatureUnit"_L1),
-            .temperatureNote = label("lblTemperatureNote"_L1),
-            .fanSpeed = box("numFanSpeed"_L1),
-            .fanSpeedUnit = label("lblFanSpeedUnit"_L1),
-            .fanSpeedNote = label("lblFanSpeedNote"_L1)};
+    return {{{{form.lblLane1, form.numTemperature1, form.lblTemperatureUnit1, form.lblTemperatureNote1,
+               form.numFanSpeed1, form.lblFanSpeedUnit1, form.lblFanSpeedNote1},
+              {form.lblLane2, form.numTemperature2, form.lblTemperatureUnit2, form.lblTemperatureNote2,
+               form.numFanSpeed2, form.lblFanSpeedUnit2, form.lblFanSpeedNote2},
+              {form.lblLane3, form.numTemperature3, form.lblTemperatureUnit3, form.lblTemperatureNote3,
+               form.numFanSpeed3, form.lblFanSpeedUnit3, form.lblFanSpeedNote3},
+              {form.lblLane4, form.numTemperature4, form.lblTemperatureUnit4, form.lblTemperatureNote4,
+               form.numFanSpeed4, form.lblFanSpeedUnit4, form.lblFanSpeedNote4}}}};
 }
 
-// A box that is left tells of no change when what it shows was typed over itself, or when it took back what
+void SvrxMenuFile::prepareBoxes()
+{
+    const QScopedValueRollback loading(m_loading, true);
+    for (int lane = 0; lane < lanes::maxLanes; ++lane) {
+        const Row &row = m_rows[lane];
+        row.fanSpeed->setRange(lanes::minFanSpeed, lanes::maxFanSpeed);
+        takeWhatIsTyped(row.temperature, [this, lane](int value) { storeTemperature(lane, value); });
+        takeWhatIsTyped(row.fanSpeed, [this, lane](int value) { storeFanSpeed(lane, value); });
+    }
+}
+
+// A box that is left reports no change when what it shows was typed over itself, or when it took back what
 // was typed.
-void SvrxMenuFile::takeWhatIsTyped(QSpinBox *box)
+void SvrxMenuFile::takeWhatIsTyped(QSpinBox *box, const std::function<void(int value)> &store)
 {
     connect(box->findChild<QLineEdit *>(), &QLineEdit::textEdited, this, [this, box] { m_typedIn = box; });
-    connect(box, &QSpinBox::editingFinished, this, [this, box] {
+    connect(box, &QSpinBox::editingFinished, this, [this, box, store] {
         if (m_typedIn != box)
             return;
-        emit box->valueChanged(box->value());
+        store(box->value());
         m_typedIn = nullptr;
     });
 }
@@ -93,17 +85,10 @@ void SvrxMenuFile::reject()
     MenuEditor::reject();
 }
 
-// Whatever it is asked for.
 SaveNameRequest SvrxMenuFile::nameRequest(SaveKind /*kind*/) const
 {
     const QString start = filePath().isEmpty() ? QString(lanes::configurationPrefix) : filePath();
     return {tr("Save Savorix Menu"), start, tr("Savorix Menu Files (*.txt)")};
-}
-
-void SvrxMenuFile::createMenu()
-{
-    showTitle({});
-    showConfiguration();
 }
 
 bool SvrxMenuFile::readMenuFile()
@@ -132,7 +117,7 @@ bool SvrxMenuFile::writeToFile(const QString &path)
            writeEolProdMenuFile(lanes::productionPath(path));
 }
 
-// A closing editor leaves the production file as it is: only a name chosen in the main window writes both.
+// Closing leaves the production file as it is: only a name that is chosen in the main window writes both.
 bool SvrxMenuFile::writeOnClosing(const QString &path)
 {
     return checkName(path) && writeConfigurationFile(path);
@@ -182,7 +167,7 @@ void SvrxMenuFile::showConfiguration()
 
 void SvrxMenuFile::showFanSpeeds()
 {
-    for (std::size_t lane = 0; lane < m_rows.size(); ++lane)
+    for (int lane = 0; lane < lanes::maxLanes; ++lane)
         m_rows[lane].fanSpeed->setValue(m_configuration.lanes[lane].fanSpeed);
 }
 
@@ -191,12 +176,10 @@ void SvrxMenuFile::updateTemperatureLimits()
 {
     const QScopedValueRollback loading(m_loading, true);
     const int unit = temperatureUnit();
-    for (std::size_t lane = 0; lane < m_rows.size(); ++lane) {
+    const TemperatureRange range = lanes::temperatureRange(unit);
+    for (int lane = 0; lane < lanes::maxLanes; ++lane) {
         QSpinBox *box = m_rows[lane].temperature;
-        if (unit == unitCelsius)
-            box->setRange(minCelsius, maxCelsius);
-        else
-            box->setRange(minFahrenheit, maxFahrenheit);
+        box->setRange(range.lowest, range.highest);
         box->setValue(shownTemperature(m_configuration.lanes[lane].temperature, unit));
         m_rows[lane].temperatureUnit->setText(unitText(unit));
     }
@@ -216,13 +199,14 @@ void SvrxMenuFile::enableRows()
     }
 }
 
-// Where a box cannot show what is stored, the row says what the file holds; not of lanes that are not saved.
+// Where a box cannot show the stored value, the row says what the file holds. Lanes that are not saved say
+// nothing.
 void SvrxMenuFile::showNotes()
 {
     int number = 0;
     for (const Row &row : m_rows) {
         const bool used = number < m_configuration.laneCount;
-        const lanes::Lane &stored = m_configuration.lanes[static_cast<std::size_t>(number++)];
+        const lanes::Lane &stored = m_configuration.lanes[number++];
         const auto note = [used](const QSpinBox *box, int value) {
             return used && box->value() != value ? tr("file holds %1").arg(value) : QString();
         };
@@ -251,8 +235,9 @@ void SvrxMenuFile::on_rbTempUnitC_clicked()
     updateTemperatureLimits();
 }
 
-// Enter makes a box report what it shows already, which is no entry: the stored value may be another one with
-// the same look, or lie beyond the limits. The latter is replaced by the limit once that was typed.
+// A box also reports what it showed before, after Enter for example. That is no entry: the stored value may
+// be another one that is shown alike, or lie beyond the limits. Only a limit that was typed replaces the
+// latter.
 bool SvrxMenuFile::isEntry(const QSpinBox *box, int value, int stored) const
 {
     if (m_loading)
@@ -261,7 +246,7 @@ bool SvrxMenuFile::isEntry(const QSpinBox *box, int value, int stored) const
     return isNew || (value != stored && m_typedIn == box);
 }
 
-void SvrxMenuFile::storeFanSpeed(std::size_t lane, int value)
+void SvrxMenuFile::storeFanSpeed(int lane, int value)
 {
     int &stored = m_configuration.lanes[lane].fanSpeed;
     if (!isEntry(m_rows[lane].fanSpeed, value, stored))
@@ -270,7 +255,7 @@ void SvrxMenuFile::storeFanSpeed(std::size_t lane, int value)
     showNotes();
 }
 
-void SvrxMenuFile::storeTemperature(std::size_t lane, int value)
+void SvrxMenuFile::storeTemperature(int lane, int value)
 {
     int &stored = m_configuration.lanes[lane].temperature;
     const int unit = temperatureUnit();

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <array>
+#include <functional>
 #include <memory>
 
 #include "lanes/laneconfiguration.h"
@@ -28,12 +28,14 @@ public:
 
     /// Writes the configuration to the current path; the production file stays as it is.
     bool save() override;
-    /// Writes the configuration to a name that a cabinet loads, and the production file beside it. Any other
-    /// name is refused and nothing is written.
+    /// Writes the configuration to a name that a cabinet loads, and the production file beside it. For any
+    /// other name an error is shown and nothing is written.
     bool writeToFile(const QString &path) override;
+    /// The same for every kind; a new configuration proposes the beginning of a name that a cabinet loads.
     [[nodiscard]] SaveNameRequest nameRequest(SaveKind kind) const override;
 
 public slots:
+    // Inherited, and declared again because this class lists them among its own slots.
     void closeEvent(QCloseEvent *event) override;
     void reject() override;
     bool readMenuFile();
@@ -66,12 +68,11 @@ private:
         QLabel *fanSpeedUnit;
         QLabel *fanSpeedNote;
     };
+    using Rows = FixedList<Row, lanes::maxLanes>;
 
-    /// In the form the widgets of a lane have its number, from 1, at the end of their names.
-    [[nodiscard]] Row rowOf(int number) const;
-
-    void takeWhatIsTyped(QSpinBox *box);
-    void createMenu();
+    [[nodiscard]] static Rows rowsOf(const Ui::SvrxMenuFile &form);
+    void prepareBoxes();
+    void takeWhatIsTyped(QSpinBox *box, const std::function<void(int value)> &store);
     [[nodiscard]] int temperatureUnit() const;
     void showConfiguration();
     void showFanSpeeds();
@@ -79,13 +80,13 @@ private:
     void showNotes();
     /// Whether a box reports an entry of the user's; `stored` is in the box's unit.
     [[nodiscard]] bool isEntry(const QSpinBox *box, int value, int stored) const;
-    void storeFanSpeed(std::size_t lane, int value);
-    void storeTemperature(std::size_t lane, int value);
+    void storeFanSpeed(int lane, int value);
+    void storeTemperature(int lane, int value);
     bool writeConfigurationFile(const QString &path);
     [[nodiscard]] bool checkName(const QString &path);
 
     std::unique_ptr<Ui::SvrxMenuFile> m_ui;
-    std::array<Row, lanes::maxLanes> m_rows{};
+    Rows m_rows;
     lanes::Configuration m_configuration;
     QSpinBox *m_typedIn = nullptr; ///< typed into since its last editing was finished
     bool m_loading = false;        ///< the boxes are being filled: what they report is no entry of the user's

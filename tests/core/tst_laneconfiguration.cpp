@@ -22,7 +22,7 @@ QByteArray golden(const QString &name)
 // Both limits of either value, and numbers whose bytes all differ.
 Configuration sample(int laneCount)
 {
-    return {laneCount, {{{150, 1500}, {400, 3200}, {276, 2047}, {399, 2816}}}};
+    return {laneCount, {{{{150, 1500}, {400, 3200}, {276, 2047}, {399, 2816}}}}};
 }
 
 void addLaneCountRows()
@@ -43,6 +43,9 @@ private slots:
     void init() { failOnWarnings(); }
     void cleanup() { QLocale::setDefault(QLocale::c()); }
     void newConfigurationHasTwoLanes();
+    void temperatureRanges_data();
+    void temperatureRanges();
+    void newLanesKeepTheLimits();
     void goldenFiles_data() { addLaneCountRows(); }
     void goldenFiles();
     void identifiers_data();
@@ -68,12 +71,43 @@ void TestLaneConfiguration::newConfigurationHasTwoLanes()
     }
 }
 
+void TestLaneConfiguration::temperatureRanges_data()
+{
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<int>("lowest");
+    QTest::addColumn<int>("highest");
+    QTest::newRow("Fahrenheit") << unitFahrenheit << 150 << 400;
+    QTest::newRow("Celsius") << unitCelsius << 66 << 204;
+    QTest::newRow("any other number counts as Fahrenheit") << 2 << 150 << 400;
+}
+
+void TestLaneConfiguration::temperatureRanges()
+{
+    QFETCH(const int, unit);
+    const TemperatureRange range = temperatureRange(unit);
+    QTEST(range.lowest, "lowest");
+    QTEST(range.highest, "highest");
+}
+
+void TestLaneConfiguration::newLanesKeepTheLimits()
+{
+    QCOMPARE(minFanSpeed, 1500);
+    QCOMPARE(maxFanSpeed, 3200);
+    const Lane lane;
+    QCOMPARE(qBound(minFanSpeed, lane.fanSpeed, maxFanSpeed), lane.fanSpeed);
+    for (const int unit : {unitFahrenheit, unitCelsius}) {
+        const TemperatureRange range = temperatureRange(unit);
+        const int shown = shownTemperature(lane.temperature, unit);
+        QCOMPARE(qBound(range.lowest, shown, range.highest), shown);
+    }
+}
+
 void TestLaneConfiguration::goldenFiles()
 {
     QFETCH(const int, laneCount);
-    const QString ending = QString::number(laneCount) + u".txt"_s;
-    QCOMPARE(writeConfiguration(sample(laneCount)), golden(u"svrxconfig_"_s + ending));
-    QCOMPARE(writeProductionRecord(sample(laneCount)), golden(u"svrxprod_"_s + ending));
+    const QString suffix = QString::number(laneCount) + u".txt"_s;
+    QCOMPARE(writeConfiguration(sample(laneCount)), golden(u"svrxconfig_"_s + suffix));
+    QCOMPARE(writeProductionRecord(sample(laneCount)), golden(u"svrxprod_"_s + suffix));
 }
 
 void TestLaneConfiguration::identifiers_data()
@@ -82,12 +116,12 @@ void TestLaneConfiguration::identifiers_data()
     QTest::addColumn<QByteArray>("text");
     const QByteArray note = "Manual edits will render this file useless\n";
     QTest::newRow("one lane at 350 and 1")
-        << Configuration{1, {{{350, 1}}}}
+        << Configuration{1, {{{{350, 1}}}}}
         << note + "Identifier=9adb\nT1=350,T2=0,T3=0,T4=0,F1=1,F2=0,F3=0,F4=0";
     QTest::newRow("new, padded with a zero")
         << Configuration() << note + "Identifier=06b3\nT1=375,T2=375,T3=0,T4=0,F1=1800,F2=1800,F3=0,F4=0";
     QTest::newRow("padded with two zeros")
-        << Configuration{1, {{{359, 1800}}}}
+        << Configuration{1, {{{{359, 1800}}}}}
         << note + "Identifier=005b\nT1=359,T2=0,T3=0,T4=0,F1=1800,F2=0,F3=0,F4=0";
 }
 
@@ -110,10 +144,11 @@ void TestLaneConfiguration::productionRecords_data()
     QTest::newRow("triple lane") << defaults(3)
                                  << QByteArray("a5a5081101070801770708017707080177ffffffffb64b");
     QTest::newRow("quad lane") << defaults(4) << QByteArray("a5a508110107080177070801770708017707080177228b");
-    QTest::newRow("bytes below 16") << Configuration{1, {{{350, 1}}}}
+    QTest::newRow("bytes below 16") << Configuration{1, {{{{350, 1}}}}}
                                     << QByteArray("a5a50811010001015effffffffffffffffffffffff5e06");
     QTest::newRow("checksum that starts with 00")
-        << Configuration{1, {{{375, 1740}}}} << QByteArray("a5a508110106cc0177ffffffffffffffffffffffff00ea");
+        << Configuration{1, {{{{375, 1740}}}}}
+        << QByteArray("a5a508110106cc0177ffffffffffffffffffffffff00ea");
 }
 
 void TestLaneConfiguration::productionRecords()

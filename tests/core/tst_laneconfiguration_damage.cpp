@@ -13,7 +13,7 @@ using namespace lanes;
 
 namespace {
 
-const Configuration sample{3, {{{150, 1500}, {400, 3200}, {276, 2047}, {375, 1800}}}};
+const Configuration sample{3, {{{{150, 1500}, {400, 3200}, {276, 2047}, {375, 1800}}}}};
 
 bool isKnownMessage(const QString &message)
 {

@@ -234,10 +234,10 @@ void TestLaneConfigurationRead::charactersBeyondLatin_data()
 
 void TestLaneConfigurationRead::lanesBeyondTheFileStartFromTheDefaults()
 {
-    Configuration configuration{4, {{{1, 2}, {3, 4}, {5, 6}, {7, 8}}}};
+    Configuration configuration{4, {{{{1, 2}, {3, 4}, {5, 6}, {7, 8}}}}};
     const QByteArray contents = "T1=200,T2=210,T3=220,T4=230,F1=1500,F2=1600,F3=0,F4=0";
     QCOMPARE(readConfiguration(lanefile::text(contents), configuration), QString());
-    QVERIFY(configuration == (Configuration{2, {{{200, 1500}, {210, 1600}, {375, 1800}, {375, 1800}}}}));
+    QVERIFY(configuration == (Configuration{2, {{{{200, 1500}, {210, 1600}, {375, 1800}, {375, 1800}}}}}));
 }
 
 void TestLaneConfigurationRead::faultChangesNothing_data()
@@ -251,7 +251,7 @@ void TestLaneConfigurationRead::faultChangesNothing_data()
 void TestLaneConfigurationRead::faultChangesNothing()
 {
     QFETCH(const QByteArray, text);
-    const Configuration before{3, {{{1, 2}, {3, 4}, {5, 6}, {7, 8}}}};
+    const Configuration before{3, {{{{1, 2}, {3, 4}, {5, 6}, {7, 8}}}}};
     Configuration configuration = before;
     QVERIFY(!readConfiguration(text, configuration).isEmpty());
     QVERIFY(configuration == before);
