@@ -32,7 +32,7 @@ class TestDialogs : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void cleanup() { QApplication::setFont(m_font); }
-    void tabOrderFollowsReading_data() { addWindowRows(); }
+    void tabOrderFollowsReading_data();
     void tabOrderFollowsReading();
     void inputsAreNamed_data() { addWindowRows(); }
     void inputsAreNamed();
@@ -50,6 +50,16 @@ private slots:
 private:
     const QFont m_font = QApplication::font();
 };
+
+// Every window but the main window: with no menu open, the Tab key has nowhere to go in it.
+void TestDialogs::tabOrderFollowsReading_data()
+{
+    QTest::addColumn<std::size_t>("kind");
+    for (std::size_t i = 0; i < everyWindow().size(); ++i) {
+        if (qstrcmp(everyWindow()[i].name, "main window") != 0)
+            QTest::newRow(everyWindow()[i].name) << i;
+    }
+}
 
 namespace {
 

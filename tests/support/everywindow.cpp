@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "app/aboutapp.h"
+#include "app/mainwindow.h"
 #include "app/selectproductline.h"
 #include "holding/assigndaypartitem.h"
 #include "holding/configuration.h"
@@ -34,6 +35,11 @@ template <typename Window>
 std::unique_ptr<QWidget> makeWindow(MenuFile &editor)
 {
     return std::make_unique<Window>(&editor);
+}
+
+std::unique_ptr<QWidget> makeMainWindow(MenuFile &)
+{
+    return std::make_unique<MainWindow>();
 }
 
 std::unique_ptr<QWidget> makeProductEdit(MenuFile &editor)
@@ -135,6 +141,7 @@ std::unique_ptr<QWidget> makeLaneEditorWithNotes(MenuFile &editor)
 const std::vector<WindowKind> &everyWindow()
 {
     static const std::vector<WindowKind> kinds{
+        {"main window", nullptr, windowmenu::fullCabinet(), makeMainWindow, false},
         {"product line", "btnAccept", windowmenu::fullCabinet(), makeWindow<SelectProductLine>},
         {"about", "btnAccept", windowmenu::fullCabinet(), makeWindow<AboutApp>},
         {"configuration", "btnAccept", windowmenu::fullCabinet(), makeWindow<Configuration>},
@@ -146,15 +153,15 @@ const std::vector<WindowKind> &everyWindow()
         {"day part", "btnSave", windowmenu::fullCabinet(), makeDaypartEdit},
         {"bin, all fields", "btnSelect", windowmenu::fullCabinet(), makeAssignDaypartItem},
         {"bin, fewest fields", "btnSelect", windowmenu::plainCabinet(), makeAssignDaypartItem},
-        {"holding editor, all fields", nullptr, windowmenu::fullCabinet(), makeEditor, true},
-        {"holding editor, fewest fields", nullptr, windowmenu::plainCabinet(), makeEditor, true},
-        {"lane editor, new", nullptr, windowmenu::plainCabinet(), makeLaneEditor, true},
+        {"holding editor, all fields", nullptr, windowmenu::fullCabinet(), makeEditor, false},
+        {"holding editor, fewest fields", nullptr, windowmenu::plainCabinet(), makeEditor, false},
+        {"lane editor, new", nullptr, windowmenu::plainCabinet(), makeLaneEditor, false},
         {"lane editor, values beyond the limits", nullptr, windowmenu::plainCabinet(),
-         makeLaneEditorWithNotes, true},
+         makeLaneEditorWithNotes, false},
         {"Timer Bar configuration", "btnAccept", windowmenu::plainCabinet(), makeTimerBarConfig},
         {"Timer Bar product", "btnSave", windowmenu::plainCabinet(), makeTimerBarProductEdit},
         {"Timer Bar bin", "btnSelect", windowmenu::plainCabinet(), makeTimerBarAssignItem},
-        {"Timer Bar editor", nullptr, windowmenu::plainCabinet(), makeTimerBarEditor, true},
+        {"Timer Bar editor", nullptr, windowmenu::plainCabinet(), makeTimerBarEditor, false},
     };
     return kinds;
 }
@@ -170,7 +177,7 @@ void addDialogRows()
 {
     QTest::addColumn<std::size_t>("kind");
     for (std::size_t i = 0; i < everyWindow().size(); ++i) {
-        if (!everyWindow()[i].isEditor)
+        if (everyWindow()[i].isDialog)
             QTest::newRow(everyWindow()[i].name) << i;
     }
 }

@@ -13,7 +13,8 @@
 
 class MenuFile;
 
-/// A kind of window that the rules for all windows are checked on. A new one is a line in everyWindow().
+/// A kind of window that the rules for all windows are checked on. A new one is a line in everyWindow();
+/// tst_everywindow tells of one that is missing.
 struct WindowKind
 {
     const char *name;
@@ -21,7 +22,7 @@ struct WindowKind
     holding::CabinetConfiguration cabinet;
     /// Makes the window beside an editor that has a menu open.
     std::unique_ptr<QWidget> (*make)(MenuFile &editor);
-    bool isEditor = false; ///< as opposed to a dialog
+    bool isDialog = true; ///< Escape ends it and takes nothing over
 };
 
 [[nodiscard]] const std::vector<WindowKind> &everyWindow();
