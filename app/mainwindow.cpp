@@ -3,6 +3,8 @@
 
 #include "app/mainwindow.h"
 
+#include <algorithm>
+
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -125,23 +127,23 @@ void MainWindow::saveUnderChosenName(MenuEditor &editor, SaveKind kind)
 bool MainWindow::saveAll()
 {
     const QList<QMdiSubWindow *> subWindows = m_ui->mdiArea->subWindowList();
-    for (QMdiSubWindow *subWindow : subWindows) {
+    return std::all_of(subWindows.begin(), subWindows.end(), [this](QMdiSubWindow *subWindow) {
         MenuEditor *editor = menuEditorIn(*subWindow);
-        if (!editor)
-            continue;
-        if (!editor->filePath().isEmpty()) {
-            if (!editor->save())
-                return false;
-            continue;
-        }
-        // So that the user sees which menu is meant.
-        if (subWindow->isMinimized())
-            subWindow->showNormal();
-        m_ui->mdiArea->setActiveSubWindow(subWindow);
-        const QString path = askSaveName(this, editor->nameRequest(SaveKind::Save));
-        if (path.isEmpty())
-            return false;
-        editor->writeToFile(path); // a failure has been shown and does not keep the program open
-    }
+        return !editor || saveBeforeExit(*subWindow, *editor);
+    });
+}
+
+bool MainWindow::saveBeforeExit(QMdiSubWindow &subWindow, MenuEditor &editor)
+{
+    if (!editor.filePath().isEmpty())
+        return editor.save();
+    // So that the user sees which menu is meant.
+    if (subWindow.isMinimized())
+        subWindow.showNormal();
+    m_ui->mdiArea->setActiveSubWindow(&subWindow);
+    const QString path = askSaveName(this, editor.nameRequest(SaveKind::Save));
+    if (path.isEmpty())
+        return false;
+    editor.writeToFile(path); // a failure has been shown and does not keep the program open
     return true;
 }

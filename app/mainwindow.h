@@ -41,7 +41,9 @@ public slots:
 private:
     [[nodiscard]] MenuEditor *activeEditor() const; ///< null for none
     void saveUnderChosenName(MenuEditor &editor, SaveKind kind);
+    /// False when the program is to stay open: a menu could not be saved, or the user gave it no name.
     [[nodiscard]] bool saveAll();
+    [[nodiscard]] bool saveBeforeExit(QMdiSubWindow &subWindow, MenuEditor &editor);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
 };

@@ -42,5 +42,6 @@ struct ProductLine
 /// The filter of the open dialog: the files of all lines, then an entry for each line.
 [[nodiscard]] QString openFilter();
 
-/// The editor in a sub-window, which its line's name and class tell; null for none.
+/// The editor in a sub-window: both the sub-window's name and the editor's class have to be those of a line.
+/// Null for none.
 [[nodiscard]] MenuEditor *menuEditorIn(const QMdiSubWindow &subWindow);

@@ -11,8 +11,8 @@
 
 namespace {
 
-// Whenever a menu becomes the active one, Qt measures the titles of all open ones. Laid out letter by letter,
-// a title costs a sixth of what kerning makes of it; scripts that need shaping get it all the same.
+// Whenever a menu becomes active, Qt measures the titles of all open menus. Without kerning that takes a
+// sixth of the time; scripts that need shaping are still shaped.
 void layOutTitlesPlainly()
 {
     constexpr auto titleBar = "QMdiSubWindowTitleBar";

@@ -9,6 +9,6 @@
 /// the first window is made.
 void prepareApplication();
 
-/// The program from its start to its end, once there is an application object: it speaks the first of the
-/// user's languages that it knows and shows its main window maximised. Returns the exit code.
+/// Runs the program once there is an application object: translated into the first of the user's languages
+/// that there is a catalogue for, with the main window maximised. Returns the exit code.
 [[nodiscard]] int runProgram(const QStringList &uiLanguages);

@@ -24,8 +24,8 @@ struct SaveNameRequest
 ///
 /// An editor is constructed with a file path, or with an empty one for a new menu. One whose isMenuValid()
 /// is false after construction has told the user why and is to be deleted at once. An editor lives in a
-/// QMdiSubWindow that owns it; closing goes through that sub-window, as the area would else keep an empty
-/// frame.
+/// QMdiSubWindow that owns it; closing goes through that sub-window, as the area would otherwise keep an
+/// empty frame.
 class MenuEditor : public QDialog
 {
     Q_OBJECT

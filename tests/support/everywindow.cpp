@@ -74,9 +74,9 @@ std::unique_ptr<QWidget> makeEditor(MenuFile &editor)
     return window;
 }
 
-QString writeBeside(const MenuFile &editor, const QString &ending, const QByteArray &content)
+QString writeBeside(const MenuFile &editor, const QString &suffix, const QByteArray &content)
 {
-    QFile file(editor.filePath() + ending);
+    QFile file(editor.filePath() + suffix);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) < content.size())
         qFatal("Cannot write a file beside the menu");
     return file.fileName();
