@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QWidget>
 
+#include "tests/support/require.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -55,13 +57,13 @@ Album::Album(const QString &folder)
 
 void Album::shot(const QString &name)
 {
-    QVERIFY2(QTest::qWaitFor([] { return foremostWindow() != nullptr; }),
-             "No window became active: is there a window manager?");
+    REQUIRE(QTest::qWaitFor([] { return foremostWindow() != nullptr; }),
+            u"No window became active: is there a window manager?"_s);
     QWidget *front = foremostWindow();
-    QVERIFY(QTest::qWaitForWindowExposed(front));
-    QVERIFY(front->windowType() == Qt::Popup || QTest::qWaitForWindowActive(front));
+    REQUIRE(QTest::qWaitForWindowExposed(front));
+    REQUIRE(front->windowType() == Qt::Popup || QTest::qWaitForWindowActive(front));
     const QImage image = grabScreenAtRest();
-    QVERIFY2(!image.isNull(), "The screen does not come to rest");
+    REQUIRE(!image.isNull(), u"The screen does not come to rest"_s);
     const QString path = filePath(u"%1-%2.png"_s.arg(++m_count, 2, 10, '0'_L1).arg(name));
-    QVERIFY2(image.save(path), qPrintable(path));
+    REQUIRE(image.save(path), path);
 }

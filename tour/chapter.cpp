@@ -12,6 +12,7 @@
 #include <QTabWidget>
 
 #include "app/selectproductline.h"
+#include "tests/support/require.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 
@@ -41,6 +42,7 @@ void Chapter::init()
 {
     QVERIFY2(!m_failed, "not done, as a step before it failed");
     failOnWarnings();
+    require::atTheEnd([this] { shot(u"failure"_s); });
 }
 
 void Chapter::cleanup()
@@ -66,7 +68,7 @@ void Chapter::clickTab(int index)
 {
     auto &tabs = ui::get<QTabWidget>(*activeWidget(), "tabWidget");
     QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(index).center());
-    QCOMPARE(tabs.currentIndex(), index);
+    REQUIRE_EQUAL(tabs.currentIndex(), index);
 }
 
 void Chapter::expectProductLine(Answers &answers, const QString &name)
@@ -85,7 +87,7 @@ void Chapter::openFile(const QString &path)
                              "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"_s,
                              path);
     ui::clickMenu(window(), "menuFile", "actionOpen");
-    QVERIFY(activeWidget());
+    REQUIRE(activeWidget());
 }
 
 void Chapter::saveFileAs(const QString &caption, const QString &filter, const QString &path)
@@ -93,7 +95,7 @@ void Chapter::saveFileAs(const QString &caption, const QString &filter, const QS
     Answers answers(*this);
     answers.expectFileDialog(caption, filter, path);
     ui::clickMenu(window(), "menuFile", "actionSaveAs");
-    QCOMPARE(activeEditor<MenuEditor>()->filePath(), path);
+    REQUIRE_EQUAL(activeEditor<MenuEditor>()->filePath(), path);
 }
 
 void Chapter::closeEditor(QMessageBox::StandardButton answer)
@@ -101,22 +103,21 @@ void Chapter::closeEditor(QMessageBox::StandardButton answer)
     Answers answers(*this);
     answers.expectBox(ModalAnswers::saveQuestion(), answer);
     QTest::keyClick(activeWidget(), Qt::Key_Escape);
-    QVERIFY(QTest::qWaitFor([this] { return !activeSubWindow(); }));
+    REQUIRE_SOON(!activeSubWindow());
 }
 
 void Chapter::holdBin(const char *button)
 {
     auto &bin = ui::get<QPushButton>(*activeWidget(), button);
     QTest::mousePress(&bin, Qt::LeftButton);
-    QVERIFY(QTest::qWaitFor([&bin] { return bin.isCheckable(); }));
+    REQUIRE_SOON(bin.isCheckable());
     QTest::mouseRelease(&bin, Qt::LeftButton);
-    QVERIFY(bin.isChecked());
+    REQUIRE(bin.isChecked());
 }
 
 QByteArray Chapter::contents(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        QTest::qFail(qPrintable(u"Cannot read "_s + path), __FILE__, __LINE__);
+    REQUIRE(file.open(QIODevice::ReadOnly), path);
     return file.readAll();
 }

@@ -52,7 +52,7 @@ protected:
     void closeEditor(QMessageBox::StandardButton answer);
     /// Holds the mouse on a button of the grid until removal mode is on.
     void holdBin(const char *button);
-    /// The bytes of a file; a file that cannot be read fails the step.
+    /// The bytes of a file; one that cannot be read ends the tour.
     [[nodiscard]] static QByteArray contents(const QString &path);
 
 private slots:

@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "tests/support/corruption.h"
+#include "tests/support/require.h"
 #include "tests/support/sampletimerbar.h"
 #include "tests/support/warnings.h"
 #include "timerbar/cbrfile.h"
@@ -194,8 +195,8 @@ void TestCbrReadFaults::truncations()
     QFETCH(QString, model);
     const cbr::Menu file = cbr::manyInBins(model, 3);
     forEachTruncation(file.bytes(), [&file](const QByteArray &cutFile) {
-        QCOMPARE(faultOf(cutFile), crcFault);
-        QCOMPARE(faultOf(cbr::withChecksum(cutFile)), faultOfLength(cutFile.size(), file));
+        REQUIRE_EQUAL(faultOf(cutFile), crcFault);
+        REQUIRE_EQUAL(faultOf(cbr::withChecksum(cutFile)), faultOfLength(cutFile.size(), file));
     });
     QCOMPARE(faultOf(file.bytes()), QString());
 }
@@ -205,16 +206,16 @@ namespace {
 void checkSane(const timerbar::Menu &menu)
 {
     const timerbar::CabinetShape shape = menu.shape();
-    QVERIFY(timerbar::cabinetModels().contains(menu.model));
-    QVERIFY(menu.products.size() <= 100);
+    REQUIRE(timerbar::cabinetModels().contains(menu.model));
+    REQUIRE(menu.products.size() <= 100);
     for (std::size_t i = 0; i < menu.products.size(); ++i)
-        QCOMPARE(menu.products[i]->get_productId(), static_cast<int>(i));
+        REQUIRE_EQUAL(menu.products[i]->get_productId(), static_cast<int>(i));
     for (const timerbar::DaypartCells &cells : menu.dayparts) {
         for (int row = 0; row < timerbar::maxRows; ++row) {
             for (int column = 0; column < timerbar::maxColumns; ++column) {
                 const int cell = cells[row][column];
                 const bool exists = row < shape.rows && column < shape.columns();
-                QVERIFY(cell == timerbar::emptyCell || (exists && menu.product(cell)));
+                REQUIRE(cell == timerbar::emptyCell || (exists && menu.product(cell)));
             }
         }
     }
@@ -230,7 +231,7 @@ bool checkMessageOrSaneMenu(const QByteArray &bytes)
     if (fault.isEmpty())
         checkSane(menu);
     else if (!messages.contains(fault) && !fault.startsWith(u"Product read failed! Index ="_s))
-        QTest::qFail(qPrintable(u"Unknown message: "_s + fault), __FILE__, __LINE__);
+        require::fail(u"Unknown message: "_s + fault, {__FILE__, __LINE__});
     return fault.isEmpty();
 }
 

@@ -6,6 +6,7 @@
 #include "lanes/laneconfiguration.h"
 #include "tests/support/corruption.h"
 #include "tests/support/lanefile.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -30,9 +31,9 @@ void checkMessageOrSample(const QByteArray &damaged)
     Configuration read;
     const QString message = readConfiguration(damaged, read);
     if (message.isEmpty())
-        QVERIFY2(read == sample, damaged.constData());
+        REQUIRE(read == sample, QString::fromLatin1(damaged));
     else
-        QVERIFY2(isKnownMessage(message), qPrintable(message));
+        REQUIRE(isKnownMessage(message), message);
 }
 
 // The checksum does not help where the damaged line is sealed anew.
@@ -44,16 +45,16 @@ void checkMessageOrSaneConfiguration(const QByteArray &contents)
     Configuration read;
     const QString message = readConfiguration(lanefile::text(contents, lanefile::identifierOf(summed)), read);
     if (!message.isEmpty()) {
-        QVERIFY2(isKnownMessage(message), qPrintable(message));
+        REQUIRE(isKnownMessage(message), message);
         return;
     }
-    QVERIFY(read.laneCount >= 1 && read.laneCount <= maxLanes);
+    REQUIRE(read.laneCount >= 1 && read.laneCount <= maxLanes);
     const Lane &last = read.lanes[std::size_t(read.laneCount - 1)];
-    QVERIFY(last.temperature != 0 && last.fanSpeed != 0);
+    REQUIRE(last.temperature != 0 && last.fanSpeed != 0);
     Configuration again;
-    QCOMPARE(readConfiguration(writeConfiguration(read), again), QString());
-    QVERIFY(again == read);
-    QCOMPARE(writeProductionRecord(read).size(), 46);
+    REQUIRE_EQUAL(readConfiguration(writeConfiguration(read), again), QString());
+    REQUIRE(again == read);
+    REQUIRE_EQUAL(writeProductionRecord(read).size(), 46);
 }
 
 QByteArray contentsOf(const QByteArray &text)
@@ -80,7 +81,7 @@ void TestLaneConfigurationDamage::truncationsAreRefused()
 {
     forEachTruncation(writeConfiguration(sample), [](const QByteArray &damaged) {
         Configuration read;
-        QVERIFY2(isKnownMessage(readConfiguration(damaged, read)), damaged.constData());
+        REQUIRE(isKnownMessage(readConfiguration(damaged, read)), QString::fromLatin1(damaged));
     });
 }
 

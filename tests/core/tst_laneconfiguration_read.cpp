@@ -5,6 +5,7 @@
 
 #include "lanes/laneconfiguration.h"
 #include "tests/support/lanefile.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -55,7 +56,7 @@ void checkOutcome()
 {
     QFETCH(const QByteArray, text);
     QFETCH(const QString, expected);
-    QCOMPARE(outcome(text), expected);
+    REQUIRE_EQUAL(outcome(text), expected);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "holding/menu.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -52,15 +53,15 @@ Menu menuOf(int count)
 
 void compare(const Daypart &actual, const Daypart &expected)
 {
-    QCOMPARE(actual.names, expected.names);
-    QCOMPARE(actual.inUse, expected.inUse);
-    QVERIFY(actual.bins == expected.bins);
+    REQUIRE_EQUAL(actual.names, expected.names);
+    REQUIRE_EQUAL(actual.inUse, expected.inUse);
+    REQUIRE(actual.bins == expected.bins);
 }
 
 // The day parts with these marks, then vacant places.
 void compareAll(const Menu &menu, const QList<int> &marks)
 {
-    QCOMPARE(menu.daypartCount, marks.size());
+    REQUIRE_EQUAL(menu.daypartCount, marks.size());
     for (int i = 0; i < maxDayparts; ++i)
         compare(menu.dayparts[std::size_t(i)], i < marks.size() ? marked(marks[i]) : Daypart());
 }

@@ -7,6 +7,7 @@
 #include "holding/menujson.h"
 #include "tests/support/corruption.h"
 #include "tests/support/menudocument.h"
+#include "tests/support/require.h"
 #include "tests/support/samplemenu.h"
 #include "tests/support/warnings.h"
 
@@ -43,23 +44,23 @@ QByteArray smallDocument()
 void checkEntries(const Entries &entries, bool groups)
 {
     for (const auto &entry : entries) {
-        QVERIFY(entry->get_productId() != 0);
-        QCOMPARE(entry->get_isGroup(), groups);
-        QCOMPARE(entry->get_productName().size(), 15);
+        REQUIRE(entry->get_productId() != 0);
+        REQUIRE_EQUAL(entry->get_isGroup(), groups);
+        REQUIRE_EQUAL(entry->get_productName().size(), 15);
     }
 }
 
 void checkDayparts(const Menu &menu)
 {
-    QVERIFY(menu.daypartCount >= 0 && menu.daypartCount <= maxDayparts);
+    REQUIRE(menu.daypartCount >= 0 && menu.daypartCount <= maxDayparts);
     const CabinetShape shape = menu.shape();
     for (const Daypart &daypart : menu.dayparts) {
-        QCOMPARE(daypart.names.size(), 15);
+        REQUIRE_EQUAL(daypart.names.size(), 15);
         for (int row = 0; row < maxRows; ++row) {
             for (int slot = 0; slot < maxSlots; ++slot) {
                 const bool exists = row < shape.rows && slot < shape.binsPerRow() &&
                                     !(shape.singleBinSecondZone && slot == maxSlots - 1);
-                QVERIFY(exists || daypart.bins[std::size_t(row)][std::size_t(slot)] == emptyBin);
+                REQUIRE(exists || daypart.bins[std::size_t(row)][std::size_t(slot)] == emptyBin);
             }
         }
     }
@@ -70,8 +71,8 @@ void checkCanBeSaved(const Menu &menu)
 {
     const QByteArray written = writeMenu(menu);
     Menu again;
-    QCOMPARE(readMenu(written, again, [](CabinetConfiguration &) { return true; }), QString());
-    QCOMPARE(writeMenu(again), written);
+    REQUIRE_EQUAL(readMenu(written, again, [](CabinetConfiguration &) { return true; }), QString());
+    REQUIRE_EQUAL(writeMenu(again), written);
 }
 
 // Returns whether the document was taken.
@@ -86,7 +87,7 @@ bool checkMessageOrSaneMenu(const QByteArray &json, bool acceptUnknown)
     if (message.isEmpty())
         checkCanBeSaved(menu);
     else if (!messages.contains(message))
-        QTest::qFail(qPrintable(u"Unknown message: "_s + message), __FILE__, __LINE__);
+        require::fail(u"Unknown message: "_s + message, {__FILE__, __LINE__});
     return message.isEmpty();
 }
 
@@ -121,8 +122,8 @@ void TestMenuJsonDamage::truncations()
         if (QTest::currentTestFailed())
             return;
         Menu menu;
-        QCOMPARE(document::read(damaged, menu), messages.first());
-        QVERIFY(menu.products.empty() && menu.groups.empty());
+        REQUIRE_EQUAL(document::read(damaged, menu), messages.first());
+        REQUIRE(menu.products.empty() && menu.groups.empty());
     });
     QVERIFY(checkMessageOrSaneMenu(json, false));
 }

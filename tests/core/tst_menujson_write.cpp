@@ -8,6 +8,7 @@
 
 #include "holding/menujson.h"
 #include "holding/menunames.h"
+#include "tests/support/require.h"
 #include "tests/support/samplemenu.h"
 #include "tests/support/warnings.h"
 
@@ -46,7 +47,7 @@ void compareBytes(const QByteArray &actual, const QByteArray &expected)
     qsizetype same = 0;
     while (same < actual.size() && same < expected.size() && actual[same] == expected[same])
         ++same;
-    QCOMPARE(actual.mid(same, 60), expected.mid(same, 60));
+    REQUIRE_EQUAL(actual.mid(same, 60), expected.mid(same, 60));
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 
 #include "holding/qhximport.h"
 #include "tests/support/qhxbuilder.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -45,7 +46,7 @@ namespace {
 
 void import(const qhx::File &file, Menu &menu)
 {
-    QCOMPARE(importQhxMenu(file.bytes(), menu), QString());
+    REQUIRE_EQUAL(importQhxMenu(file.bytes(), menu), QString());
 }
 
 // The only entry of a file, which is a product.

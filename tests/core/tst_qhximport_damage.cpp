@@ -7,6 +7,7 @@
 #include "holding/qhximport.h"
 #include "tests/support/corruption.h"
 #include "tests/support/qhxbuilder.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -52,11 +53,11 @@ QString faultIn(int record, QLatin1StringView what)
 void checkEntries(const Entries &entries, bool groups)
 {
     for (const auto &entry : entries) {
-        QVERIFY(entry->get_productId() != 0);
-        QCOMPARE(entry->get_isGroup(), groups);
-        QCOMPARE(entry->get_productName().size(), 15);
-        QVERIFY(entry->get_productName().constFirst().size() <= 64);
-        QCOMPARE(entry->get_productList().size(), groups ? 8 : 0);
+        REQUIRE(entry->get_productId() != 0);
+        REQUIRE_EQUAL(entry->get_isGroup(), groups);
+        REQUIRE_EQUAL(entry->get_productName().size(), 15);
+        REQUIRE(entry->get_productName().constFirst().size() <= 64);
+        REQUIRE_EQUAL(entry->get_productList().size(), groups ? 8 : 0);
     }
 }
 
@@ -67,7 +68,7 @@ void checkBins(const Menu &menu)
         for (int row = 0; row < maxRows; ++row) {
             for (int slot = 0; slot < maxSlots; ++slot) {
                 const bool exists = row < shape.rows && slot < shape.binsPerRow();
-                QVERIFY(exists || daypart.bins[std::size_t(row)][std::size_t(slot)] == emptyBin);
+                REQUIRE(exists || daypart.bins[std::size_t(row)][std::size_t(slot)] == emptyBin);
             }
         }
     }
@@ -77,14 +78,14 @@ void checkCanBeSaved(const Menu &menu)
 {
     const QByteArray written = writeMenu(menu);
     Menu again;
-    QCOMPARE(readMenu(written, again, [](CabinetConfiguration &) { return false; }), QString());
-    QCOMPARE(writeMenu(again), written);
+    REQUIRE_EQUAL(readMenu(written, again, [](CabinetConfiguration &) { return false; }), QString());
+    REQUIRE_EQUAL(writeMenu(again), written);
 }
 
 void checkSane(const Menu &menu)
 {
-    QVERIFY(menu.shape().isKnown());
-    QCOMPARE(menu.daypartCount, 2);
+    REQUIRE(menu.shape().isKnown());
+    REQUIRE_EQUAL(menu.daypartCount, 2);
     checkEntries(menu.products, false);
     checkEntries(menu.groups, true);
     checkBins(menu);
@@ -111,7 +112,7 @@ void TestQhxImportDamage::truncations()
     const QByteArray bytes = qhx::sample().bytes();
     forEachTruncation(bytes, [](const QByteArray &damaged) {
         Menu menu;
-        QCOMPARE(importQhxMenu(damaged, menu), faultIn(recordOf(damaged.size()), "size!"_L1));
+        REQUIRE_EQUAL(importQhxMenu(damaged, menu), faultIn(recordOf(damaged.size()), "size!"_L1));
     });
     Menu menu;
     QCOMPARE(importQhxMenu(bytes, menu), QString());
@@ -134,7 +135,7 @@ void TestQhxImportDamage::changedBytes()
 {
     forEachByteChange(qhx::sample().bytes(), [](qsizetype offset, const QByteArray &damaged) {
         Menu menu;
-        QCOMPARE(importQhxMenu(damaged, menu), faultIn(recordOf(offset), "CRC!"_L1));
+        REQUIRE_EQUAL(importQhxMenu(damaged, menu), faultIn(recordOf(offset), "CRC!"_L1));
     });
 }
 
@@ -167,7 +168,7 @@ void TestQhxImportDamage::changedBytesUnderAGoodChecksum()
         if (fault.isEmpty())
             checkSane(menu);
         else
-            QCOMPARE(recordOf(offset), 0); // only the header can be wrong in itself
+            REQUIRE_EQUAL(recordOf(offset), 0); // only the header can be wrong in itself
     });
     const QStringList expected{QString(),
                                u"Invalid configuration CRC!"_s,

@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 
 #include "model/files.h"
+#include "tests/support/require.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/warnings.h"
 
@@ -53,8 +54,8 @@ void TestReadFile::init()
 void TestReadFile::makeSparse(const QString &name, qint64 size) const
 {
     QFile file(m_folder->path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.resize(size));
+    REQUIRE(file.open(QIODevice::WriteOnly));
+    REQUIRE(file.resize(size));
 }
 
 void TestReadFile::wholeContent_data()

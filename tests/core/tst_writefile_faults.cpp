@@ -14,6 +14,7 @@
 
 #include "model/files.h"
 #include "tests/support/hardship.h"
+#include "tests/support/require.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/warnings.h"
 
@@ -157,8 +158,8 @@ void TestWriteFileFaults::devices()
 void TestWriteFileFaults::makeSpecialFiles() const
 {
     m_folder->make(u"file"_s, "content");
-    QVERIFY(QDir(m_folder->path({})).mkdir(u"folder"_s));
-    QCOMPARE(mkfifo(m_folder->native(u"fifo"_s).constData(), 0600), 0);
+    REQUIRE(QDir(m_folder->path({})).mkdir(u"folder"_s));
+    REQUIRE_EQUAL(mkfifo(m_folder->native(u"fifo"_s).constData(), 0600), 0);
     m_folder->link(u"loop"_s, u"loop2"_s);
     m_folder->link(u"loop2"_s, u"loop"_s);
     m_folder->link(u"linkToFifo"_s, u"fifo"_s);
@@ -167,12 +168,12 @@ void TestWriteFileFaults::makeSpecialFiles() const
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     const QByteArray name = m_folder->native(u"socket"_s);
-    QVERIFY(static_cast<std::size_t>(name.size()) < sizeof(address.sun_path));
+    REQUIRE(static_cast<std::size_t>(name.size()) < sizeof(address.sun_path));
     std::copy(name.begin(), name.end(), address.sun_path);
     const int socketFile = socket(AF_UNIX, SOCK_STREAM, 0);
     const int bound = bind(socketFile, reinterpret_cast<const sockaddr *>(&address), sizeof(address));
     close(socketFile);
-    QCOMPARE(bound, 0);
+    REQUIRE_EQUAL(bound, 0);
 }
 
 void TestWriteFileFaults::refused_data()

@@ -11,6 +11,7 @@
 #include "holding/productedit.h"
 #include "tests/gui/openeditor.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
 
 /// What the tests of the product editor share.
 namespace productedit {
@@ -70,8 +71,8 @@ inline void saveRefused(ProductEdit &dialog, ModalAnswers &answers, const QStrin
 {
     answers.expectBox(ModalAnswers::entryFault(message), QMessageBox::Close);
     save(dialog);
-    QVERIFY(answers.allAnswered());
-    QVERIFY(dialog.isVisible());
+    REQUIRE(answers.allAnswered());
+    REQUIRE(dialog.isVisible());
 }
 
 inline QJsonObject savedProduct(OpenEditor &editor, int row = 0)

@@ -11,6 +11,7 @@
 #include <QTimeEdit>
 
 #include "tests/gui/opentimerbar.h"
+#include "tests/support/require.h"
 #include "timerbar/timerbarproductedit.h"
 
 /// The product dialog on a product of its own, shown. The product is bacon, 215 and 200 °F, 1 h, alert after
@@ -55,15 +56,15 @@ public:
         edit.setFocus();
         edit.setSelectedSection(QDateTimeEdit::HourSection);
         QTest::keyClicks(&edit, QTime(hours, minutes).toString(QStringLiteral("HHmm")));
-        QCOMPARE(edit.time().hour(), hours);
-        QCOMPARE(edit.time().minute(), minutes);
+        REQUIRE_EQUAL(edit.time().hour(), hours);
+        REQUIRE_EQUAL(edit.time().minute(), minutes);
     }
 
     void saveAccepted() const
     {
         ui::click(*dialog, "btnSave");
-        QVERIFY(dialog->isHidden());
-        QCOMPARE(dialog->result(), 1);
+        REQUIRE(dialog->isHidden());
+        REQUIRE_EQUAL(dialog->result(), 1);
     }
     /// Presses Save, which has to be refused with this message.
     void saveRefused(const QString &message) const
@@ -74,8 +75,8 @@ public:
             answers.expectBox(ModalAnswers::entryFault(message), QMessageBox::Close);
             ui::click(*dialog, "btnSave");
         }
-        QVERIFY(dialog->isVisible());
-        QCOMPARE(record(), before);
+        REQUIRE(dialog->isVisible());
+        REQUIRE_EQUAL(record(), before);
         ui::activate(*dialog);
     }
 

@@ -6,6 +6,7 @@
 #include "tests/gui/holdbins.h"
 #include "tests/gui/holdtime.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -41,19 +42,19 @@ namespace {
 void enterRemoval(HoldBins &editor, int row, int slot)
 {
     editor.press(row, slot);
-    QTRY_VERIFY(editor.isRemoving());
+    REQUIRE_SOON(editor.isRemoving());
     editor.release();
 }
 
 void checkNormalMode(HoldBins &editor)
 {
-    QVERIFY(!editor.isRemoving());
-    QVERIFY(!editor.widget("btnCancelDaypartRemove").isVisible());
+    REQUIRE(!editor.isRemoving());
+    REQUIRE(!editor.widget("btnCancelDaypartRemove").isVisible());
     for (const char *name : {"btnAddDaypart", "btnEditDaypart", "btnDeleteDaypart"})
-        QVERIFY(editor.widget(name).isVisible());
-    QVERIFY(editor.selector().isEnabled() && editor.widget("checkBoxDaypartInUse").isEnabled());
+        REQUIRE(editor.widget(name).isVisible());
+    REQUIRE(editor.selector().isEnabled() && editor.widget("checkBoxDaypartInUse").isEnabled());
     for (QPushButton *bin : editor.widget("frameGrid").findChildren<QPushButton *>())
-        QVERIFY(bin->isEnabled() && !bin->isCheckable() && !bin->isChecked());
+        REQUIRE(bin->isEnabled() && !bin->isCheckable() && !bin->isChecked());
 }
 
 } // namespace

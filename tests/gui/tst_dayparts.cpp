@@ -7,6 +7,7 @@
 #include "holding/daypartedit.h"
 #include "tests/gui/openbins.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
 #include "tests/support/slotlist.h"
 #include "tests/support/warnings.h"
 
@@ -61,7 +62,7 @@ QJsonArray savedLayout(OpenBins &editor)
 void expectName(ModalAnswers &answers, const QString &shown, const QString &name)
 {
     answers.expect<DaypartEdit>([shown, name](DaypartEdit &dialog) {
-        QCOMPARE(ui::get<QLineEdit>(dialog, "txtName").text(), shown);
+        REQUIRE_EQUAL(ui::get<QLineEdit>(dialog, "txtName").text(), shown);
         if (name.isNull()) {
             ui::click(dialog, "btnCancel");
             return;

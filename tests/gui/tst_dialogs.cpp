@@ -18,6 +18,7 @@
 #include <QTest>
 
 #include "tests/support/everywindow.h"
+#include "tests/support/require.h"
 #include "tests/support/shownwidgets.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
@@ -77,11 +78,10 @@ bool readsBefore(const QRect &first, const QRect &second)
 void checkTabOrder(QWidget &window)
 {
     const QList<QWidget *> order = shown::tabOrder(window);
-    QVERIFY(!order.isEmpty());
+    REQUIRE(!order.isEmpty());
     for (qsizetype i = 1; i < order.size(); ++i)
-        QVERIFY2(
-            readsBefore(placeIn(window, *order[i - 1]), placeIn(window, *order[i])),
-            qPrintable(shown::describe(*order[i - 1]) + u" comes before "_s + shown::describe(*order[i])));
+        REQUIRE(readsBefore(placeIn(window, *order[i - 1]), placeIn(window, *order[i])),
+                shown::describe(*order[i - 1]) + u" comes before "_s + shown::describe(*order[i]));
 }
 
 } // namespace
@@ -105,10 +105,9 @@ void checkNames(QWidget &window)
 {
     for (QWidget *widget : shown::tabOrder(window)) {
         QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-        QVERIFY(accessible);
+        REQUIRE(accessible);
         if (needsName(widget))
-            QVERIFY2(!accessible->text(QAccessible::Name).trimmed().isEmpty(),
-                     qPrintable(shown::describe(*widget)));
+            REQUIRE(!accessible->text(QAccessible::Name).trimmed().isEmpty(), shown::describe(*widget));
     }
 }
 
@@ -171,14 +170,13 @@ void checkSizes(QWidget &window)
         if (isPart(widget))
             continue;
         const QSize needed = neededSize(widget);
-        QVERIFY2(widget->width() >= needed.width() && widget->height() >= needed.height(),
-                 qPrintable(u"%1 is %2 x %3, needs %4 x %5"_s.arg(shown::describe(*widget))
-                                .arg(widget->width())
-                                .arg(widget->height())
-                                .arg(needed.width())
-                                .arg(needed.height())));
-        QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()),
-                 qPrintable(shown::describe(*widget)));
+        REQUIRE(widget->width() >= needed.width() && widget->height() >= needed.height(),
+                u"%1 is %2 x %3, needs %4 x %5"_s.arg(shown::describe(*widget))
+                    .arg(widget->width())
+                    .arg(widget->height())
+                    .arg(needed.width())
+                    .arg(needed.height()));
+        REQUIRE(widget->parentWidget()->rect().contains(widget->geometry()), shown::describe(*widget));
     }
 }
 

@@ -7,6 +7,7 @@
 #include "holding/configuration.h"
 #include "tests/gui/openeditor.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -40,7 +41,7 @@ samplefile::Menu filledMenu(const QString &model)
 void configure(ModalAnswers &answers, OpenEditor &editor)
 {
     ui::click(*editor, "btnConfig");
-    QVERIFY(answers.allAnswered());
+    REQUIRE(answers.allAnswered());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/gui/openlaneeditor.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -43,10 +44,10 @@ void TestSvrxMenuFileLimits::numbersHaveLimits()
     OpenLaneEditor editor;
     const auto checkTemperatures = [&editor](int minimum, int maximum) {
         for (int lane = 1; lane <= 4; ++lane) {
-            QCOMPARE(editor.temperature(lane).minimum(), minimum);
-            QCOMPARE(editor.temperature(lane).maximum(), maximum);
-            QCOMPARE(editor.fanSpeed(lane).minimum(), 1500);
-            QCOMPARE(editor.fanSpeed(lane).maximum(), 3200);
+            REQUIRE_EQUAL(editor.temperature(lane).minimum(), minimum);
+            REQUIRE_EQUAL(editor.temperature(lane).maximum(), maximum);
+            REQUIRE_EQUAL(editor.fanSpeed(lane).minimum(), 1500);
+            REQUIRE_EQUAL(editor.fanSpeed(lane).maximum(), 3200);
         }
     };
     checkTemperatures(150, 400);

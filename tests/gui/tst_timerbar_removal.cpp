@@ -8,6 +8,7 @@
 
 #include "tests/gui/holdtime.h"
 #include "tests/gui/timerbarlist.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 #include "timerbar/timerbarconfig.h"
 #include "timerbar/timerbardaypartassignitem.h"
@@ -106,16 +107,16 @@ QString TestTimerBarRemoval::states()
 
 void TestTimerBarRemoval::checkNormal()
 {
-    QCOMPARE(states(), u"nnnnnn"_s);
-    QCOMPARE(marks(), u"......"_s);
-    QVERIFY(!bin("btnDaypartRemove").isVisible());
-    QVERIFY(!bin("btnCancelDaypartRemove").isVisible());
-    QVERIFY(ui::get<QComboBox>(**m_editor, "comboDaypartSelect").isEnabled());
+    REQUIRE_EQUAL(states(), u"nnnnnn"_s);
+    REQUIRE_EQUAL(marks(), u"......"_s);
+    REQUIRE(!bin("btnDaypartRemove").isVisible());
+    REQUIRE(!bin("btnCancelDaypartRemove").isVisible());
+    REQUIRE(ui::get<QComboBox>(**m_editor, "comboDaypartSelect").isEnabled());
 }
 
 void TestTimerBarRemoval::press(QPushButton &button)
 {
-    QVERIFY(button.isVisible() && button.isEnabled());
+    REQUIRE(button.isVisible() && button.isEnabled());
     sendMouse(button, QEvent::MouseButtonPress, button.rect().center());
 }
 
@@ -129,7 +130,7 @@ void TestTimerBarRemoval::hold(const char *name)
 {
     QPushButton &button = bin(name);
     press(button);
-    QTRY_VERIFY(bin("btnDaypartRemove").isVisible());
+    REQUIRE_SOON(bin("btnDaypartRemove").isVisible());
     release(button);
 }
 

@@ -9,6 +9,7 @@
 #include "holding/timercolors.h"
 #include "tests/gui/openeditor.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
 #include "tests/support/slotlist.h"
 #include "tests/support/warnings.h"
 
@@ -39,7 +40,7 @@ void expectPick(ModalAnswers &answers, int index)
 {
     answers.expect<TimerColorPicker>([index](TimerColorPicker &picker) {
         QPushButton *button = colorButton(picker, index);
-        QVERIFY(button);
+        REQUIRE(button);
         ui::click(*button);
     });
 }

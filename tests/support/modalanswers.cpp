@@ -12,27 +12,33 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "tests/support/require.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void fail(const QString &message)
+QString describe(const QDialog &dialog)
 {
-    QTest::qFail(qPrintable(message), __FILE__, __LINE__);
+    QString text =
+        u"%1 \"%2\""_s.arg(QLatin1StringView(dialog.metaObject()->className()), dialog.windowTitle());
+    if (const auto *box = qobject_cast<const QMessageBox *>(&dialog))
+        text += u' ' + box->text() + u' ' + box->informativeText();
+    return text;
 }
 
 void checkBox(const QMessageBox &box, const ModalAnswers::Box &expected)
 {
-    QCOMPARE(box.windowTitle(), expected.title);
-    QCOMPARE(box.text(), expected.text);
-    QCOMPARE(box.informativeText(), expected.informativeText);
-    QCOMPARE(box.icon(), expected.icon);
-    QCOMPARE(box.styleSheet(), expected.styleSheet);
-    QCOMPARE(box.parent() != nullptr, expected.hasParent);
+    REQUIRE_EQUAL(box.windowTitle(), expected.title);
+    REQUIRE_EQUAL(box.text(), expected.text);
+    REQUIRE_EQUAL(box.informativeText(), expected.informativeText);
+    REQUIRE_EQUAL(box.icon(), expected.icon);
+    REQUIRE_EQUAL(box.styleSheet(), expected.styleSheet);
+    REQUIRE_EQUAL(box.parent() != nullptr, expected.hasParent);
     if (expected.buttons != QMessageBox::NoButton)
-        QCOMPARE(box.standardButtons(), expected.buttons);
+        REQUIRE_EQUAL(box.standardButtons(), expected.buttons);
     if (expected.defaultButton != QMessageBox::NoButton)
-        QCOMPARE(box.defaultButton(), box.button(expected.defaultButton));
+        REQUIRE_EQUAL(box.defaultButton(), box.button(expected.defaultButton));
 }
 
 } // namespace
@@ -44,9 +50,11 @@ ModalAnswers::ModalAnswers()
 
 ModalAnswers::~ModalAnswers()
 {
-    if (!m_answers.empty())
-        fail(u"%1 expected dialog(s) did not come up, next a %2"_s.arg(m_answers.size())
-                 .arg(QLatin1StringView(m_answers.front().type->className())));
+    // A test that has failed may well have left before its dialogs came.
+    if (!m_answers.empty() && !QTest::currentTestFailed())
+        require::fail(u"%1 expected dialog(s) did not come up, next a %2"_s.arg(m_answers.size())
+                          .arg(QLatin1StringView(m_answers.front().type->className())),
+                      {__FILE__, __LINE__});
 }
 
 bool ModalAnswers::eventFilter(QObject *watched, QEvent *event)
@@ -64,27 +72,19 @@ void ModalAnswers::answer(QDialog *dialog)
 {
     const QPointer<QDialog> guard(dialog);
     // Before that, keys and the focus still belong to the window below.
-    if (!QTest::qWaitFor([&guard] { return !guard || guard->isActiveWindow(); }))
-        fail(u"A dialog did not become active"_s);
-    const QString what =
-        u"%1 \"%2\""_s.arg(QLatin1StringView(dialog->metaObject()->className()), dialog->windowTitle());
+    REQUIRE_SOON(!guard || guard->isActiveWindow());
     if (m_look)
         m_look(*dialog);
-    if (m_answers.empty()) {
-        const auto *box = qobject_cast<QMessageBox *>(dialog);
-        fail(u"Unexpected dialog: "_s + what +
-             (box ? u" "_s + box->text() + u' ' + box->informativeText() : QString()));
-    } else {
-        const Answer next = std::move(m_answers.front());
-        m_answers.pop_front();
-        if (!dialog->metaObject()->inherits(next.type))
-            fail(u"Expected a %1, got "_s.arg(QLatin1StringView(next.type->className())) + what);
-        else
-            next.give(*dialog);
-    }
+    const QString what = describe(*dialog);
+    REQUIRE(!m_answers.empty(), u"Unexpected dialog: "_s + what);
+    const Answer next = std::move(m_answers.front());
+    m_answers.pop_front();
+    REQUIRE(dialog->metaObject()->inherits(next.type),
+            u"Expected a %1, got "_s.arg(QLatin1StringView(next.type->className())) + what);
+    next.give(*dialog);
     if (guard && guard->isVisible()) {
-        if (!QTest::currentTestFailed())
-            fail(u"Left open: "_s + what);
+        // A failed check of the test's own leaves the answer early.
+        REQUIRE(QTest::currentTestFailed(), u"Left open: "_s + what);
         guard->done(QDialog::Rejected);
     }
 }
@@ -98,7 +98,7 @@ void ModalAnswers::expectBox(const Box &expected, QMessageBox::StandardButton pr
 {
     expect<QMessageBox>([expected, press](QMessageBox &box) {
         checkBox(box, expected);
-        QVERIFY(box.button(press));
+        REQUIRE(box.button(press));
         QTest::mouseClick(box.button(press), Qt::LeftButton);
     });
 }
@@ -164,13 +164,13 @@ void ModalAnswers::expectFileDialog(const QString &caption, const QString &filte
                                     const QString &start)
 {
     expect<QFileDialog>([=](QFileDialog &dialog) {
-        QCOMPARE(dialog.windowTitle(), caption);
-        QCOMPARE(dialog.nameFilters().join(u";;"_s), filter);
+        REQUIRE_EQUAL(dialog.windowTitle(), caption);
+        REQUIRE_EQUAL(dialog.nameFilters().join(u";;"_s), filter);
         auto *name = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
         auto *buttons = dialog.findChild<QDialogButtonBox *>(u"buttonBox"_s);
-        QVERIFY(name && buttons);
+        REQUIRE(name && buttons);
         if (!start.isNull())
-            QCOMPARE(name->text(), start);
+            REQUIRE_EQUAL(name->text(), start);
         if (path.isEmpty()) {
             QTest::mouseClick(buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);
             return;

@@ -16,15 +16,16 @@ class QFileDialog;
 ///
 /// Each dialog that is shown takes the next answer from the queue, inside its own event loop. A dialog that
 /// nobody expected, one of another kind, one that its answer left open, and an answer whose dialog never came
-/// each fail the test; every dialog is closed in any case, so that no test hangs. Answers may open dialogs of
-/// their own: those take the following answers. One object at a time, as each answers every dialog.
+/// each end the test program; one whose answer was left at a failed check is closed, so that no test hangs.
+/// Answers may open dialogs of their own: those take the following answers. One object at a time, as each
+/// answers every dialog.
 class ModalAnswers : public QObject
 {
     Q_OBJECT
 
 public:
     ModalAnswers();
-    /// Fails the test when answers are left.
+    /// Ends the test program when answers are left.
     ~ModalAnswers() override;
 
     /// Calls `look` with every dialog before it is answered.
@@ -37,6 +38,9 @@ public:
         expectAny(Dialog::staticMetaObject,
                   [answer = std::move(answer)](QDialog &dialog) { answer(static_cast<Dialog &>(dialog)); });
     }
+
+    /// The same for a type that is known only when the test runs.
+    void expectAny(const QMetaObject &type, std::function<void(QDialog &)> answer);
 
     /// Expects a message box with exactly these texts and presses the button.
     struct Box
@@ -83,7 +87,6 @@ private:
         std::function<void(QDialog &)> give;
     };
 
-    void expectAny(const QMetaObject &type, std::function<void(QDialog &)> answer);
     void answer(QDialog *dialog);
 
     std::deque<Answer> m_answers;

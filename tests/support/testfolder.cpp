@@ -3,11 +3,17 @@
 
 #include "tests/support/testfolder.h"
 
+#include "tests/support/require.h"
 #include <QDir>
 #include <QFile>
-#include <QTest>
 
 #include <unistd.h>
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
+}
 
 QStringList TestFolder::names() const
 {
@@ -17,19 +23,24 @@ QStringList TestFolder::names() const
 
 QByteArray TestFolder::content(const QString &name) const
 {
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
+    return contentOf(path(name));
 }
 
-void TestFolder::make(const QString &name, const QByteArray &bytes) const
+QString TestFolder::make(const QString &name, const QByteArray &bytes) const
 {
     QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
+    REQUIRE(file.open(QIODevice::WriteOnly), file.fileName());
+    REQUIRE(file.write(bytes) == bytes.size() && file.flush(), file.fileName());
+    return file.fileName();
+}
+
+void TestFolder::remove()
+{
+    REQUIRE(m_folder.remove());
 }
 
 // QFile::link() would make a relative target absolute.
 void TestFolder::link(const QString &name, const QString &target) const
 {
-    QCOMPARE(symlink(target.toLocal8Bit().constData(), native(name).constData()), 0);
+    REQUIRE_EQUAL(symlink(target.toLocal8Bit().constData(), native(name).constData()), 0);
 }

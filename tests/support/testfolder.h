@@ -8,7 +8,11 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A folder for the files of one test function, gone with everything in it at the end.
+/// The bytes of a file, or "(cannot be read)".
+[[nodiscard]] QByteArray contentOf(const QString &path);
+
+/// A folder for the files of one test function, gone with everything in it at the end. What cannot be made
+/// in it ends the test program.
 class TestFolder
 {
 public:
@@ -20,10 +24,12 @@ public:
     /// Everything in the folder, hidden and broken things too, sorted.
     [[nodiscard]] QStringList names() const;
     [[nodiscard]] QByteArray content(const QString &name) const;
-    /// Makes a file; a failure fails the test.
-    void make(const QString &name, const QByteArray &bytes) const;
+    /// Makes a file and returns its path.
+    QString make(const QString &name, const QByteArray &bytes) const;
     /// Makes a symbolic link to `target`, which need not exist.
     void link(const QString &name, const QString &target) const;
+    /// Removes the folder, so that nothing can be saved in it any more.
+    void remove();
 
 private:
     QTemporaryDir m_folder;

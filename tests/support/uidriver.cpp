@@ -14,13 +14,21 @@
 #include <QStyleOptionViewItem>
 #include <QTimeEdit>
 
+#include "tests/support/require.h"
+
 using namespace Qt::StringLiterals;
 
 namespace ui {
 
+void noWidget(const char *type, const char *name)
+{
+    require::fail(u"There is no %1 named %2"_s.arg(QLatin1StringView(type), QLatin1StringView(name)),
+                  {__FILE__, __LINE__});
+}
+
 void click(QWidget &widget)
 {
-    QVERIFY2(widget.isVisible() && widget.isEnabled(), qPrintable(widget.objectName()));
+    REQUIRE(widget.isVisible() && widget.isEnabled(), widget.objectName());
     QTest::mouseClick(&widget, Qt::LeftButton);
 }
 
@@ -31,7 +39,7 @@ void click(const QObject &parent, const char *name)
 
 void type(QWidget &input, const QString &text)
 {
-    QVERIFY2(input.isVisible() && input.isEnabled(), qPrintable(input.objectName()));
+    REQUIRE(input.isVisible() && input.isEnabled(), input.objectName());
     input.setFocus();
     QTest::keyClick(&input, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&input, Qt::Key_Delete);
@@ -46,22 +54,38 @@ void type(const QObject &parent, const char *name, const QString &text)
 void enterTime(const QObject &parent, const char *timeEdit, const QTime &time)
 {
     auto &edit = get<QTimeEdit>(parent, timeEdit);
-    QVERIFY2(edit.isVisible() && edit.isEnabled(), timeEdit);
+    REQUIRE(edit.isVisible() && edit.isEnabled(), edit.objectName());
     edit.setFocus();
     edit.setSelectedSection(QDateTimeEdit::HourSection);
     QTest::keyClicks(&edit, time.toString(u"HHmmss"_s));
-    QCOMPARE(edit.time(), time);
+    REQUIRE_EQUAL(edit.time(), time);
 }
 
 void choose(const QObject &parent, const char *comboBox, const QString &text)
 {
     auto &combo = get<QComboBox>(parent, comboBox);
-    QVERIFY2(combo.isVisible() && combo.isEnabled(), comboBox);
+    REQUIRE(combo.isVisible() && combo.isEnabled(), combo.objectName());
     const int index = combo.findText(text);
-    QVERIFY2(index >= 0, qPrintable(text));
+    REQUIRE(index >= 0, text);
     combo.setFocus();
     while (combo.currentIndex() != index)
         QTest::keyClick(&combo, combo.currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
+}
+
+QStringList textsOf(const QListWidget &list)
+{
+    QStringList texts;
+    for (int row = 0; row < list.count(); ++row)
+        texts.append(list.item(row)->text());
+    return texts;
+}
+
+QStringList textsOf(const QComboBox &combo)
+{
+    QStringList texts;
+    for (int row = 0; row < combo.count(); ++row)
+        texts.append(combo.itemText(row));
+    return texts;
 }
 
 namespace {
@@ -77,13 +101,13 @@ QRect rowRect(QListWidget &list, int row)
 
 void clickRow(QListWidget &list, int row, Qt::KeyboardModifiers modifiers)
 {
-    QVERIFY(row >= 0 && row < list.count());
+    REQUIRE(row >= 0 && row < list.count());
     QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, rowRect(list, row).center());
 }
 
 void clickRowBox(QListWidget &list, int row)
 {
-    QVERIFY(row >= 0 && row < list.count());
+    REQUIRE(row >= 0 && row < list.count());
     QStyleOptionViewItem option;
     option.initFrom(&list);
     option.rect = rowRect(list, row);
@@ -104,7 +128,7 @@ void clickMenu(QMainWindow &window, const char *menu, const char *action)
     auto &popup = get<QMenu>(window, menu);
     QMenuBar *bar = window.menuBar();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(popup.menuAction()).center());
-    QVERIFY(popup.isVisible());
+    REQUIRE(popup.isVisible(), popup.objectName());
     QAction &entry = get<QAction>(window, action);
     QTest::mouseClick(&popup, Qt::LeftButton, {}, popup.actionGeometry(&entry).center());
 }
@@ -112,14 +136,14 @@ void clickMenu(QMainWindow &window, const char *menu, const char *action)
 void show(QWidget &window)
 {
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    REQUIRE(QTest::qWaitForWindowExposed(&window), window.windowTitle());
     activate(window);
 }
 
 void activate(QWidget &window)
 {
     window.activateWindow();
-    QVERIFY(QTest::qWaitFor([&window] { return window.isActiveWindow(); }));
+    REQUIRE_SOON(window.isActiveWindow());
 }
 
 } // namespace ui

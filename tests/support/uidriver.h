@@ -4,27 +4,32 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QTest>
 #include <QTime>
 #include <QWidget>
 
+class QComboBox;
 class QListWidget;
 class QMainWindow;
 
-/// Finds widgets by object name and acts on them as a person does.
+/// Finds widgets by object name and acts on them as a person does. What cannot be found, or is hidden or
+/// disabled, ends the test program.
 namespace ui {
 
-/// The widget with this name and type; aborts the test program with its name where there is none.
+[[noreturn]] void noWidget(const char *type, const char *name);
+
+/// The widget with this name and type.
 template <typename Widget>
 Widget &get(const QObject &parent, const char *name)
 {
     auto *widget = parent.findChild<Widget *>(QString::fromLatin1(name));
     if (!widget)
-        qFatal("There is no %s named %s", Widget::staticMetaObject.className(), name);
+        noWidget(Widget::staticMetaObject.className(), name);
     return *widget;
 }
 
-/// Clicks a visible, enabled widget in its middle; anything else fails the test.
+/// Clicks a widget in its middle.
 void click(QWidget &widget);
 void click(const QObject &parent, const char *name);
 
@@ -37,6 +42,10 @@ void enterTime(const QObject &parent, const char *timeEdit, const QTime &time);
 
 /// Chooses an item of a combo box with the keyboard.
 void choose(const QObject &parent, const char *comboBox, const QString &text);
+
+/// The texts of the rows.
+[[nodiscard]] QStringList textsOf(const QListWidget &list);
+[[nodiscard]] QStringList textsOf(const QComboBox &combo);
 
 void clickRow(QListWidget &list, int row, Qt::KeyboardModifiers modifiers = {});
 /// Clicks the check box of a row.
