@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QTest>
 
+#include "tests/support/require.h"
 #include "tests/support/sampletimerbar.h"
 #include "tests/support/warnings.h"
 #include "timerbar/cbrfile.h"
@@ -17,7 +18,7 @@ class TestCbrRead : public QObject
 
 private slots:
     void init() { failOnWarnings(); }
-    void goldenFiles_data();
+    void goldenFiles_data() { cbr::addMenuRows(); }
     void goldenFiles();
     void texts_data();
     void texts();
@@ -46,7 +47,7 @@ timerbar::Menu read(const QByteArray &bytes)
     timerbar::Menu menu;
     const QString fault = timerbar::readMenu(bytes, menu);
     if (!fault.isEmpty())
-        QTest::qFail(qPrintable(fault), __FILE__, __LINE__);
+        require::fail(fault, {__FILE__, __LINE__});
     return menu;
 }
 
@@ -93,20 +94,6 @@ const QByteArray noCells = "0064016402640364";
 const QList<int> emptyCells{100, 100, 100, 100};
 
 } // namespace
-
-void TestCbrRead::goldenFiles_data()
-{
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<int>("products");
-    QTest::addColumn<int>("unit");
-    for (const cbr::Model &model : cbr::models()) {
-        for (const int products : {0, 1, 100}) {
-            for (const int unit : {0, 1})
-                QTest::addRow("%s, %d products, unit %d", qPrintable(model.name), products, unit)
-                    << model.name << products << unit;
-        }
-    }
-}
 
 void TestCbrRead::goldenFiles()
 {

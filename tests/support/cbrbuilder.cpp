@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+#include "tests/support/checksum.h"
+
 using namespace Qt::StringLiterals;
 
 namespace cbr {
@@ -24,18 +26,6 @@ QByteArray bigEndian(int value)
 QByteArray littleEndian(int value)
 {
     return byte(value) + byte(value >> 8);
-}
-
-// Bit by bit, as the polynomial says.
-int checksum(const QByteArray &bytes)
-{
-    int crc = 0xFFFF;
-    for (const char each : bytes) {
-        crc ^= static_cast<unsigned char>(each);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = (crc & 1) ? (crc >> 1) ^ 0xA001 : crc >> 1;
-    }
-    return crc;
 }
 
 } // namespace
@@ -67,6 +57,20 @@ void addModelRows()
     QTest::addColumn<QString>("model");
     for (const Model &each : models())
         QTest::newRow(qPrintable(each.name)) << each.name;
+}
+
+void addMenuRows()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<int>("products");
+    QTest::addColumn<int>("unit");
+    for (const Model &each : models()) {
+        for (const int products : {0, 1, 100}) {
+            for (const int unit : {0, 1})
+                QTest::addRow("%s, %d products, unit %d", qPrintable(each.name), products, unit)
+                    << each.name << products << unit;
+        }
+    }
 }
 
 QByteArray Product::record() const
@@ -128,7 +132,7 @@ Menu manyInBins(const QString &model, int count, int unit)
 
 QByteArray withChecksum(QByteArray bytes)
 {
-    return bytes.size() < 2 ? bytes : littleEndian(checksum(bytes.sliced(2))) + bytes.sliced(2);
+    return bytes.size() < 2 ? bytes : littleEndian(checksum::ofMenu(bytes.sliced(2))) + bytes.sliced(2);
 }
 
 QByteArray withByte(QByteArray bytes, qsizetype offset, int value)

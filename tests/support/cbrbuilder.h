@@ -27,6 +27,8 @@ struct Model
 [[nodiscard]] const Model &model(const QString &name);
 /// A test column "model" with the models' names.
 void addModelRows();
+/// Test columns "model", "products" and "unit": menus of every size that manyInBins() makes.
+void addMenuRows();
 
 /// The values as the file holds them.
 struct Product

@@ -5,18 +5,13 @@
 
 #include <QString>
 
+#include "tests/support/checksum.h"
+
 namespace lanefile {
 
-// Bit by bit, so that it shares nothing with the program's table.
 QByteArray identifierOf(const QByteArray &contents)
 {
-    unsigned crc = 0;
-    for (const char byte : contents) {
-        crc ^= static_cast<uchar>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = (crc >> 1) ^ ((crc & 1U) != 0 ? 0xA001U : 0U);
-    }
-    return QByteArray::number(crc, 16).rightJustified(4, '0');
+    return QByteArray::number(checksum::ofLanes(contents), 16).rightJustified(4, '0');
 }
 
 QByteArray text(const QByteArray &contents)

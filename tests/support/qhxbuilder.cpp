@@ -3,21 +3,11 @@
 
 #include "tests/support/qhxbuilder.h"
 
+#include "tests/support/checksum.h"
+
 namespace qhx {
 
 namespace {
-
-// CRC-16/MODBUS bit by bit, as it is defined.
-quint16 checksum(const QByteArray &bytes)
-{
-    quint32 crc = 0xFFFF;
-    for (const char byte : bytes) {
-        crc ^= static_cast<quint8>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = crc & 1 ? (crc >> 1) ^ 0xA001 : crc >> 1;
-    }
-    return static_cast<quint16>(crc);
-}
 
 QByteArray blank(qsizetype size)
 {
@@ -85,7 +75,7 @@ QByteArray daypartRecord(const Bins &bins)
 
 QByteArray sealed(QByteArray record)
 {
-    put(record, 0, checksum(record.sliced(2)), 2);
+    put(record, 0, checksum::ofMenu(record.sliced(2)), 2);
     return record;
 }
 
