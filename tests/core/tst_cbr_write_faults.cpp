@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QTest>
 
-#include "tests/support/failingdevice.h"
+#include "tests/core/failingdevice.h"
 #include "tests/support/hardship.h"
 #include "tests/support/sampletimerbar.h"
 #include "tests/support/testfolder.h"

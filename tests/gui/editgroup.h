@@ -67,10 +67,10 @@ inline QListWidget &members(const GroupEdit &dialog)
 /// The listed members, the checked ones starred: "  1 Bacon*".
 inline QStringList shownMembers(const GroupEdit &dialog)
 {
-    QStringList texts;
-    for (int row = 0; row < members(dialog).count(); ++row) {
-        const QListWidgetItem *item = members(dialog).item(row);
-        texts.append(item->text() + (item->checkState() == Qt::Checked ? u"*"_s : QString()));
+    QStringList texts = ui::textsOf(members(dialog));
+    for (int row = 0; row < texts.size(); ++row) {
+        if (members(dialog).item(row)->checkState() == Qt::Checked)
+            texts[row] += u'*';
     }
     return texts;
 }

@@ -9,6 +9,7 @@
 
 #include "holding/menufile.h"
 #include "tests/support/samplefile.h"
+#include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 
 /// An editor that shows a menu of a test's.
@@ -16,7 +17,7 @@ class OpenEditor
 {
 public:
     explicit OpenEditor(const samplefile::Menu &menu)
-        : m_editor(m_folder.write(QStringLiteral("menu.json"), menu.bytes()))
+        : m_editor(m_folder.make(QStringLiteral("menu.json"), menu.bytes()))
     {
         ui::show(m_editor);
     }
@@ -45,6 +46,6 @@ private:
         return ui::get<QLabel>(ui::get<QWidget>(m_editor, pane), label);
     }
 
-    samplefile::Folder m_folder;
+    TestFolder m_folder;
     MenuFile m_editor;
 };

@@ -11,7 +11,9 @@
 
 #include "tests/support/cbrbuilder.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
 #include "tests/support/samplefile.h"
+#include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 #include "timerbar/timerbarmenufile.h"
 
@@ -20,7 +22,7 @@ class OpenTimerBar
 {
 public:
     explicit OpenTimerBar(const cbr::Menu &menu)
-        : m_editor(m_folder.write(QStringLiteral("menu.cbr"), menu.bytes()))
+        : m_editor(m_folder.make(QStringLiteral("menu.cbr"), menu.bytes()))
     {
         ui::show(m_editor);
     }
@@ -47,11 +49,11 @@ public:
     [[nodiscard]] QByteArray saved()
     {
         const QString path = m_folder.path(QStringLiteral("saved.cbr"));
-        return m_editor.writeMenuFile(path) ? samplefile::bytesOf(path).toHex(' ') : QByteArray();
+        return m_editor.writeMenuFile(path) ? contentOf(path).toHex(' ') : QByteArray();
     }
 
 private:
-    samplefile::Folder m_folder;
+    TestFolder m_folder;
     TimerBarMenuFile m_editor;
 };
 
@@ -69,4 +71,14 @@ private:
             .products = {{.name = "Bacon", .shortName = "BACN", .upper = 116, .lower = 116},
                          {.name = "Ham Steak", .shortName = "HAM", .upper = 116, .lower = 116},
                          {.name = "Chili", .shortName = "CHIL", .upper = 91, .lower = 81}}};
+}
+
+/// Turns to the day parts and holds the first bin of a two-row cabinet's lower row, which has to be filled.
+inline void enterRemovalMode(TimerBarMenuFile &editor)
+{
+    ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(1);
+    auto &bin = ui::get<QPushButton>(editor, "btnDaypartSelect1_0");
+    QTest::mousePress(&bin, Qt::LeftButton);
+    REQUIRE_SOON(bin.isChecked());
+    QTest::mouseRelease(&bin, Qt::LeftButton);
 }

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "tests/gui/opentimerbar.h"
+#include "tests/support/require.h"
 #include "timerbar/timerbarproductedit.h"
 
 /// What the tests of the editor's list of products share.
@@ -24,14 +25,6 @@ inline QString enabledButtons(OpenTimerBar &editor)
     return enabled;
 }
 
-inline QStringList rowsOf(OpenTimerBar &editor)
-{
-    QStringList texts;
-    for (int row = 0; row < editor.products().count(); ++row)
-        texts.append(editor.products().item(row)->text());
-    return texts;
-}
-
 inline QStringList details(OpenTimerBar &editor)
 {
     QStringList texts;
@@ -47,7 +40,7 @@ inline QList<int> ids(OpenTimerBar &editor)
     for (int row = 0; row < editor.products().count(); ++row) {
         found.append(editor.products().item(row)->data(Qt::UserRole).toInt());
         if (editor->products().at(row)->get_productId() != found.last())
-            QTest::qFail("The list and the menu differ", __FILE__, __LINE__);
+            require::fail(u"The list and the menu differ"_s, {__FILE__, __LINE__});
     }
     return found;
 }

@@ -19,11 +19,7 @@ namespace {
 
 QStringList itemsOf(const QObject &parent, const char *comboBox)
 {
-    const auto &combo = ui::get<QComboBox>(parent, comboBox);
-    QStringList items;
-    for (int i = 0; i < combo.count(); ++i)
-        items.append(combo.itemText(i));
-    return items;
+    return ui::textsOf(ui::get<QComboBox>(parent, comboBox));
 }
 
 QString shownIn(const QObject &parent, const char *comboBox)

@@ -7,6 +7,8 @@
 #include "holding/menujson.h"
 #include "tests/gui/openbins.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
+#include "tests/support/testfolder.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -47,7 +49,7 @@ void choose(OpenBins &editor, const QString &model, bool otherBinsPerZone)
                            .icon = QMessageBox::Warning},
                           QMessageBox::Ok);
     ui::click(*editor, "btnConfig");
-    QVERIFY(answers.allAnswered());
+    REQUIRE(answers.allAnswered());
 }
 
 // The rows of the grid, a text each: the names of the visible bins.
@@ -183,12 +185,12 @@ void TestDaypartConfiguration::fullMenusStayTheSame()
         daypart.insert(u"inUse"_s, i % 3 == 0);
         sample.layout.append(daypart);
     }
-    const samplefile::Folder folder;
-    const QString given = folder.write(u"given.json"_s, sample.bytes());
+    const TestFolder folder;
+    const QString given = folder.make(u"given.json"_s, sample.bytes());
     MenuFile first(given);
     ui::show(first);
     QVERIFY(first.writeToFile(folder.path(u"first.json"_s)));
-    const QByteArray bytes = samplefile::bytesOf(folder.path(u"first.json"_s));
+    const QByteArray bytes = contentOf(folder.path(u"first.json"_s));
     QCOMPARE(samplefile::menuOf(first.filePath()).value(u"layout"_s).toArray().size(), 10);
     MenuFile second(folder.path(u"first.json"_s));
     ui::show(second);
@@ -196,7 +198,7 @@ void TestDaypartConfiguration::fullMenusStayTheSame()
     for (int i = 0; i < selector.count(); ++i)
         selector.setCurrentIndex(i); // looking changes nothing
     QVERIFY(second.writeToFile(folder.path(u"second.json"_s)));
-    QCOMPARE(samplefile::bytesOf(folder.path(u"second.json"_s)), bytes);
+    QCOMPARE(contentOf(folder.path(u"second.json"_s)), bytes);
     const holding::CabinetShape shape =
         holding::cabinetShape(model.startsWith(u'Z') ? u"ZPV"_s : u"QHX"_s, model);
     for (int i = 0; i < 10; ++i) {

@@ -113,11 +113,8 @@ void TestDaypartPicker::startsWithoutASelection()
 void TestDaypartPicker::listsProductsThenGroups()
 {
     OpenPicker picker;
-    QStringList texts;
-    for (int row = 0; row < picker.list().count(); ++row)
-        texts.append(picker.list().item(row)->text());
-    QCOMPARE(texts, (QStringList{u"  1 Ham"_s, u"  2 Rib"_s, u"  3 Chili"_s, u"  4 Gravy"_s, u"  5 Meats"_s,
-                                 u"  6 Nothing"_s}));
+    QCOMPARE(ui::textsOf(picker.list()), (QStringList{u"  1 Ham"_s, u"  2 Rib"_s, u"  3 Chili"_s,
+                                                      u"  4 Gravy"_s, u"  5 Meats"_s, u"  6 Nothing"_s}));
 }
 
 void TestDaypartPicker::numbersAHundredEntries()

@@ -7,6 +7,7 @@
 #include "holding/configuration.h"
 #include "tests/gui/editgroup.h"
 #include "tests/support/slotlist.h"
+#include "tests/support/testfolder.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -196,13 +197,13 @@ void TestGroupEdit::summaryOfEveryLid()
 
 void TestGroupEdit::unknownCabinetIsRefused()
 {
-    const samplefile::Folder folder;
+    const TestFolder folder;
     const samplefile::Menu menu = menuWith(meats({1}), samplefile::header({{u"cabinetType"_s, u"XYZ"_s}}));
     ModalAnswers answers;
     answers.expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnCancel"); });
     answers.expectBox(ModalAnswers::fileFault(u"File read canceled. Unkown configuration!"_s),
                       QMessageBox::Ok);
-    MenuFile editor(folder.write(u"menu.json"_s, menu.bytes()));
+    MenuFile editor(folder.make(u"menu.json"_s, menu.bytes()));
     answers.expectBox(ModalAnswers::refusal(u"Unkown cabinet value!"_s), QMessageBox::Close);
     ProductInfo group;
     GroupEdit dialog(group, &editor);

@@ -3,20 +3,20 @@
 
 #include <QApplication>
 #include <QListWidget>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOptionTitleBar>
 #include <QStyleOptionViewItem>
 #include <QTest>
 
+#include "tests/gui/changemenu.h"
 #include "tests/support/everywindow.h"
-#include "tests/support/openmenus.h"
+#include "tests/support/program.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
+using namespace changemenu;
 
 /// What only the painted picture tells.
 class TestLook : public QObject
@@ -138,8 +138,8 @@ void TestLook::groupRowsStartAtTheEdge()
 
 void TestLook::subWindowHasNoCloseButton()
 {
-    OpenMenus open;
-    QMdiSubWindow *subWindow = open.openSample(u"menu.json"_s);
+    Program program;
+    QMdiSubWindow *subWindow = openSample(program, u"menu.json"_s);
     QStyleOptionTitleBar option;
     option.initFrom(subWindow);
     option.subControls = QStyle::SC_All;

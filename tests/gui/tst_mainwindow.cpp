@@ -3,8 +3,6 @@
 
 #include <QFile>
 #include <QLabel>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
@@ -12,15 +10,15 @@
 #include <QTest>
 
 #include "app/aboutapp.h"
-#include "app/mainwindow.h"
 #include "app/selectproductline.h"
-#include "tests/support/modalanswers.h"
-#include "tests/support/openmenus.h"
+#include "tests/gui/changemenu.h"
+#include "tests/support/program.h"
 #include "tests/support/slotlist.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
+using namespace changemenu;
 
 /// The main window itself: form, menus, sub-windows and the about box.
 class TestMainWindow : public QObject
@@ -110,9 +108,9 @@ void TestMainWindow::thereAreNoShortcuts()
 
 void TestMainWindow::mnemonicsWork()
 {
-    MainWindow window;
-    ui::show(window);
-    ModalAnswers answers;
+    Program program;
+    MainWindow &window = program.window();
+    ModalAnswers &answers = program.answers();
     answers.expect<AboutApp>([](AboutApp &box) { ui::click(box, "btnAccept"); });
     QTest::keyClick(&window, Qt::Key_H, Qt::AltModifier);
     auto &help = ui::get<QMenu>(window, "menuHelp");
@@ -149,6 +147,13 @@ QStringList enabledEntries(MainWindow &window)
     return names;
 }
 
+void closeUnsaved(Program &program, QMdiSubWindow &subWindow)
+{
+    program.expectSaveQuestion(QMessageBox::No);
+    subWindow.close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 const QStringList allEntries{u"actionNew"_s, u"actionOpen"_s, u"action_Save"_s, u"actionSaveAs"_s,
                              u"actionExit"_s};
 const QStringList entriesWithoutSaving{u"actionNew"_s, u"actionOpen"_s, u"actionExit"_s};
@@ -157,49 +162,47 @@ const QStringList entriesWithoutSaving{u"actionNew"_s, u"actionOpen"_s, u"action
 
 void TestMainWindow::savingNeedsAnActiveMenu()
 {
-    OpenMenus open;
-    auto &area = open.area();
-    QCOMPARE(enabledEntries(open.window()), entriesWithoutSaving);
-    QMdiSubWindow *first = open.openSample(u"first.json"_s);
-    QCOMPARE(enabledEntries(open.window()), allEntries);
-    QMdiSubWindow *second = open.openSample(u"second.json"_s);
-    QCOMPARE(enabledEntries(open.window()), allEntries);
+    Program program;
+    auto &area = program.area();
+    QCOMPARE(enabledEntries(program.window()), entriesWithoutSaving);
+    QMdiSubWindow *first = openSample(program, u"first.json"_s);
+    QCOMPARE(enabledEntries(program.window()), allEntries);
+    QMdiSubWindow *second = openSample(program, u"second.json"_s);
+    QCOMPARE(enabledEntries(program.window()), allEntries);
     area.setActiveSubWindow(nullptr);
-    QCOMPARE(enabledEntries(open.window()), entriesWithoutSaving);
+    QCOMPARE(enabledEntries(program.window()), entriesWithoutSaving);
     area.setActiveSubWindow(first);
-    QCOMPARE(enabledEntries(open.window()), allEntries);
+    QCOMPARE(enabledEntries(program.window()), allEntries);
     for (QMdiSubWindow *subWindow : {first, second})
-        open.closeUnsaved(*subWindow);
+        closeUnsaved(program, *subWindow);
     QVERIFY(area.subWindowList().isEmpty());
-    QCOMPARE(enabledEntries(open.window()), entriesWithoutSaving);
+    QCOMPARE(enabledEntries(program.window()), entriesWithoutSaving);
 }
 
 void TestMainWindow::minimisedMenuCanBeSaved()
 {
-    OpenMenus open;
-    QMdiSubWindow *subWindow = open.openSample(u"menu.json"_s);
+    Program program;
+    QMdiSubWindow *subWindow = openSample(program, u"menu.json"_s);
     subWindow->showMinimized();
-    QCOMPARE(enabledEntries(open.window()), allEntries);
-    const ModalAnswers noDialogs;
-    QVERIFY(QFile::remove(open.path(u"menu.json"_s)));
-    ui::clickMenu(open.window(), "menuFile", "action_Save");
-    QVERIFY(QFile::exists(open.path(u"menu.json"_s)));
+    QCOMPARE(enabledEntries(program.window()), allEntries);
+    QVERIFY(QFile::remove(program.path(u"menu.json"_s)));
+    program.save();
+    QVERIFY(QFile::exists(program.path(u"menu.json"_s)));
 }
 
 void TestMainWindow::nothingIsSavedWithoutAnActiveMenu()
 {
-    OpenMenus open;
-    open.openSample(u"menu.json"_s);
-    open.area().setActiveSubWindow(nullptr);
-    const ModalAnswers noDialogs;
-    open.window().on_action_Save_triggered();
-    open.window().on_actionSaveAs_triggered();
+    Program program;
+    openSample(program, u"menu.json"_s);
+    program.area().setActiveSubWindow(nullptr);
+    program.window().on_action_Save_triggered();
+    program.window().on_actionSaveAs_triggered();
 }
 
 void TestMainWindow::subWindowIsOfFixedSize()
 {
-    OpenMenus open;
-    QMdiSubWindow *subWindow = open.openSample(u"menu.json"_s);
+    Program program;
+    QMdiSubWindow *subWindow = openSample(program, u"menu.json"_s);
     QCOMPARE(subWindow->objectName(), u"QhxMenuFile"_s);
     // A sub-window adds the title by itself. With a system menu it would have a close button.
     QCOMPARE(subWindow->windowFlags() & ~(Qt::WindowType_Mask | Qt::WindowTitleHint),
@@ -238,44 +241,43 @@ bool isReachable(const QMdiArea &area, const QRect &place)
 
 void TestMainWindow::editorIsVisibleOrTheAreaScrolls()
 {
-    OpenMenus open;
-    const QMdiSubWindow *first = open.openSample(u"first.json"_s);
-    const QMdiSubWindow *second = open.openSample(u"second.json"_s);
-    QCOMPARE(open.window().size(), QSize(800, 600));
-    QTRY_VERIFY(isReachable(open.area(), first->geometry()));
-    QTRY_VERIFY(isReachable(open.area(), second->geometry()));
+    Program program;
+    const QMdiSubWindow *first = openSample(program, u"first.json"_s);
+    const QMdiSubWindow *second = openSample(program, u"second.json"_s);
+    QCOMPARE(program.window().size(), QSize(800, 600));
+    QTRY_VERIFY(isReachable(program.area(), first->geometry()));
+    QTRY_VERIFY(isReachable(program.area(), second->geometry()));
 }
 
 void TestMainWindow::editorIsVisibleInALargeWindow()
 {
-    OpenMenus open;
-    open.window().resize(1400, 1000);
-    const QMdiSubWindow *first = open.openSample(u"first.json"_s);
-    const QMdiSubWindow *second = open.openSample(u"second.json"_s);
-    const QRect area = open.area().viewport()->rect();
+    Program program;
+    program.window().resize(1400, 1000);
+    const QMdiSubWindow *first = openSample(program, u"first.json"_s);
+    const QMdiSubWindow *second = openSample(program, u"second.json"_s);
+    const QRect area = program.area().viewport()->rect();
     QVERIFY(area.contains(first->geometry()));
     QVERIFY(area.contains(second->geometry()));
-    QVERIFY(!open.area().horizontalScrollBar()->isVisible());
-    QVERIFY(!open.area().verticalScrollBar()->isVisible());
+    QVERIFY(!program.area().horizontalScrollBar()->isVisible());
+    QVERIFY(!program.area().verticalScrollBar()->isVisible());
 }
 
 void TestMainWindow::foreignSubWindowIsLeftAlone()
 {
-    OpenMenus open;
-    QMdiSubWindow *subWindow = open.area().addSubWindow(new QWidget);
+    Program program;
+    QMdiSubWindow *subWindow = program.area().addSubWindow(new QWidget);
     subWindow->setObjectName(u"QhxMenuFile"_s);
     subWindow->show();
-    const ModalAnswers noDialogs;
-    QCOMPARE(open.area().activeSubWindow(), subWindow);
-    open.window().on_action_Save_triggered();
-    open.window().on_actionSaveAs_triggered();
+    QCOMPARE(program.area().activeSubWindow(), subWindow);
+    program.window().on_action_Save_triggered();
+    program.window().on_actionSaveAs_triggered();
 }
 
 void TestMainWindow::aboutBoxTellsNameAndVersion()
 {
-    MainWindow window;
-    ui::show(window);
-    ModalAnswers answers;
+    Program program;
+    MainWindow &window = program.window();
+    ModalAnswers &answers = program.answers();
     answers.expect<AboutApp>([&window](AboutApp &box) {
         QCOMPARE(box.windowTitle(), u"About..."_s);
         QCOMPARE(box.parentWidget(), &window);

@@ -4,17 +4,15 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QTest>
 
-#include "tests/support/modalanswers.h"
-#include "tests/support/openmenus.h"
+#include "tests/gui/changemenu.h"
+#include "tests/support/program.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
-#include "tests/support/windowmenu.h"
 
 using namespace Qt::StringLiterals;
+using namespace changemenu;
 
 /// Closing the main window with menus open. Each test expects all the boxes that come: an editor's own
 /// question would be one too many.
@@ -45,24 +43,18 @@ private slots:
 
 namespace {
 
-bool isChanged(const QString &path)
+void expectName(Program &program, const QString &path)
 {
-    return windowmenu::contentOf(path).contains("\"Changed\"");
-}
-
-void expectName(ModalAnswers &answers, const QString &path)
-{
-    answers.expectFileDialog(u"Save JSON Menu"_s, OpenMenus::saveFilter, path, u""_s);
+    program.expectSaveDialog(Line::Holding, Asking::Save, path);
 }
 
 } // namespace
 
 void TestMainWindowExit::nothingIsAskedWithoutMenus()
 {
-    OpenMenus open;
-    const ModalAnswers noDialogs;
-    QVERIFY(open.window().close());
-    QVERIFY(open.window().isHidden());
+    Program program;
+    QVERIFY(program.window().close());
+    QVERIFY(program.window().isHidden());
 }
 
 void TestMainWindowExit::noClosesWithoutSaving_data()
@@ -75,146 +67,136 @@ void TestMainWindowExit::noClosesWithoutSaving_data()
 void TestMainWindowExit::noClosesWithoutSaving()
 {
     QFETCH(const int, menus);
-    OpenMenus open;
+    Program program;
     for (int i = 0; i < menus; ++i)
-        open.change(*open.openSample(QString::number(i) + u".json"_s));
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::No);
-    QVERIFY(open.window().close());
+        openChanged(program, QString::number(i) + u".json"_s);
+    program.expectSaveQuestion(QMessageBox::No);
+    QVERIFY(program.window().close());
     for (int i = 0; i < menus; ++i)
-        QVERIFY(!isChanged(open.path(QString::number(i) + u".json"_s)));
+        QVERIFY(!isChanged(program, QString::number(i) + u".json"_s));
 }
 
 void TestMainWindowExit::cancelKeepsTheProgramOpen()
 {
-    OpenMenus open;
-    open.change(*open.openSample(u"menu.json"_s));
-    open.openNew();
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Cancel);
-    QVERIFY(!open.window().close());
-    QVERIFY(open.window().isVisible());
-    QCOMPARE(open.area().subWindowList().size(), 2);
-    QVERIFY(!isChanged(open.path(u"menu.json"_s)));
+    Program program;
+    openChanged(program, u"menu.json"_s);
+    program.newMenu(Line::Holding);
+    program.expectSaveQuestion(QMessageBox::Cancel);
+    QVERIFY(!program.window().close());
+    QVERIFY(program.window().isVisible());
+    QCOMPARE(program.menuCount(), 2);
+    QVERIFY(!isChanged(program, u"menu.json"_s));
 }
 
 void TestMainWindowExit::escapeKeepsTheProgramOpen()
 {
-    OpenMenus open;
-    open.openNew();
-    ModalAnswers answers;
-    answers.expectBoxEscaped(ModalAnswers::saveQuestion());
-    QVERIFY(!open.window().close());
-    QCOMPARE(open.area().subWindowList().size(), 1);
+    Program program;
+    program.newMenu(Line::Holding);
+    program.answers().expectBoxEscaped(ModalAnswers::saveQuestion());
+    QVERIFY(!program.window().close());
+    QCOMPARE(program.menuCount(), 1);
 }
 
 void TestMainWindowExit::yesSavesEveryMenu()
 {
-    OpenMenus open;
+    Program program;
     for (const QString &name : {u"a.json"_s, u"b.json"_s, u"c.json"_s})
-        open.change(*open.openSample(name));
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    QVERIFY(open.window().close());
+        openChanged(program, name);
+    program.expectSaveQuestion(QMessageBox::Yes);
+    QVERIFY(program.window().close());
     for (const QString &name : {u"a.json"_s, u"b.json"_s, u"c.json"_s})
-        QVERIFY2(isChanged(open.path(name)), qPrintable(name));
+        QVERIFY2(isChanged(program, name), qPrintable(name));
 }
 
 void TestMainWindowExit::yesAsksForMissingNames()
 {
-    OpenMenus open;
-    QMdiSubWindow *firstNew = open.openNew();
-    open.change(*open.openSample(u"saved.json"_s));
-    QMdiSubWindow *secondNew = open.openNew();
+    Program program;
+    QMdiSubWindow *firstNew = program.newMenu(Line::Holding);
+    openChanged(program, u"saved.json"_s);
+    QMdiSubWindow *secondNew = program.newMenu(Line::Holding);
     QVERIFY(firstNew && secondNew);
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
+    program.expectSaveQuestion(QMessageBox::Yes);
     for (const QString &name : {u"new1.json"_s, u"new2.json"_s})
-        expectName(answers, open.path(name));
+        expectName(program, program.path(name));
     QList<QMdiSubWindow *> activated;
-    connect(&open.area(), &QMdiArea::subWindowActivated, this, [&activated](QMdiSubWindow *subWindow) {
+    connect(&program.area(), &QMdiArea::subWindowActivated, this, [&activated](QMdiSubWindow *subWindow) {
         if (subWindow) // none is, once the window is closed
             activated.append(subWindow);
     });
-    QVERIFY(open.window().close());
-    QVERIFY(isChanged(open.path(u"saved.json"_s)));
-    QVERIFY(QFile::exists(open.path(u"new1.json"_s)));
-    QVERIFY(QFile::exists(open.path(u"new2.json"_s)));
+    QVERIFY(program.window().close());
+    QVERIFY(isChanged(program, u"saved.json"_s));
+    QVERIFY(QFile::exists(program.path(u"new1.json"_s)));
+    QVERIFY(QFile::exists(program.path(u"new2.json"_s)));
     QCOMPARE(activated, QList({firstNew, secondNew}));
 }
 
 void TestMainWindowExit::minimisedMenuIsShownWhenAskedFor()
 {
-    OpenMenus open;
-    QMdiSubWindow *unnamed = open.openNew();
-    QMdiSubWindow *saved = open.openSample(u"saved.json"_s);
+    Program program;
+    QMdiSubWindow *unnamed = program.newMenu(Line::Holding);
+    QMdiSubWindow *saved = openSample(program, u"saved.json"_s);
     unnamed->showMinimized();
     saved->showMinimized();
     bool shownWhenAsked = false;
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    expectName(answers, {});
-    answers.onShown([&shownWhenAsked, unnamed](const QDialog &) {
+    program.expectSaveQuestion(QMessageBox::Yes);
+    expectName(program, {});
+    program.answers().onShown([&shownWhenAsked, unnamed](const QDialog &) {
         shownWhenAsked = !unnamed->isMinimized() && unnamed->widget()->isVisible();
     });
-    QVERIFY(!open.window().close());
+    QVERIFY(!program.window().close());
     QVERIFY(shownWhenAsked);
-    QCOMPARE(open.area().activeSubWindow(), unnamed);
+    QCOMPARE(program.area().activeSubWindow(), unnamed);
     QVERIFY(saved->isMinimized());
 }
 
 void TestMainWindowExit::cancelledNameKeepsWhatWasSaved()
 {
-    OpenMenus open;
-    open.change(*open.openSample(u"before.json"_s));
-    QMdiSubWindow *unnamed = open.openNew();
-    open.change(*open.openSample(u"after.json"_s));
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    expectName(answers, {});
-    QVERIFY(!open.window().close());
-    QVERIFY(open.window().isVisible());
-    QCOMPARE(open.area().subWindowList().size(), 3);
-    QCOMPARE(open.area().activeSubWindow(), unnamed);
-    QVERIFY(isChanged(open.path(u"before.json"_s)));
-    QVERIFY(!isChanged(open.path(u"after.json"_s)));
+    Program program;
+    openChanged(program, u"before.json"_s);
+    QMdiSubWindow *unnamed = program.newMenu(Line::Holding);
+    openChanged(program, u"after.json"_s);
+    program.expectSaveQuestion(QMessageBox::Yes);
+    expectName(program, {});
+    QVERIFY(!program.window().close());
+    QVERIFY(program.window().isVisible());
+    QCOMPARE(program.menuCount(), 3);
+    QCOMPARE(program.area().activeSubWindow(), unnamed);
+    QVERIFY(isChanged(program, u"before.json"_s));
+    QVERIFY(!isChanged(program, u"after.json"_s));
 }
 
 void TestMainWindowExit::failedSaveKeepsTheProgramOpen()
 {
-    OpenMenus open;
-    open.openSample(u"first.json"_s);
-    open.openSample(u"second.json"_s);
-    open.removeFolder();
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    answers.expectBox(ModalAnswers::writeFault(open.path(u"first.json"_s)), QMessageBox::Ok);
-    QVERIFY(!open.window().close());
-    QCOMPARE(open.area().subWindowList().size(), 2);
+    Program program;
+    openSample(program, u"first.json"_s);
+    openSample(program, u"second.json"_s);
+    program.folder().remove();
+    program.expectSaveQuestion(QMessageBox::Yes);
+    program.answers().expectBox(ModalAnswers::writeFault(program.path(u"first.json"_s)), QMessageBox::Ok);
+    QVERIFY(!program.window().close());
+    QCOMPARE(program.menuCount(), 2);
 }
 
 void TestMainWindowExit::failedWriteToANewNameDoesNot()
 {
-    OpenMenus open;
-    open.openNew();
-    const QString path = open.path(u"missing/menu.json"_s);
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    expectName(answers, path);
-    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
-    QVERIFY(open.window().close());
+    Program program;
+    program.newMenu(Line::Holding);
+    const QString path = program.path(u"missing/menu.json"_s);
+    program.expectSaveQuestion(QMessageBox::Yes);
+    expectName(program, path);
+    program.answers().expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
+    QVERIFY(program.window().close());
 }
 
 void TestMainWindowExit::foreignSubWindowIsSkipped()
 {
-    OpenMenus open;
-    QMdiSubWindow *foreign = open.area().addSubWindow(new QWidget);
+    Program program;
+    QMdiSubWindow *foreign = program.area().addSubWindow(new QWidget);
     foreign->setObjectName(u"QhxMenuFile"_s);
-    open.change(*open.openSample(u"menu.json"_s));
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    QVERIFY(open.window().close());
-    QVERIFY(isChanged(open.path(u"menu.json"_s)));
+    openChanged(program, u"menu.json"_s);
+    program.expectSaveQuestion(QMessageBox::Yes);
+    QVERIFY(program.window().close());
+    QVERIFY(isChanged(program, u"menu.json"_s));
 }
 
 void TestMainWindowExit::editorUnderAnotherNameIsSkipped_data()
@@ -228,28 +210,27 @@ void TestMainWindowExit::editorUnderAnotherNameIsSkipped_data()
 void TestMainWindowExit::editorUnderAnotherNameIsSkipped()
 {
     QFETCH(const QString, name);
-    OpenMenus open;
-    QMdiSubWindow *subWindow = open.openSample(u"menu.json"_s);
-    open.change(*subWindow);
+    Program program;
+    QMdiSubWindow *subWindow = openSample(program, u"menu.json"_s);
+    change(program, *subWindow);
     subWindow->setObjectName(name);
-    ModalAnswers answers;
-    ui::clickMenu(open.window(), "menuFile", "action_Save");
-    ui::clickMenu(open.window(), "menuFile", "actionSaveAs");
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    QVERIFY(open.window().close());
-    QVERIFY(!isChanged(open.path(u"menu.json"_s)));
+    program.save();
+    program.saveAs();
+    program.expectSaveQuestion(QMessageBox::Yes);
+    QVERIFY(program.window().close());
+    QVERIFY(!isChanged(program, u"menu.json"_s));
 }
 
 void TestMainWindowExit::escapedNameKeepsTheProgramOpen()
 {
-    OpenMenus open;
-    open.openNew();
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    answers.expect<QFileDialog>([](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    QVERIFY(!open.window().close());
-    QVERIFY(open.window().isVisible());
-    QCOMPARE(open.area().subWindowList().size(), 1);
+    Program program;
+    program.newMenu(Line::Holding);
+    program.expectSaveQuestion(QMessageBox::Yes);
+    program.answers().expect<QFileDialog>(
+        [](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QVERIFY(!program.window().close());
+    QVERIFY(program.window().isVisible());
+    QCOMPARE(program.menuCount(), 1);
 }
 
 namespace {
@@ -274,19 +255,18 @@ int exitCodeOfExit(MainWindow &window)
 
 void TestMainWindowExit::exitActionEndsTheProgram()
 {
-    OpenMenus open;
-    QCOMPARE(exitCodeOfExit(open.window()), 0);
-    QVERIFY(open.window().isHidden());
+    Program program;
+    QCOMPARE(exitCodeOfExit(program.window()), 0);
+    QVERIFY(program.window().isHidden());
 }
 
 void TestMainWindowExit::exitActionCanBeRefused()
 {
-    OpenMenus open;
-    open.openNew();
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Cancel);
-    QCOMPARE(exitCodeOfExit(open.window()), stillRunning);
-    QVERIFY(open.window().isVisible());
+    Program program;
+    program.newMenu(Line::Holding);
+    program.expectSaveQuestion(QMessageBox::Cancel);
+    QCOMPARE(exitCodeOfExit(program.window()), stillRunning);
+    QVERIFY(program.window().isVisible());
 }
 
 QTEST_MAIN(TestMainWindowExit)

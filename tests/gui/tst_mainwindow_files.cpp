@@ -5,21 +5,20 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTest>
 
 #include "app/selectproductline.h"
 #include "holding/configuration.h"
 #include "holding/menufile.h"
-#include "tests/support/modalanswers.h"
-#include "tests/support/openmenus.h"
+#include "tests/gui/changemenu.h"
+#include "tests/support/program.h"
+#include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
-#include "tests/support/windowmenu.h"
 
 using namespace Qt::StringLiterals;
+using namespace changemenu;
 
 /// New, Open, Save and Save As.
 class TestMainWindowFiles : public QObject
@@ -61,21 +60,20 @@ MenuFile &editorIn(const QMdiSubWindow &subWindow)
     return *editor;
 }
 
-void newWith(OpenMenus &open, ModalAnswers &answers, const std::function<void(SelectProductLine &)> &choose)
+void newWith(Program &program, const std::function<void(SelectProductLine &)> &choose)
 {
-    answers.expect<SelectProductLine>(choose);
-    ui::clickMenu(open.window(), "menuFile", "actionNew");
+    program.answers().expect<SelectProductLine>(choose);
+    program.choose("actionNew");
 }
 
 } // namespace
 
 void TestMainWindowFiles::chooserOffersTheLines()
 {
-    OpenMenus open;
-    ModalAnswers answers;
-    newWith(open, answers, [&open](SelectProductLine &dialog) {
+    Program program;
+    newWith(program, [&program](SelectProductLine &dialog) {
         QCOMPARE(dialog.windowTitle(), u"Select Product Line"_s);
-        QCOMPARE(dialog.parentWidget(), &open.window());
+        QCOMPARE(dialog.parentWidget(), &program.window());
         QCOMPARE(dialog.size(), QSize(400, 120));
         QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
         QCOMPARE(ui::get<QLabel>(dialog, "lblSelectProductLine").text(), u"Select Product Line"_s);
@@ -91,36 +89,33 @@ void TestMainWindowFiles::chooserOffersTheLines()
 
 void TestMainWindowFiles::chooserCancelledOpensNothing()
 {
-    OpenMenus open;
-    ModalAnswers answers;
-    newWith(open, answers, [](SelectProductLine &dialog) { ui::click(dialog, "btnCancel"); });
-    QVERIFY(open.area().subWindowList().isEmpty());
+    Program program;
+    newWith(program, [](SelectProductLine &dialog) { ui::click(dialog, "btnCancel"); });
+    QCOMPARE(program.menuCount(), 0);
 }
 
 void TestMainWindowFiles::chooserEscapedOpensNothing()
 {
-    OpenMenus open;
-    ModalAnswers answers;
-    newWith(open, answers, [](SelectProductLine &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    QVERIFY(open.area().subWindowList().isEmpty());
+    Program program;
+    newWith(program, [](SelectProductLine &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QCOMPARE(program.menuCount(), 0);
 }
 
 void TestMainWindowFiles::newMenuIsShownInASubWindow()
 {
-    OpenMenus open;
-    ModalAnswers answers;
-    answers.expect<SelectProductLine>([](SelectProductLine &dialog) {
+    Program program;
+    program.answers().expect<SelectProductLine>([](SelectProductLine &dialog) {
         ui::click(dialog, "btnAccept");
         QCOMPARE(dialog.result(), 1);
     });
-    answers.expect<Configuration>([](Configuration &dialog) {
+    program.answers().expect<Configuration>([](Configuration &dialog) {
         QCOMPARE(dialog.windowTitle(), u"Configuration"_s);
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    ui::clickMenu(open.window(), "menuFile", "actionNew");
-    QCOMPARE(open.area().subWindowList().size(), 1);
-    const QMdiSubWindow *subWindow = open.area().subWindowList().constFirst();
-    QCOMPARE(open.area().activeSubWindow(), subWindow);
+    program.choose("actionNew");
+    QCOMPARE(program.menuCount(), 1);
+    const QMdiSubWindow *subWindow = program.area().subWindowList().constFirst();
+    QCOMPARE(program.area().activeSubWindow(), subWindow);
     QCOMPARE(subWindow->objectName(), u"QhxMenuFile"_s);
     QCOMPARE(subWindow->windowTitle(), u"Menu File - "_s);
     QVERIFY(editorIn(*subWindow).filePath().isEmpty());
@@ -128,13 +123,13 @@ void TestMainWindowFiles::newMenuIsShownInASubWindow()
 
 void TestMainWindowFiles::configurationCancelledOpensNothing()
 {
-    OpenMenus open;
-    ModalAnswers answers;
-    answers.expect<SelectProductLine>([](SelectProductLine &dialog) { ui::click(dialog, "btnAccept"); });
-    answers.expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnCancel"); });
-    ui::clickMenu(open.window(), "menuFile", "actionNew");
-    QVERIFY(open.area().subWindowList().isEmpty());
-    QVERIFY(!open.window().findChild<MenuFile *>());
+    Program program;
+    program.answers().expect<SelectProductLine>(
+        [](SelectProductLine &dialog) { ui::click(dialog, "btnAccept"); });
+    program.answers().expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnCancel"); });
+    program.choose("actionNew");
+    QCOMPARE(program.menuCount(), 0);
+    QVERIFY(!program.window().findChild<MenuFile *>());
 }
 
 void TestMainWindowFiles::fileIsOpenedByItsEnding_data()
@@ -150,12 +145,12 @@ void TestMainWindowFiles::fileIsOpenedByItsEnding_data()
 void TestMainWindowFiles::fileIsOpenedByItsEnding()
 {
     QFETCH(const QString, name);
-    OpenMenus open;
-    const QMdiSubWindow *subWindow = open.openSample(name);
+    Program program;
+    const QMdiSubWindow *subWindow = openSample(program, name);
     QVERIFY(subWindow);
     QCOMPARE(subWindow->objectName(), u"QhxMenuFile"_s);
     QCOMPARE(subWindow->windowTitle(), u"Menu File - "_s + name);
-    QCOMPARE(editorIn(*subWindow).filePath(), open.path(name));
+    QCOMPARE(editorIn(*subWindow).filePath(), program.path(name));
 }
 
 void TestMainWindowFiles::otherEndingIsIgnored_data()
@@ -169,147 +164,137 @@ void TestMainWindowFiles::otherEndingIsIgnored_data()
 void TestMainWindowFiles::otherEndingIsIgnored()
 {
     QFETCH(const QString, name);
-    OpenMenus open;
-    QVERIFY(!open.openSample(name));
-    QVERIFY(open.area().subWindowList().isEmpty());
+    Program program;
+    QVERIFY(!openSample(program, name));
+    QCOMPARE(program.menuCount(), 0);
 }
 
 void TestMainWindowFiles::openCancelledOpensNothing()
 {
-    OpenMenus open;
-    QVERIFY(!open.open({}));
-    QVERIFY(open.area().subWindowList().isEmpty());
+    Program program;
+    program.answers().expectOpenDialog({});
+    QVERIFY(!program.openNow());
+    QCOMPARE(program.menuCount(), 0);
 }
 
 void TestMainWindowFiles::openEscapedOpensNothing()
 {
-    OpenMenus open;
-    ModalAnswers answers;
-    answers.expect<QFileDialog>([](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    ui::clickMenu(open.window(), "menuFile", "actionOpen");
-    QVERIFY(answers.allAnswered());
-    QVERIFY(open.area().subWindowList().isEmpty());
+    Program program;
+    program.answers().expect<QFileDialog>(
+        [](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    program.openNow();
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.menuCount(), 0);
 }
 
 void TestMainWindowFiles::brokenFileOpensNothing()
 {
-    OpenMenus open;
-    QFile file(open.path(u"broken.json"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{") == 1);
-    file.close();
-    ModalAnswers answers;
-    answers.expectOpenDialog(file.fileName());
-    answers.expectBox(ModalAnswers::fileFault(u"File format is corrupted!"_s), QMessageBox::Ok);
-    ui::clickMenu(open.window(), "menuFile", "actionOpen");
-    QVERIFY(open.area().subWindowList().isEmpty());
-    QVERIFY(!open.window().findChild<MenuFile *>());
+    Program program;
+    program.folder().make(u"broken.json"_s, "{");
+    program.expectOpenDialog(u"broken.json"_s);
+    program.answers().expectBox(ModalAnswers::fileFault(u"File format is corrupted!"_s), QMessageBox::Ok);
+    program.openNow();
+    QCOMPARE(program.menuCount(), 0);
+    QVERIFY(!program.window().findChild<MenuFile *>());
 }
 
 void TestMainWindowFiles::oneFileTwiceGivesTwoEditors()
 {
-    OpenMenus open;
-    const QMdiSubWindow *first = open.openSample(u"menu.json"_s);
-    const QMdiSubWindow *second = open.open(open.path(u"menu.json"_s));
+    Program program;
+    const QMdiSubWindow *first = openSample(program, u"menu.json"_s);
+    const QMdiSubWindow *second = program.open(u"menu.json"_s);
     QVERIFY(first && second && first != second);
     QCOMPARE(editorIn(*first).filePath(), editorIn(*second).filePath());
 }
 
 void TestMainWindowFiles::saveWritesToTheCurrentPath()
 {
-    OpenMenus open;
-    QMdiSubWindow *subWindow = open.openSample(u"menu.json"_s);
-    open.change(*subWindow);
-    const ModalAnswers noDialogs;
-    ui::clickMenu(open.window(), "menuFile", "action_Save");
-    QVERIFY(windowmenu::contentOf(open.path(u"menu.json"_s)).contains("\"Changed\""));
+    Program program;
+    QMdiSubWindow *subWindow = openSample(program, u"menu.json"_s);
+    change(program, *subWindow);
+    program.save();
+    QVERIFY(isChanged(program, u"menu.json"_s));
 }
 
 void TestMainWindowFiles::saveActsOnTheActiveMenu()
 {
-    OpenMenus open;
-    QMdiSubWindow *first = open.openSample(u"first.json"_s);
-    QMdiSubWindow *second = open.openSample(u"second.json"_s);
-    open.change(*second);
-    open.change(*first);
-    ui::clickMenu(open.window(), "menuFile", "action_Save");
-    QVERIFY(windowmenu::contentOf(open.path(u"first.json"_s)).contains("\"Changed\""));
-    QVERIFY(!windowmenu::contentOf(open.path(u"second.json"_s)).contains("\"Changed\""));
+    Program program;
+    QMdiSubWindow *first = openSample(program, u"first.json"_s);
+    QMdiSubWindow *second = openSample(program, u"second.json"_s);
+    change(program, *second);
+    change(program, *first);
+    program.save();
+    QVERIFY(isChanged(program, u"first.json"_s));
+    QVERIFY(!isChanged(program, u"second.json"_s));
 }
 
 void TestMainWindowFiles::saveAsksForAMissingName()
 {
-    OpenMenus open;
-    const QMdiSubWindow *subWindow = open.openNew();
-    const QString path = open.path(u"new.json"_s);
-    ModalAnswers answers;
-    answers.expectFileDialog(u"Save JSON Menu"_s, OpenMenus::saveFilter, path, u""_s);
-    ui::clickMenu(open.window(), "menuFile", "action_Save");
-    QVERIFY(answers.allAnswered());
+    Program program;
+    const QMdiSubWindow *subWindow = program.newMenu(Line::Holding);
+    const QString path = program.path(u"new.json"_s);
+    program.expectSaveDialog(Line::Holding, Asking::Save, path);
+    program.save();
+    QVERIFY(program.answers().allAnswered());
     QCOMPARE(editorIn(*subWindow).filePath(), path);
     QCOMPARE(subWindow->windowTitle(), u"Menu File - new.json"_s);
-    QVERIFY(windowmenu::contentOf(path).contains("\"ZPV43\""));
+    QVERIFY(contentOf(path).contains("\"ZPV43\""));
     QVERIFY(QFile::remove(path));
-    ui::clickMenu(open.window(), "menuFile", "action_Save"); // asks no second time
+    program.save(); // asks no second time
     QVERIFY(QFile::exists(path));
 }
 
 void TestMainWindowFiles::saveCancelledWritesNothing()
 {
-    OpenMenus open;
-    const QMdiSubWindow *subWindow = open.openNew();
-    ModalAnswers answers;
-    answers.expectFileDialog(u"Save JSON Menu"_s, OpenMenus::saveFilter, {});
-    ui::clickMenu(open.window(), "menuFile", "action_Save");
+    Program program;
+    const QMdiSubWindow *subWindow = program.newMenu(Line::Holding);
+    program.expectSaveDialog(Line::Holding, Asking::Save, {});
+    program.save();
     QVERIFY(editorIn(*subWindow).filePath().isEmpty());
     QCOMPARE(subWindow->windowTitle(), u"Menu File - "_s);
 }
 
 void TestMainWindowFiles::saveAsAsksFromTheCurrentName()
 {
-    OpenMenus open;
-    const QMdiSubWindow *subWindow = open.openSample(u"menu.json"_s);
-    const QByteArray original = windowmenu::contentOf(open.path(u"menu.json"_s));
-    ModalAnswers answers;
-    answers.expectFileDialog(u"Save As JSON Menu"_s, OpenMenus::saveFilter, open.path(u"copy.json"_s),
-                             u"menu.json"_s);
-    ui::clickMenu(open.window(), "menuFile", "actionSaveAs");
-    QCOMPARE(editorIn(*subWindow).filePath(), open.path(u"copy.json"_s));
+    Program program;
+    const QMdiSubWindow *subWindow = openSample(program, u"menu.json"_s);
+    const QByteArray original = program.content(u"menu.json"_s);
+    program.expectSaveDialog(Line::Holding, Asking::SaveAs, program.path(u"copy.json"_s), u"menu.json"_s);
+    program.saveAs();
+    QCOMPARE(editorIn(*subWindow).filePath(), program.path(u"copy.json"_s));
     QCOMPARE(subWindow->windowTitle(), u"Menu File - copy.json"_s);
-    QCOMPARE(windowmenu::contentOf(open.path(u"copy.json"_s)), original);
+    QCOMPARE(program.content(u"copy.json"_s), original);
 }
 
 void TestMainWindowFiles::saveAsCancelledWritesNothing()
 {
-    OpenMenus open;
-    const QMdiSubWindow *subWindow = open.openNew();
-    ModalAnswers answers;
-    answers.expectFileDialog(u"Save As JSON Menu"_s, OpenMenus::saveFilter, {}, u""_s);
-    ui::clickMenu(open.window(), "menuFile", "actionSaveAs");
+    Program program;
+    const QMdiSubWindow *subWindow = program.newMenu(Line::Holding);
+    program.expectSaveDialog(Line::Holding, Asking::SaveAs, {});
+    program.saveAs();
     QVERIFY(editorIn(*subWindow).filePath().isEmpty());
 }
 
 void TestMainWindowFiles::nameIsUsedAsTyped()
 {
-    OpenMenus open;
-    const QMdiSubWindow *subWindow = open.openNew();
-    const QString path = open.path(u"menu without ending"_s);
-    ModalAnswers answers;
-    answers.expectFileDialog(u"Save JSON Menu"_s, OpenMenus::saveFilter, path);
-    ui::clickMenu(open.window(), "menuFile", "action_Save");
+    Program program;
+    const QMdiSubWindow *subWindow = program.newMenu(Line::Holding);
+    const QString path = program.path(u"menu without ending"_s);
+    program.expectSaveDialog(Line::Holding, Asking::Save, path);
+    program.save();
     QCOMPARE(editorIn(*subWindow).filePath(), path);
     QVERIFY(QFile::exists(path));
 }
 
 void TestMainWindowFiles::failedSaveIsShown()
 {
-    OpenMenus open;
-    open.openSample(u"menu.json"_s);
-    const QString path = open.path(u"menu.json"_s);
-    open.removeFolder();
-    ModalAnswers answers;
-    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
-    ui::clickMenu(open.window(), "menuFile", "action_Save");
-    QCOMPARE(open.area().subWindowList().size(), 1);
+    Program program;
+    openSample(program, u"menu.json"_s);
+    const QString path = program.path(u"menu.json"_s);
+    program.folder().remove();
+    program.answers().expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
+    program.save();
+    QCOMPARE(program.menuCount(), 1);
 }
 
 QTEST_MAIN(TestMainWindowFiles)

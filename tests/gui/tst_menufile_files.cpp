@@ -1,17 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <csignal>
-
-#include <sys/resource.h>
-
 #include <QComboBox>
 #include <QFile>
 #include <QJsonDocument>
 #include <QRadioButton>
 
-#include "tests/gui/programwindow.h"
+#include "holding/configuration.h"
+#include "holding/menufile.h"
+#include "tests/support/hardship.h"
+#include "tests/support/program.h"
 #include "tests/support/samplefile.h"
+#include "tests/support/testfolder.h"
+#include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -77,27 +78,8 @@ QByteArray withDayparts(int count)
 
 QJsonObject rootOf(const QString &path)
 {
-    return QJsonDocument::fromJson(samplefile::bytesOf(path)).object();
+    return QJsonDocument::fromJson(contentOf(path)).object();
 }
-
-/// While it lives, no file can grow beyond this size, as on a full disk.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN); // the write then fails
-        getrlimit(RLIMIT_FSIZE, &m_old);
-        const rlimit limit{bytes, m_old.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &m_old); }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit m_old{};
-};
 
 } // namespace
 
@@ -156,16 +138,14 @@ void TestMenuFileFiles::brokenFileIsRefused()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, message);
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"broken.json"_s, bytes);
-    ProgramWindow program;
-    ModalAnswers answers;
-    ProgramWindow::expectOpenDialog(answers, path);
-    answers.expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
+    Program program;
+    const QString path = program.folder().make(u"broken.json"_s, bytes);
+    program.expectOpenDialog(u"broken.json"_s);
+    program.answers().expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
     program.openNow();
-    QVERIFY(answers.allAnswered());
+    QVERIFY(program.answers().allAnswered());
     QCOMPARE(program.menuCount(), 0);
-    QCOMPARE(samplefile::bytesOf(path), bytes);
+    QCOMPARE(contentOf(path), bytes);
 }
 
 void TestMenuFileFiles::unreadableFileIsRefused_data()
@@ -179,7 +159,7 @@ void TestMenuFileFiles::unreadableFileIsRefused_data()
 void TestMenuFileFiles::unreadableFileIsRefused()
 {
     QFETCH(QString, fileName);
-    const samplefile::Folder folder;
+    const TestFolder folder;
     QFile large(folder.path(u"large.json"_s));
     QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(64LL * 1024 * 1024 + 1));
     large.close();
@@ -193,12 +173,10 @@ void TestMenuFileFiles::unreadableFileIsRefused()
 
 void TestMenuFileFiles::unknownCabinetIsAskedFor()
 {
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, menuOfUnknownCabinet().bytes());
-    ProgramWindow program;
-    ModalAnswers answers;
-    ProgramWindow::expectOpenDialog(answers, path);
-    answers.expect<Configuration>([](Configuration &dialog) {
+    Program program;
+    const QString path = program.folder().make(u"menu.json"_s, menuOfUnknownCabinet().bytes());
+    program.expectOpenDialog(u"menu.json"_s);
+    program.answers().expect<Configuration>([](Configuration &dialog) {
         QCOMPARE(dialog.windowTitle(), u"Configuration"_s);
         QVERIFY(qobject_cast<MenuFile *>(dialog.parentWidget()));
         QCOMPARE(ui::get<QComboBox>(dialog, "comboUnitModel").currentText(), u"ZPV43"_s);
@@ -209,37 +187,37 @@ void TestMenuFileFiles::unknownCabinetIsAskedFor()
         ui::click(dialog, "btnAccept");
     });
     program.openNow();
-    QVERIFY(program.editor());
-    QCOMPARE(program.editor()->windowTitle(), u"Menu File - menu.json"_s);
-    QCOMPARE(program.editor()->getCabinetModel(), u"KTR24"_s);
-    QCOMPARE(program.editor()->getTemperatureUnit(), 0);
-    QVERIFY(program.editor()->getFanSpeedEnabled() && !program.editor()->getProductIdEnabled());
+    auto *editor = program.editor<MenuFile>();
+    QVERIFY(editor);
+    QCOMPARE(editor->windowTitle(), u"Menu File - menu.json"_s);
+    QCOMPARE(editor->getCabinetModel(), u"KTR24"_s);
+    QCOMPARE(editor->getTemperatureUnit(), 0);
+    QVERIFY(editor->getFanSpeedEnabled() && !editor->getProductIdEnabled());
     program.save();
     QCOMPARE(samplefile::binsOf(samplefile::menuOf(path), 0), (QList<int>{1, 2, 3, 0, 0, 0, 1, 0}));
 }
 
 void TestMenuFileFiles::unknownCabinetCanBeGivenUp()
 {
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, menuOfUnknownCabinet().bytes());
-    ProgramWindow program;
-    ModalAnswers answers;
-    ProgramWindow::expectOpenDialog(answers, path);
-    answers.expect<Configuration>([](Configuration &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    answers.expectBox(ModalAnswers::fileFault(u"File read canceled. Unkown configuration!"_s),
-                      QMessageBox::Ok);
+    Program program;
+    const QString path = program.folder().make(u"menu.json"_s, menuOfUnknownCabinet().bytes());
+    program.expectOpenDialog(u"menu.json"_s);
+    program.answers().expect<Configuration>(
+        [](Configuration &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    program.answers().expectBox(ModalAnswers::fileFault(u"File read canceled. Unkown configuration!"_s),
+                                QMessageBox::Ok);
     program.openNow();
-    QVERIFY(answers.allAnswered());
+    QVERIFY(program.answers().allAnswered());
     QCOMPARE(program.menuCount(), 0);
 }
 
 void TestMenuFileFiles::laterFaultAfterAChosenCabinet()
 {
-    const samplefile::Folder folder;
+    const TestFolder folder;
     samplefile::Menu menu = menuOfUnknownCabinet();
     QJsonObject root = menu.root();
     root.remove(u"menu"_s);
-    const QString path = folder.write(u"menu.json"_s, QJsonDocument(root).toJson());
+    const QString path = folder.make(u"menu.json"_s, QJsonDocument(root).toJson());
     ModalAnswers answers;
     answers.expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnAccept"); });
     answers.expectBox(ModalAnswers::fileFault(u"Menu is empty!"_s), QMessageBox::Ok);
@@ -251,19 +229,17 @@ void TestMenuFileFiles::laterFaultAfterAChosenCabinet()
 
 void TestMenuFileFiles::savedMenuReadsTheSame()
 {
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, fullMenu().bytes());
-    ProgramWindow program;
-    ModalAnswers answers;
-    program.open(answers, path);
+    Program program;
+    program.open(u"menu.json"_s, fullMenu().bytes());
+    const QString path = program.path(u"menu.json"_s);
     QVERIFY(QFile::remove(path));
     program.save();
     QCOMPARE(rootOf(path), fullMenu().root());
-    const QByteArray first = samplefile::bytesOf(path);
-    program.open(answers, path);
+    const QByteArray first = contentOf(path);
+    program.open(u"menu.json"_s);
     QVERIFY(QFile::remove(path));
     program.save();
-    QCOMPARE(samplefile::bytesOf(path), first);
+    QCOMPARE(contentOf(path), first);
 }
 
 void TestMenuFileFiles::emptyMenusSurvive_data()
@@ -279,15 +255,13 @@ void TestMenuFileFiles::emptyMenusSurvive()
     samplefile::Menu menu;
     for (int i = 0; i < dayparts; ++i)
         menu.layout.append(samplefile::daypart(u"Part %1"_s.arg(i), {0, 0, 0, 0}));
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, menu.bytes());
-    ProgramWindow program;
-    ModalAnswers answers;
-    program.open(answers, path);
+    Program program;
+    program.open(u"menu.json"_s, menu.bytes());
+    const QString path = program.path(u"menu.json"_s);
     program.save();
     QCOMPARE(rootOf(path), menu.root());
-    answers.expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnAccept"); });
-    ui::click(*program.editor(), "btnConfig");
+    program.answers().expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnAccept"); });
+    ui::click(*program.editor<MenuFile>(), "btnConfig");
     program.save();
     QCOMPARE(rootOf(path), menu.root());
 }
@@ -303,8 +277,8 @@ void TestMenuFileFiles::saveWithoutAPathSaysSo()
 
 void TestMenuFileFiles::saveAsAsksFromTheCurrentPath()
 {
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, fullMenu().bytes());
+    const TestFolder folder;
+    const QString path = folder.make(u"menu.json"_s, fullMenu().bytes());
     MenuFile editor(path);
     ui::show(editor);
     ModalAnswers answers;
@@ -318,8 +292,8 @@ void TestMenuFileFiles::saveAsAsksFromTheCurrentPath()
 
 void TestMenuFileFiles::cancelledSaveAsChangesNothing()
 {
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, fullMenu().bytes());
+    const TestFolder folder;
+    const QString path = folder.make(u"menu.json"_s, fullMenu().bytes());
     MenuFile editor(path);
     ui::show(editor);
     ModalAnswers answers;
@@ -331,19 +305,18 @@ void TestMenuFileFiles::cancelledSaveAsChangesNothing()
 
 void TestMenuFileFiles::failedSaveKeepsTheGoodFile()
 {
-    const samplefile::Folder folder;
     const QByteArray good = fullMenu().bytes();
-    const QString path = folder.write(u"menu.json"_s, good);
-    ProgramWindow program;
-    ModalAnswers answers;
-    program.open(answers, path);
-    answers.expectBox(ModalAnswers::fileFault(u"Failed to create/open the file:"_s + path), QMessageBox::Ok);
+    Program program;
+    program.open(u"menu.json"_s, good);
+    const QString path = program.path(u"menu.json"_s);
+    program.answers().expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
     {
         const FileSizeLimit limit(1000);
+        QVERIFY(limit.isActive());
         program.save();
     }
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(samplefile::bytesOf(path), good);
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(contentOf(path), good);
     QCOMPARE(program.menuCount(), 1);
     program.save(); // and it can be saved later on
     QCOMPARE(rootOf(path), fullMenu().root());
@@ -360,10 +333,10 @@ void TestMenuFileFiles::pathAndTitleComeBeforeTheWrite_data()
 void TestMenuFileFiles::pathAndTitleComeBeforeTheWrite()
 {
     QFETCH(QString, path);
-    const samplefile::Folder folder;
-    MenuFile editor(folder.write(u"menu.json"_s, fullMenu().bytes()));
+    const TestFolder folder;
+    MenuFile editor(folder.make(u"menu.json"_s, fullMenu().bytes()));
     ModalAnswers answers;
-    answers.expectBox(ModalAnswers::fileFault(u"Failed to create/open the file:"_s + path), QMessageBox::Ok);
+    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
     QVERIFY(!editor.writeToFile(path));
     QVERIFY(answers.allAnswered());
     QCOMPARE(editor.filePath(), path);
@@ -372,8 +345,8 @@ void TestMenuFileFiles::pathAndTitleComeBeforeTheWrite()
 
 void TestMenuFileFiles::namesGoThroughTheSlots()
 {
-    const samplefile::Folder folder;
-    MenuFile editor(folder.write(u"menu.json"_s, fullMenu().bytes()));
+    const TestFolder folder;
+    MenuFile editor(folder.make(u"menu.json"_s, fullMenu().bytes()));
     QCOMPARE(editor.setNameListToJson(QStringList(15, u"Ham"_s)), samplefile::names(u"Ham"_s));
     QCOMPARE(editor.readNameTranslationsFromJson(samplefile::names(u"Ham"_s)), QStringList(15, u"Ham"_s));
     QStringList onlyFirst(15);

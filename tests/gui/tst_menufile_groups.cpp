@@ -4,6 +4,7 @@
 #include "holding/groupedit.h"
 #include "tests/gui/openeditor.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -19,14 +20,6 @@ samplefile::Menu twoGroups()
                    samplefile::group(6, u"Sauces"_s, {5})};
     menu.layout = {samplefile::daypart(u"Morning"_s, {3, 6, 1, 3})};
     return menu;
-}
-
-QStringList textsOf(const QListWidget &list)
-{
-    QStringList texts;
-    for (int row = 0; row < list.count(); ++row)
-        texts.append(list.item(row)->text());
-    return texts;
 }
 
 QListWidget &shownMembers(OpenEditor &editor)
@@ -45,7 +38,7 @@ bool singleButtonsEnabled(OpenEditor &editor)
     for (const char *name : {"btnEditGroup", "btnDuplicateGroup", "btnDeleteGroup"})
         enabled += ui::get<QWidget>(*editor, name).isEnabled() ? 1 : 0;
     if (enabled != 0 && enabled != 3)
-        QTest::qFail("Edit, Duplicate and Delete differ", __FILE__, __LINE__);
+        require::fail(u"Edit, Duplicate and Delete differ"_s, {__FILE__, __LINE__});
     return enabled == 3;
 }
 
@@ -98,7 +91,7 @@ void TestMenuFileGroups::openedMenuHasNoCurrentGroup()
 {
     OpenEditor editor(twoGroups());
     editor.showTab(1);
-    QCOMPARE(textsOf(editor.groups()), (QStringList{u"  1 Meats"_s, u"  2 Sauces"_s}));
+    QCOMPARE(ui::textsOf(editor.groups()), (QStringList{u"  1 Meats"_s, u"  2 Sauces"_s}));
     QCOMPARE(editor.groups().currentRow(), -1);
     QVERIFY(!singleButtonsEnabled(editor));
     QVERIFY(ui::get<QWidget>(*editor, "btnAddGroup").isEnabled());
@@ -112,13 +105,13 @@ void TestMenuFileGroups::membersOfTheChosenGroupAreShown()
     choose(editor, 0);
     QVERIFY(singleButtonsEnabled(editor));
     QCOMPARE(editor.groupDetail("txtName").text(), u"Meats"_s);
-    QCOMPARE(textsOf(shownMembers(editor)), (QStringList{u"  1 Chili"_s, u"  3 Bacon"_s}));
+    QCOMPARE(ui::textsOf(shownMembers(editor)), (QStringList{u"  1 Chili"_s, u"  3 Bacon"_s}));
     QCOMPARE(shownMembers(editor).item(0)->checkState(), Qt::Unchecked);
     QCOMPARE(shownMembers(editor).item(1)->checkState(), Qt::Checked);
     ui::clickRowBox(shownMembers(editor), 0); // only the group editor changes the default
     QCOMPARE(shownMembers(editor).item(0)->checkState(), Qt::Unchecked);
     choose(editor, 1);
-    QCOMPARE(textsOf(shownMembers(editor)), QStringList{u"  1 Gravy"_s});
+    QCOMPARE(ui::textsOf(shownMembers(editor)), QStringList{u"  1 Gravy"_s});
     ui::clickRow(editor.groups(), 1, Qt::ControlModifier);
     QCOMPARE(shownMembers(editor).count(), 0);
     QVERIFY(!singleButtonsEnabled(editor));
@@ -158,7 +151,7 @@ void TestMenuFileGroups::addedGroupTakesTheFreeIdAndIsCurrent()
              samplefile::group(4, u"New"_s, {5}, {{u"fanSpeed"_s, 0}}));
     QVERIFY(editor->getMenuGroups().constLast()->get_isGroup());
     QCOMPARE(editor.groups().currentRow(), 2);
-    QCOMPARE(textsOf(shownMembers(editor)), QStringList{u"  1 Gravy"_s});
+    QCOMPARE(ui::textsOf(shownMembers(editor)), QStringList{u"  1 Gravy"_s});
     QVERIFY(singleButtonsEnabled(editor));
     QCOMPARE(editor->getProductObject(4), editor->getMenuGroups().constLast());
 }
@@ -186,7 +179,7 @@ void TestMenuFileGroups::editedGroupStaysCurrent()
     });
     ui::click(*editor, "btnEditGroup");
     QCOMPARE(editor.groups().currentRow(), 1);
-    QCOMPARE(textsOf(editor.groups()), (QStringList{u"  1 Meats"_s, u"  2 Toppings"_s}));
+    QCOMPARE(ui::textsOf(editor.groups()), (QStringList{u"  1 Meats"_s, u"  2 Toppings"_s}));
     QCOMPARE(editor.groupDetail("txtName").text(), u"Toppings"_s);
 }
 
@@ -236,7 +229,7 @@ void TestMenuFileGroups::deleteAsks()
     ModalAnswers answers;
     answers.expectBox(ModalAnswers::deleteQuestion(u"Delete selected group?"_s), QMessageBox::Yes);
     ui::click(*editor, "btnDeleteGroup");
-    QCOMPARE(textsOf(editor.groups()), QStringList{u"  1 Sauces"_s});
+    QCOMPARE(ui::textsOf(editor.groups()), QStringList{u"  1 Sauces"_s});
     QCOMPARE(editor.groups().currentRow(), -1);
     QVERIFY(!singleButtonsEnabled(editor));
     QCOMPARE(shownMembers(editor).count(), 0);
@@ -266,7 +259,7 @@ void TestMenuFileGroups::changedProductsShowInTheGroups()
     ModalAnswers answers;
     answers.expectBox(ModalAnswers::deleteQuestion(u"Delete selected product?"_s), QMessageBox::Yes);
     ui::click(*editor, "btnDeleteProduct");
-    QCOMPARE(textsOf(shownMembers(editor)), QStringList{u"  2 Bacon"_s});
+    QCOMPARE(ui::textsOf(shownMembers(editor)), QStringList{u"  2 Bacon"_s});
     QCOMPARE(editor.groups().currentRow(), 0);
 }
 
@@ -334,7 +327,7 @@ void TestMenuFileGroups::deletionMakesRoomForOneMore()
         answers.expectBox(ModalAnswers::refusal(noGroups), QMessageBox::Close);
         editor.showTab(1);
         ui::click(*editor, "btnAddGroup");
-        QVERIFY(answers.allAnswered());
+        REQUIRE(answers.allAnswered());
     };
     addRefused();
     choose(editor, 39);

@@ -4,8 +4,13 @@
 #include <QFile>
 #include <QListWidget>
 
-#include "tests/gui/programwindow.h"
+#include "app/selectproductline.h"
+#include "holding/configuration.h"
+#include "holding/menufile.h"
+#include "tests/support/program.h"
 #include "tests/support/samplefile.h"
+#include "tests/support/testfolder.h"
+#include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -49,14 +54,13 @@ void TestMenuFileOpening::configurationComesUpOverTheWindow()
     QFETCH(bool, unknownCabinet);
     samplefile::Menu menu = menuOf(1);
     menu.header.remove(u"cabinetModel"_s);
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, menu.bytes());
-    MainWindow window;
-    ui::show(window);
+    Program program;
+    program.folder().make(u"menu.json"_s, menu.bytes());
+    MainWindow &window = program.window();
     window.setGeometry(300, 350, 480, 400); // far from where an editor that is not shown has its middle
-    ModalAnswers answers;
+    ModalAnswers &answers = program.answers();
     if (unknownCabinet)
-        ProgramWindow::expectOpenDialog(answers, path);
+        program.expectOpenDialog(u"menu.json"_s);
     else
         answers.expect<SelectProductLine>([](SelectProductLine &dialog) { ui::click(dialog, "btnAccept"); });
     answers.expect<Configuration>([&window](Configuration &dialog) {
@@ -68,19 +72,19 @@ void TestMenuFileOpening::configurationComesUpOverTheWindow()
     if (unknownCabinet)
         answers.expectBox(ModalAnswers::fileFault(u"File read canceled. Unkown configuration!"_s),
                           QMessageBox::Ok);
-    ui::clickMenu(window, "menuFile", unknownCabinet ? "actionOpen" : "actionNew");
+    program.choose(unknownCabinet ? "actionOpen" : "actionNew");
     QVERIFY(answers.allAnswered());
 }
 
 void TestMenuFileOpening::readAgainShowsTheNewMenu()
 {
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, menuOf(5).bytes());
+    const TestFolder folder;
+    const QString path = folder.make(u"menu.json"_s, menuOf(5).bytes());
     MenuFile editor(path);
     ui::show(editor);
     auto &list = ui::get<QListWidget>(editor, "listWidgetProducts");
     ui::clickRow(list, 4);
-    folder.write(u"menu.json"_s, menuOf(2).bytes());
+    folder.make(u"menu.json"_s, menuOf(2).bytes());
     QVERIFY(editor.readMenuFile());
     QCOMPARE(editor.getMenuProducts().size(), 2);
     QCOMPARE(editor.getMenuGroups().size(), 1);
@@ -93,8 +97,8 @@ void TestMenuFileOpening::readAgainShowsTheNewMenu()
 
 void TestMenuFileOpening::readAgainWithAFaultKeepsTheMenu()
 {
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.json"_s, menuOf(5).bytes());
+    const TestFolder folder;
+    const QString path = folder.make(u"menu.json"_s, menuOf(5).bytes());
     MenuFile editor(path);
     QVERIFY(QFile::remove(path));
     ModalAnswers answers;

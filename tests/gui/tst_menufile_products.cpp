@@ -23,14 +23,6 @@ samplefile::Menu threeProducts(const QJsonObject &header = samplefile::header())
     return menu;
 }
 
-QStringList textsOf(const QListWidget &list)
-{
-    QStringList texts;
-    for (int row = 0; row < list.count(); ++row)
-        texts.append(list.item(row)->text());
-    return texts;
-}
-
 // Which of Add, Edit, Duplicate, Delete are enabled, as "A E D X" with a dot for each that is not.
 QString enabledButtons(OpenEditor &editor)
 {
@@ -92,7 +84,7 @@ private slots:
 void TestMenuFileProducts::openedMenuHasNoCurrentProduct()
 {
     OpenEditor editor(threeProducts());
-    QCOMPARE(textsOf(editor.products()), (QStringList{u"  1 Bacon"_s, u"  2 Chili"_s, u"  3 Gravy"_s}));
+    QCOMPARE(ui::textsOf(editor.products()), (QStringList{u"  1 Bacon"_s, u"  2 Chili"_s, u"  3 Gravy"_s}));
     QCOMPARE(editor.products().currentRow(), -1);
     QCOMPARE(enabledButtons(editor), u"A..."_s);
     QVERIFY(ui::get<QWidget>(*editor, "btnSelectMultiProduct").isEnabled());
@@ -151,7 +143,7 @@ void TestMenuFileProducts::addedProductTakesTheFreeIdAndIsCurrent()
         QCOMPARE(editor.productDetail("txtName").text(), u"New %1"_s.arg(id));
         QCOMPARE(enabledButtons(editor), u"AEDX"_s);
     }
-    QCOMPARE(textsOf(editor.products()).last(), u"  6 New 8"_s);
+    QCOMPARE(ui::textsOf(editor.products()).last(), u"  6 New 8"_s);
 }
 
 void TestMenuFileProducts::cancelledAddChangesNothing()
@@ -179,7 +171,7 @@ void TestMenuFileProducts::editedProductStaysCurrent()
     answers.expect<ProductEdit>([](ProductEdit &dialog) { saveAs(dialog, u"Ham"_s); });
     ui::click(*editor, "btnEditProduct");
     QCOMPARE(editor.products().currentRow(), 1);
-    QCOMPARE(textsOf(editor.products()), (QStringList{u"  1 Bacon"_s, u"  2 Ham"_s, u"  3 Gravy"_s}));
+    QCOMPARE(ui::textsOf(editor.products()), (QStringList{u"  1 Bacon"_s, u"  2 Ham"_s, u"  3 Gravy"_s}));
     QCOMPARE(editor.productDetail("txtName").text(), u"Ham"_s);
 }
 
@@ -190,7 +182,7 @@ void TestMenuFileProducts::doubleClickEdits()
     answers.expect<ProductEdit>([](ProductEdit &dialog) { saveAs(dialog, u"Ham"_s); });
     ui::doubleClickRow(editor.products(), 2);
     QVERIFY(answers.allAnswered());
-    QCOMPARE(textsOf(editor.products()).last(), u"  3 Ham"_s);
+    QCOMPARE(ui::textsOf(editor.products()).last(), u"  3 Ham"_s);
     QCOMPARE(editor.products().currentRow(), 2);
     QWidget *viewport = editor.products().viewport();
     const QPoint below(viewport->width() / 2, viewport->height() - 5);
@@ -242,7 +234,7 @@ void TestMenuFileProducts::deleteAsksAndCleansUp()
     ModalAnswers answers;
     answers.expectBox(ModalAnswers::deleteQuestion(u"Delete selected product?"_s), QMessageBox::Yes);
     ui::click(*editor, "btnDeleteProduct");
-    QCOMPARE(textsOf(editor.products()), (QStringList{u"  1 Bacon"_s, u"  2 Gravy"_s}));
+    QCOMPARE(ui::textsOf(editor.products()), (QStringList{u"  1 Bacon"_s, u"  2 Gravy"_s}));
     QCOMPARE(editor.products().currentRow(), -1);
     QVERIFY(editor.products().selectedItems().isEmpty());
     QCOMPARE(enabledButtons(editor), u"A..."_s);

@@ -3,11 +3,14 @@
 
 #include "holding/groupedit.h"
 #include "holding/productedit.h"
+#include "tests/gui/editentry.h"
 #include "tests/gui/holdbins.h"
 #include "tests/support/modalanswers.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
+using namespace editentry;
 
 namespace {
 
@@ -21,11 +24,7 @@ samplefile::Menu menuWithUnknownId()
 
 QStringList shownMembers(OpenEditor &editor)
 {
-    const auto &list = ui::get<QListWidget>(*editor, "listWidgetMembers");
-    QStringList texts;
-    for (int row = 0; row < list.count(); ++row)
-        texts.append(list.item(row)->text());
-    return texts;
+    return ui::textsOf(ui::get<QListWidget>(*editor, "listWidgetMembers"));
 }
 
 void chooseGroup(OpenEditor &editor)
@@ -40,8 +39,6 @@ void saveAs(QDialog &dialog, const QString &name)
     ui::click(dialog, "btnSave");
 }
 
-const QString fromBoth = u"Product has been removed from group(s) and daypart(s) assignemnts"_s;
-
 void heat(ProductEdit &dialog)
 {
     ui::type(dialog, "numTemp1", u"210"_s);
@@ -54,35 +51,6 @@ void swapMember(const GroupEdit &dialog)
     ui::click(dialog, "btnRemoveProduct");
     ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 3);
     ui::click(dialog, "btnAddProduct");
-}
-
-void editProduct(OpenEditor &editor, ModalAnswers &answers, int row,
-                 const std::function<void(ProductEdit &)> &change, const QString &warning = {})
-{
-    answers.expect<ProductEdit>([&](ProductEdit &dialog) {
-        change(dialog);
-        ui::click(dialog, "btnSave");
-    });
-    if (!warning.isEmpty())
-        answers.expectBox(ModalAnswers::removalWarning(warning), QMessageBox::Ok);
-    editor.showTab(0);
-    ui::clickRow(editor.products(), row);
-    ui::click(*editor, "btnEditProduct");
-    QVERIFY(answers.allAnswered());
-}
-
-void editGroup(OpenEditor &editor, ModalAnswers &answers, const std::function<void(GroupEdit &)> &change,
-               const QString &warning = {})
-{
-    answers.expect<GroupEdit>([&](GroupEdit &dialog) {
-        change(dialog);
-        ui::click(dialog, "btnSave");
-    });
-    if (!warning.isEmpty())
-        answers.expectBox(ModalAnswers::removalWarning(warning), QMessageBox::Ok);
-    chooseGroup(editor);
-    ui::click(*editor, "btnEditGroup");
-    QVERIFY(answers.allAnswered());
 }
 
 } // namespace
@@ -138,8 +106,7 @@ void TestMenuFileReload::renamedProductShowsEverywhere()
 {
     OpenBins editor(menuWithUnknownId());
     chooseGroup(editor);
-    ModalAnswers answers;
-    editProduct(editor, answers, 1, [](ProductEdit &dialog) { ui::type(dialog, "txtName", u"Ham"_s); });
+    editProduct(editor, 1, [](ProductEdit &dialog) { ui::type(dialog, "txtName", u"Ham"_s); });
     QCOMPARE(shownMembers(editor), QStringList{u"  1 Ham"_s});
     QCOMPARE(editor.button(1, 0).text(), u"Ham"_s);
     QCOMPARE(editor.groups().currentRow(), 0);
@@ -149,8 +116,7 @@ void TestMenuFileReload::changedProductLeavesTheShownGroup()
 {
     OpenBins editor(menuWithUnknownId());
     chooseGroup(editor);
-    ModalAnswers answers;
-    editProduct(editor, answers, 1, heat, fromBoth);
+    editProduct(editor, 1, heat, fromGroupsAndBins);
     QCOMPARE(shownMembers(editor), QStringList());
     QCOMPARE(editor.button(1, 0).text(), QString());
 }
@@ -159,8 +125,7 @@ void TestMenuFileReload::renamedGroupShowsInItsBins()
 {
     OpenBins editor(menuWithUnknownId());
     QCOMPARE(editor.button(0, 1).text(), u"Halves"_s);
-    ModalAnswers answers;
-    editGroup(editor, answers, [](GroupEdit &dialog) { ui::type(dialog, "txtName", u"Meats"_s); });
+    editGroup(editor, 0, [](GroupEdit &dialog) { ui::type(dialog, "txtName", u"Meats"_s); });
     QCOMPARE(editor.button(0, 1).text(), u"Meats"_s);
 }
 
@@ -169,8 +134,7 @@ void TestMenuFileReload::changedGroupLeavesTheShownBins()
     samplefile::Menu menu = menuWithUnknownId();
     menu.groups = {samplefile::group(5, u"Halves"_s, {2})};
     OpenBins editor(menu);
-    ModalAnswers answers;
-    editGroup(editor, answers, swapMember, u"Group has been removed from daypart(s) assignemnts"_s);
+    editGroup(editor, 0, swapMember, groupFromBins);
     QCOMPARE(editor.button(0, 1).text(), QString());
 }
 
@@ -180,17 +144,16 @@ void TestMenuFileReload::editsLeaveTheRemovalMode()
     const auto enterRemoval = [&editor] {
         editor.showTab(2);
         editor.press(0, 0);
-        QTRY_VERIFY(editor.isRemoving());
+        REQUIRE_SOON(editor.isRemoving());
         editor.release();
     };
-    ModalAnswers answers;
     enterRemoval();
-    editGroup(editor, answers, [](GroupEdit &dialog) { ui::type(dialog, "txtName", u"Meats"_s); });
+    editGroup(editor, 0, [](GroupEdit &dialog) { ui::type(dialog, "txtName", u"Meats"_s); });
     editor.showTab(2);
     QVERIFY(!editor.isRemoving());
     QCOMPARE(editor.button(0, 1).text(), u"Meats"_s);
     enterRemoval();
-    editProduct(editor, answers, 1, [](ProductEdit &dialog) { ui::type(dialog, "txtName", u"Ham"_s); });
+    editProduct(editor, 1, [](ProductEdit &dialog) { ui::type(dialog, "txtName", u"Ham"_s); });
     editor.showTab(2);
     QVERIFY(!editor.isRemoving());
 }
@@ -206,7 +169,7 @@ void TestMenuFileReload::warningComesLast()
             shownAtWarning = shownMembers(editor)
                              << editor.productDetail("txtTemp1").text() << editor.button(1, 0).text();
     });
-    editProduct(editor, answers, 1, heat, fromBoth);
+    editProduct(editor, answers, 1, heat, fromGroupsAndBins);
     QCOMPARE(shownAtWarning, (QStringList{u"210°F"_s, QString()}));
 }
 

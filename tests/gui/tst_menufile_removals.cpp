@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "holding/configuration.h"
-#include "holding/groupedit.h"
-#include "holding/productedit.h"
-#include "tests/gui/openeditor.h"
-#include "tests/support/modalanswers.h"
+#include "tests/gui/editentry.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
+using namespace editentry;
 
 namespace {
 
@@ -27,39 +25,8 @@ samplefile::Menu menuWith(const QJsonObject &header)
     return menu;
 }
 
-void editProduct(OpenEditor &editor, int row, const std::function<void(ProductEdit &)> &change,
-                 const QString &warning)
-{
-    ModalAnswers answers;
-    answers.expect<ProductEdit>([&](ProductEdit &dialog) {
-        change(dialog);
-        ui::click(dialog, "btnSave");
-    });
-    if (!warning.isEmpty())
-        answers.expectBox(ModalAnswers::removalWarning(warning), QMessageBox::Ok);
-    ui::clickRow(editor.products(), row);
-    ui::click(*editor, "btnEditProduct");
-}
-
-void editGroup(OpenEditor &editor, int row, const std::function<void(GroupEdit &)> &change,
-               const QString &warning)
-{
-    ModalAnswers answers;
-    answers.expect<GroupEdit>([&](GroupEdit &dialog) {
-        change(dialog);
-        ui::click(dialog, "btnSave");
-    });
-    if (!warning.isEmpty())
-        answers.expectBox(ModalAnswers::removalWarning(warning), QMessageBox::Ok);
-    editor.showTab(1);
-    ui::clickRow(editor.groups(), row);
-    ui::click(*editor, "btnEditGroup");
-}
-
-const QString fromBoth = u"Product has been removed from group(s) and daypart(s) assignemnts"_s;
 const QString fromBins = u"Product has been removed from daypart(s) assignemnts"_s;
 const QString fromGroups = u"Product has been removed from group(s)"_s;
-const QString groupFromBins = u"Group has been removed from daypart(s) assignemnts"_s;
 
 QJsonObject savedGroup(const QJsonObject &saved, int row)
 {
@@ -111,7 +78,7 @@ void TestMenuFileRemovals::productLeavesWhereItIs_data()
     const QList<int> morning{1, 2, 9, 1};
     const QList<int> evening{9, 1, 2, 0};
     const QJsonArray members{3, 1, 4};
-    QTest::newRow("both") << 0 << fromBoth << QList<int>{0, 2, 9, 0} << QList<int>{9, 0, 2, 0}
+    QTest::newRow("both") << 0 << fromGroupsAndBins << QList<int>{0, 2, 9, 0} << QList<int>{9, 0, 2, 0}
                           << QJsonArray{3, 4} << 0;
     QTest::newRow("bins") << 1 << fromBins << QList<int>{1, 0, 9, 1} << QList<int>{9, 1, 0, 0} << members
                           << 2;
@@ -157,7 +124,7 @@ void TestMenuFileRemovals::everySettingOfAProductCounts()
         else
             ui::type(dialog, input.constData(), value);
     };
-    editProduct(editor, 0, change, fromBoth);
+    editProduct(editor, 0, change, fromGroupsAndBins);
     QCOMPARE(membersOf(editor.saved(), 0), (QJsonArray{3, 4}));
 }
 
@@ -265,7 +232,7 @@ void TestMenuFileRemovals::temperatureMadeUpByTheRangeIsAChange()
     menu.products[0] = samplefile::product(1, u"Both"_s, {{u"lowerTemp"_s, 80}});
     OpenEditor editor(menu);
     editProduct(
-        editor, 0, [](ProductEdit &) {}, fromBoth);
+        editor, 0, [](ProductEdit &) {}, fromGroupsAndBins);
     QCOMPARE(editor->getMenuProducts().constFirst()->get_lowerTemp(), 90);
 }
 
@@ -276,7 +243,7 @@ void TestMenuFileRemovals::zpvMakesTwoTemperaturesOne()
     menu.products[0] = samplefile::product(1, u"Both"_s, {{u"upperTemp"_s, 210}, {u"lowerTemp"_s, 190}});
     OpenEditor editor(menu);
     editProduct(
-        editor, 0, [](ProductEdit &) {}, fromBoth);
+        editor, 0, [](ProductEdit &) {}, fromGroupsAndBins);
     QCOMPARE(editor->getMenuProducts().constFirst()->get_upperTemp(), 210);
     QCOMPARE(editor->getMenuProducts().constFirst()->get_lowerTemp(), 210);
     QCOMPARE(membersOf(editor.saved(), 0), (QJsonArray{3, 4}));

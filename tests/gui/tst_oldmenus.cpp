@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QComboBox>
-#include <QDir>
 #include <QListWidget>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTabWidget>
 
 #include "holding/menufile.h"
-#include "tests/gui/programwindow.h"
+#include "tests/support/program.h"
 #include "tests/support/qhxbuilder.h"
 #include "tests/support/samplefile.h"
+#include "tests/support/testfolder.h"
+#include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -38,12 +38,9 @@ private slots:
 
 namespace {
 
-const QString saveCaption = u"Save JSON Menu"_s;
-const QString saveFilter = u"JSON Menu Files (*.json)"_s;
-
-QString write(const samplefile::Folder &folder, const QString &name = u"old.qhx"_s)
+QString write(const TestFolder &folder)
 {
-    return folder.write(name, qhx::sample().bytes());
+    return folder.make(u"old.qhx"_s, qhx::sample().bytes());
 }
 
 } // namespace
@@ -58,21 +55,20 @@ void TestOldMenus::opens_data()
 void TestOldMenus::opens()
 {
     QFETCH(QString, name);
-    const samplefile::Folder folder;
-    ProgramWindow program;
-    ModalAnswers answers;
-    program.open(answers, write(folder, name));
-    QVERIFY(program.editor());
-    QVERIFY(program.editor()->isMenuValid());
-    QCOMPARE(program.editor()->windowTitle(), u"Menu File - "_s + name);
-    QCOMPARE(program.editor()->filePath(), QString());
+    Program program;
+    program.open(name, qhx::sample().bytes());
+    const auto *editor = program.editor<MenuFile>();
+    QVERIFY(editor);
+    QVERIFY(editor->isMenuValid());
+    QCOMPARE(editor->windowTitle(), u"Menu File - "_s + name);
+    QCOMPARE(editor->filePath(), QString());
     QCOMPARE(program.subWindow()->objectName(), u"QhxMenuFile"_s);
     QCOMPARE(program.menuCount(), 1);
 }
 
 void TestOldMenus::showsWhatWasImported()
 {
-    const samplefile::Folder folder;
+    const TestFolder folder;
     MenuFile editor(write(folder));
     ui::show(editor);
     QCOMPARE(editor.getCabinetType(), u"QHX"_s);
@@ -99,61 +95,50 @@ void TestOldMenus::showsWhatWasImported()
 
 void TestOldMenus::saveAsksForANameAndKeepsTheOldFile()
 {
-    const samplefile::Folder folder;
-    const QString old = write(folder);
-    ProgramWindow program;
-    ModalAnswers answers;
-    program.open(answers, old);
-    answers.expectFileDialog(saveCaption, saveFilter, folder.path(u"new.json"_s), u""_s);
+    Program program;
+    program.open(u"old.qhx"_s, qhx::sample().bytes());
+    program.expectSaveDialog(Line::Holding, Asking::Save, program.path(u"new.json"_s));
     program.save();
-    program.activate();
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(program.editor()->filePath(), folder.path(u"new.json"_s));
-    QCOMPARE(program.editor()->windowTitle(), u"Menu File - new.json"_s);
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.editor<MenuFile>()->filePath(), program.path(u"new.json"_s));
+    QCOMPARE(program.editor<MenuFile>()->windowTitle(), u"Menu File - new.json"_s);
     program.save(); // to the same name, without asking
-    QCOMPARE(samplefile::bytesOf(old), qhx::sample().bytes());
-    QCOMPARE(samplefile::menuOf(folder.path(u"new.json"_s)).value(u"products"_s).toArray().size(), 2);
+    QCOMPARE(program.content(u"old.qhx"_s), qhx::sample().bytes());
+    QCOMPARE(samplefile::menuOf(program.path(u"new.json"_s)).value(u"products"_s).toArray().size(), 2);
 }
 
 void TestOldMenus::cancelledSaveWritesNothing()
 {
-    const samplefile::Folder folder;
-    const QString old = write(folder);
-    ProgramWindow program;
-    ModalAnswers answers;
-    program.open(answers, old);
-    answers.expectFileDialog(saveCaption, saveFilter, {});
+    Program program;
+    program.open(u"old.qhx"_s, qhx::sample().bytes());
+    program.expectSaveDialog(Line::Holding, Asking::Save, {});
     program.save();
-    QCOMPARE(program.editor()->filePath(), QString());
-    QCOMPARE(samplefile::bytesOf(old), qhx::sample().bytes());
-    QCOMPARE(QDir(QFileInfo(old).path()).entryList(QDir::Files), QStringList{u"old.qhx"_s});
+    QCOMPARE(program.editor<MenuFile>()->filePath(), QString());
+    QCOMPARE(program.content(u"old.qhx"_s), qhx::sample().bytes());
+    QCOMPARE(program.folder().names(), QStringList{u"old.qhx"_s});
 }
 
 void TestOldMenus::closingAsksForAName()
 {
-    const samplefile::Folder folder;
-    const QString old = write(folder);
-    ProgramWindow program;
-    ModalAnswers answers;
-    program.open(answers, old);
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    answers.expectFileDialog(saveCaption, saveFilter, folder.path(u"new.json"_s));
+    Program program;
+    program.open(u"old.qhx"_s, qhx::sample().bytes());
+    program.expectSaveQuestion(QMessageBox::Yes);
+    program.expectSaveDialog(Line::Holding, Asking::Closing, program.path(u"new.json"_s));
     program.subWindow()->close();
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(samplefile::bytesOf(old), qhx::sample().bytes());
-    QVERIFY(!samplefile::menuOf(folder.path(u"new.json"_s)).isEmpty());
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.content(u"old.qhx"_s), qhx::sample().bytes());
+    QVERIFY(!samplefile::menuOf(program.path(u"new.json"_s)).isEmpty());
 }
 
 void TestOldMenus::savedMenuOpensAgain()
 {
-    const samplefile::Folder folder;
+    const TestFolder folder;
     MenuFile imported(write(folder));
     QVERIFY(imported.writeToFile(folder.path(u"new.json"_s)));
     MenuFile opened(folder.path(u"new.json"_s));
     QVERIFY(opened.isMenuValid());
     QVERIFY(opened.writeToFile(folder.path(u"again.json"_s)));
-    QCOMPARE(samplefile::bytesOf(folder.path(u"again.json"_s)),
-             samplefile::bytesOf(folder.path(u"new.json"_s)));
+    QCOMPARE(contentOf(folder.path(u"again.json"_s)), contentOf(folder.path(u"new.json"_s)));
     const QJsonObject menu = samplefile::menuOf(folder.path(u"new.json"_s));
     QCOMPARE(samplefile::binsOf(menu, 0),
              (QList<int>{0, 0, 12, 0, 12, 0, 0, 12, 0, 12, 0, 0, 0, 0, 12, 0, 12, 0, 0, 12}));
@@ -187,22 +172,20 @@ void TestOldMenus::faults()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, message);
-    const samplefile::Folder folder;
-    ProgramWindow program;
-    ModalAnswers answers;
-    const QString path = folder.write(u"old.qhx"_s, bytes);
-    ProgramWindow::expectOpenDialog(answers, path);
-    answers.expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
+    Program program;
+    program.folder().make(u"old.qhx"_s, bytes);
+    program.expectOpenDialog(u"old.qhx"_s);
+    program.answers().expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
     program.openNow();
-    QVERIFY(answers.allAnswered());
+    QVERIFY(program.answers().allAnswered());
     QCOMPARE(program.menuCount(), 0);
     QVERIFY(!program.area().findChild<MenuFile *>());
-    QCOMPARE(samplefile::bytesOf(path), bytes);
+    QCOMPARE(program.content(u"old.qhx"_s), bytes);
 }
 
 void TestOldMenus::fileThatIsNotThere()
 {
-    const samplefile::Folder folder;
+    const TestFolder folder;
     const QString path = folder.path(u"missing.qhx"_s);
     ModalAnswers answers;
     answers.expectBox(ModalAnswers::fileFault(u"Failed to open the file:"_s + path), QMessageBox::Ok);
@@ -215,8 +198,8 @@ void TestOldMenus::groupOfAnOldMenuCanBeEdited()
 {
     qhx::File file = qhx::sample();
     file.entries[2].defaultIndex = 255;
-    const samplefile::Folder folder;
-    MenuFile editor(folder.write(u"old.qhx"_s, file.bytes()));
+    const TestFolder folder;
+    MenuFile editor(folder.make(u"old.qhx"_s, file.bytes()));
     ui::show(editor);
     ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(1);
     ModalAnswers answers;

@@ -18,11 +18,7 @@ namespace {
 
 QStringList namesIn(const MenuFile &editor)
 {
-    const auto &list = ui::get<QListWidget>(editor, "listWidgetProducts");
-    QStringList names;
-    for (int row = 0; row < list.count(); ++row)
-        names.append(list.item(row)->text());
-    return names;
+    return ui::textsOf(ui::get<QListWidget>(editor, "listWidgetProducts"));
 }
 
 QByteArray openMenu()

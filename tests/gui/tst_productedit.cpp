@@ -10,6 +10,7 @@
 #include "holding/configuration.h"
 #include "tests/gui/editproduct.h"
 #include "tests/support/slotlist.h"
+#include "tests/support/testfolder.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -29,11 +30,7 @@ QString shownIn(const ProductEdit &dialog, const char *comboBox)
 
 QString choices(const ProductEdit &dialog, const char *comboBox)
 {
-    const auto &box = ui::get<QComboBox>(dialog, comboBox);
-    QStringList texts;
-    for (int i = 0; i < box.count(); ++i)
-        texts.append(box.itemText(i));
-    return texts.join(u' ');
+    return ui::textsOf(ui::get<QComboBox>(dialog, comboBox)).join(u' ');
 }
 
 QString labelText(const ProductEdit &dialog, const char *label)
@@ -212,10 +209,7 @@ void TestProductEdit::zoneSplitsFollowTheBinsPerZone()
         menuWith(samplefile::header({{u"cabinetModel"_s, model}}), {{u"zoneSplits"_s, u"9/9"_s}}));
     edit(editor, [&](ProductEdit &dialog, ModalAnswers &) {
         const auto &combo = ui::get<QComboBox>(dialog, "comboZoneSplits");
-        QStringList items;
-        for (int i = 0; i < combo.count(); ++i)
-            items.append(combo.itemText(i));
-        QCOMPARE(items, choices);
+        QCOMPARE(ui::textsOf(combo), choices);
         QCOMPARE(combo.currentIndex(), 0);
         save(dialog);
     });
@@ -318,14 +312,14 @@ void TestProductEdit::unknownCabinetIsRefused()
 {
     QFETCH(QString, type);
     QFETCH(QStringList, messages);
-    const samplefile::Folder folder;
+    const TestFolder folder;
     const samplefile::Menu menu =
         menuWith(samplefile::header({{u"cabinetType"_s, type}, {u"cabinetModel"_s, u"KTR99"_s}}));
     ModalAnswers answers;
     answers.expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnCancel"); });
     answers.expectBox(ModalAnswers::fileFault(u"File read canceled. Unkown configuration!"_s),
                       QMessageBox::Ok);
-    MenuFile editor(folder.write(u"menu.json"_s, menu.bytes()));
+    MenuFile editor(folder.make(u"menu.json"_s, menu.bytes()));
     for (const QString &message : messages)
         answers.expectBox(ModalAnswers::refusal(message), QMessageBox::Close);
     ProductInfo product;

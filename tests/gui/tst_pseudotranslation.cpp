@@ -2,25 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QApplication>
-#include <QFile>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "app/aboutapp.h"
 #include "holding/menufile.h"
 #include "lanes/svrxmenufile.h"
+#include "tests/gui/pseudotranslation.h"
+#include "tests/gui/work.h"
 #include "tests/support/everywindow.h"
 #include "tests/support/lanefile.h"
 #include "tests/support/modalanswers.h"
-#include "tests/support/pseudotranslation.h"
 #include "tests/support/qhxbuilder.h"
+#include "tests/support/require.h"
 #include "tests/support/shownwidgets.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 #include "tests/support/windowmenu.h"
-#include "tests/support/work.h"
 
 using namespace Qt::StringLiterals;
 
@@ -125,23 +124,6 @@ void TestPseudoTranslation::importFaultsAreTranslated()
     checkFault(u"menu.qhx"_s, content);
 }
 
-// Opens a menu of this content, or none for an empty one.
-void TestPseudoTranslation::checkFault(const QString &name, const QByteArray &content)
-{
-    QApplication::installTranslator(&m_translator);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(name));
-    if (!content.isEmpty())
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush());
-    ModalAnswers answers;
-    answers.expect<QMessageBox>([](QMessageBox &box) {
-        checkTranslated(box, {});
-        ui::click(*box.button(QMessageBox::Ok));
-    });
-    const MenuFile editor(file.fileName());
-    QVERIFY(!editor.isMenuValid());
-}
-
 namespace {
 
 void expectTranslatedBox(ModalAnswers &answers)
@@ -153,6 +135,19 @@ void expectTranslatedBox(ModalAnswers &answers)
 }
 
 } // namespace
+
+// Opens a menu of this content, or none for an empty one.
+void TestPseudoTranslation::checkFault(const QString &name, const QByteArray &content)
+{
+    QApplication::installTranslator(&m_translator);
+    const TestFolder folder;
+    if (!content.isEmpty())
+        folder.make(name, content);
+    ModalAnswers answers;
+    expectTranslatedBox(answers);
+    const MenuFile editor(folder.path(name));
+    REQUIRE(!editor.isMenuValid());
+}
 
 void TestPseudoTranslation::laneFaultsAreTranslated_data()
 {

@@ -3,8 +3,8 @@
 
 #include <QWheelEvent>
 
-#include "tests/gui/lanemenus.h"
 #include "tests/gui/openlaneeditor.h"
+#include "tests/support/program.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -40,10 +40,9 @@ private slots:
 
 void TestSvrxMenuFileEntry::wheelPassesOverBoxes()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"a.txt"_s, lanefile::text(contents));
-    SvrxMenuFile &editor = *menus.editor();
+    Program program;
+    program.open(u"a.txt"_s, lanefile::text(contents));
+    SvrxMenuFile &editor = *program.editor<SvrxMenuFile>();
     auto &lanes = ui::get<QComboBox>(editor, "comboModelSelect");
     const QList<QWidget *> boxes{&lanes, &temperatureBox(editor, 1), &fanSpeedBox(editor, 1)};
     ui::get<QRadioButton>(editor, "rbTempUnitF").setFocus();
@@ -60,10 +59,9 @@ void TestSvrxMenuFileEntry::wheelPassesOverBoxes()
 
 void TestSvrxMenuFileEntry::wheelTurnsTheFocusedBox()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"a.txt"_s, lanefile::text(contents));
-    QSpinBox &box = temperatureBox(*menus.editor(), 1);
+    Program program;
+    program.open(u"a.txt"_s, lanefile::text(contents));
+    QSpinBox &box = temperatureBox(*program.editor<SvrxMenuFile>(), 1);
     ui::click(box);
     turnWheel(box, 1);
     QVERIFY(box.hasFocus());
@@ -73,42 +71,39 @@ void TestSvrxMenuFileEntry::wheelTurnsTheFocusedBox()
 namespace {
 
 // Types into the first temperature, leaves the cursor there and saves.
-QByteArray savedAfterTyping(LaneMenus &menus, const QString &text)
+QByteArray savedAfterTyping(Program &program, const QString &text)
 {
-    ui::type(temperatureBox(*menus.editor(), 1), text);
-    menus.save();
-    return menus.folder().content(u"a.txt"_s);
+    ui::type(temperatureBox(*program.editor<SvrxMenuFile>(), 1), text);
+    program.save();
+    return program.content(u"a.txt"_s);
 }
 
 } // namespace
 
 void TestSvrxMenuFileEntry::halfTypedNumberIsNotSaved()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"a.txt"_s, lanefile::text(contents));
-    const QSpinBox &box = temperatureBox(*menus.editor(), 1);
+    Program program;
+    program.open(u"a.txt"_s, lanefile::text(contents));
+    const QSpinBox &box = temperatureBox(*program.editor<SvrxMenuFile>(), 1);
     for (const QString &text : {u"20"_s, u""_s}) {
-        QCOMPARE(savedAfterTyping(menus, text), lanefile::text(contents));
+        QCOMPARE(savedAfterTyping(program, text), lanefile::text(contents));
         QCOMPARE(box.text(), u"300"_s); // what is seen is what was saved
     }
-    QCOMPARE(savedAfterTyping(menus, u"201"_s), lanefile::text(QByteArray(contents).replace("300", "201")));
+    QCOMPARE(savedAfterTyping(program, u"201"_s), lanefile::text(QByteArray(contents).replace("300", "201")));
 }
 
 void TestSvrxMenuFileEntry::typedLimitIsSaved()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"a.txt"_s, lanefile::text(QByteArray(contents).replace("300", "1")));
-    QCOMPARE(savedAfterTyping(menus, u"150"_s), lanefile::text(QByteArray(contents).replace("300", "150")));
+    Program program;
+    program.open(u"a.txt"_s, lanefile::text(QByteArray(contents).replace("300", "1")));
+    QCOMPARE(savedAfterTyping(program, u"150"_s), lanefile::text(QByteArray(contents).replace("300", "150")));
 }
 
 void TestSvrxMenuFileEntry::unitIsChosenByKeys()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"a.txt"_s, lanefile::text(contents));
-    SvrxMenuFile &editor = *menus.editor();
+    Program program;
+    program.open(u"a.txt"_s, lanefile::text(contents));
+    SvrxMenuFile &editor = *program.editor<SvrxMenuFile>();
     auto &fahrenheit = ui::get<QRadioButton>(editor, "rbTempUnitF");
     auto &celsius = ui::get<QRadioButton>(editor, "rbTempUnitC");
     fahrenheit.setFocus();
@@ -119,8 +114,8 @@ void TestSvrxMenuFileEntry::unitIsChosenByKeys()
     QTest::keyClick(&celsius, Qt::Key_Left);
     QVERIFY(fahrenheit.isChecked());
     QCOMPARE(temperatureBox(editor, 1).value(), 300);
-    menus.save();
-    QCOMPARE(menus.folder().content(u"a.txt"_s), lanefile::text(contents));
+    program.save();
+    QCOMPARE(program.content(u"a.txt"_s), lanefile::text(contents));
 }
 
 QTEST_MAIN(TestSvrxMenuFileEntry)

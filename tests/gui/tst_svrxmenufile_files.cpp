@@ -5,9 +5,10 @@
 #include <QFile>
 #include <QFileDialog>
 
-#include "tests/gui/lanemenus.h"
 #include "tests/gui/openlaneeditor.h"
 #include "tests/support/hardship.h"
+#include "tests/support/program.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 #include <sys/stat.h>
@@ -33,13 +34,13 @@ void changeFirstTemperature(const QWidget &editor)
 }
 
 // That a changed menu stands as it was opened.
-void checkUnsaved(LaneMenus &menus, const QString &name)
+void checkUnsaved(Program &program, const QString &name)
 {
-    QCOMPARE(menus.editor()->filePath(), menus.path(name));
-    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - "_s + name);
-    QCOMPARE(menus.folder().names(), QStringList{name});
-    QCOMPARE(menus.folder().content(name), lanefile::text(contents));
-    QCOMPARE(temperatureBox(*menus.editor(), 1).value(), 351);
+    REQUIRE_EQUAL(program.editor<SvrxMenuFile>()->filePath(), program.path(name));
+    REQUIRE_EQUAL(program.subWindow()->windowTitle(), u"Menu File - "_s + name);
+    REQUIRE_EQUAL(program.folder().names(), QStringList{name});
+    REQUIRE_EQUAL(program.content(name), lanefile::text(contents));
+    REQUIRE_EQUAL(temperatureBox(*program.editor<SvrxMenuFile>(), 1).value(), 351);
 }
 
 } // namespace
@@ -77,15 +78,14 @@ private slots:
 
 void TestSvrxMenuFileFiles::newIsShownInASubWindow()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers);
-    QCOMPARE(menus.menuCount(), 1);
-    QVERIFY(menus.editor());
-    QVERIFY(menus.editor()->isVisible());
-    QCOMPARE(menus.subWindow()->objectName(), u"SvrxMenuFile"_s);
-    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - "_s);
-    QCOMPARE(menus.editor()->minimumSize(), menus.editor()->maximumSize());
+    Program program;
+    program.newMenu(Line::Lanes);
+    QCOMPARE(program.menuCount(), 1);
+    QVERIFY(program.editor<SvrxMenuFile>());
+    QVERIFY(program.editor<SvrxMenuFile>()->isVisible());
+    QCOMPARE(program.subWindow()->objectName(), u"SvrxMenuFile"_s);
+    QCOMPARE(program.subWindow()->windowTitle(), u"Menu File - "_s);
+    QCOMPARE(program.editor<SvrxMenuFile>()->minimumSize(), program.editor<SvrxMenuFile>()->maximumSize());
 }
 
 void TestSvrxMenuFileFiles::anyNameOpens_data()
@@ -99,14 +99,13 @@ void TestSvrxMenuFileFiles::anyNameOpens_data()
 void TestSvrxMenuFileFiles::anyNameOpens()
 {
     QFETCH(const QString, name);
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, name, lanefile::text(contents));
-    QVERIFY(menus.editor());
-    QCOMPARE(menus.editor()->filePath(), menus.path(name));
-    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - "_s + name);
-    QCOMPARE(temperatureBox(*menus.editor(), 1).value(), 350);
-    QCOMPARE(menus.folder().names(), QStringList{name});
+    Program program;
+    program.open(name, lanefile::text(contents));
+    QVERIFY(program.editor<SvrxMenuFile>());
+    QCOMPARE(program.editor<SvrxMenuFile>()->filePath(), program.path(name));
+    QCOMPARE(program.subWindow()->windowTitle(), u"Menu File - "_s + name);
+    QCOMPARE(temperatureBox(*program.editor<SvrxMenuFile>(), 1).value(), 350);
+    QCOMPARE(program.folder().names(), QStringList{name});
 }
 
 void TestSvrxMenuFileFiles::faultsAreShown_data()
@@ -123,15 +122,14 @@ void TestSvrxMenuFileFiles::faultsAreShown()
 {
     QFETCH(const QByteArray, text);
     QFETCH(const QString, message);
-    LaneMenus menus;
-    menus.folder().make(u"a.txt"_s, text);
-    ModalAnswers answers;
-    answers.expectOpenDialog(menus.path(u"a.txt"_s));
-    answers.expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
-    menus.openNow();
-    QCOMPARE(menus.menuCount(), 0);
-    QVERIFY(!menus.window().findChild<SvrxMenuFile *>());
-    QCOMPARE(menus.folder().content(u"a.txt"_s), text);
+    Program program;
+    program.folder().make(u"a.txt"_s, text);
+    program.expectOpenDialog(u"a.txt"_s);
+    program.answers().expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
+    program.openNow();
+    QCOMPARE(program.menuCount(), 0);
+    QVERIFY(!program.window().findChild<SvrxMenuFile *>());
+    QCOMPARE(program.content(u"a.txt"_s), text);
 }
 
 void TestSvrxMenuFileFiles::unreadableFileIsShown()
@@ -149,101 +147,95 @@ void TestSvrxMenuFileFiles::unreadableFileIsShown()
 
 void TestSvrxMenuFileFiles::saveInPlaceWritesTheConfigurationOnly()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"svrxconfig_a.txt"_s, lanefile::text(contents));
-    menus.folder().make(u"svrxprod_a.txt"_s, "as it was");
-    changeFirstTemperature(*menus.editor());
-    menus.save();
-    QCOMPARE(menus.folder().names(), QStringList({u"svrxconfig_a.txt"_s, u"svrxprod_a.txt"_s}));
-    QCOMPARE(menus.folder().content(u"svrxconfig_a.txt"_s), lanefile::text(changedContents));
-    QCOMPARE(menus.folder().content(u"svrxprod_a.txt"_s), QByteArray("as it was"));
+    Program program;
+    program.open(u"svrxconfig_a.txt"_s, lanefile::text(contents));
+    program.folder().make(u"svrxprod_a.txt"_s, "as it was");
+    changeFirstTemperature(*program.editor<SvrxMenuFile>());
+    program.save();
+    QCOMPARE(program.folder().names(), QStringList({u"svrxconfig_a.txt"_s, u"svrxprod_a.txt"_s}));
+    QCOMPARE(program.content(u"svrxconfig_a.txt"_s), lanefile::text(changedContents));
+    QCOMPARE(program.content(u"svrxprod_a.txt"_s), QByteArray("as it was"));
 }
 
 // Not even where the name is one that a cabinet would not load.
 void TestSvrxMenuFileFiles::saveInPlaceAsksForNoName()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"other.txt"_s, lanefile::text(contents));
-    changeFirstTemperature(*menus.editor());
-    menus.save();
-    QCOMPARE(menus.folder().names(), QStringList{u"other.txt"_s});
-    QCOMPARE(menus.folder().content(u"other.txt"_s), lanefile::text(changedContents));
+    Program program;
+    program.open(u"other.txt"_s, lanefile::text(contents));
+    changeFirstTemperature(*program.editor<SvrxMenuFile>());
+    program.save();
+    QCOMPARE(program.folder().names(), QStringList{u"other.txt"_s});
+    QCOMPARE(program.content(u"other.txt"_s), lanefile::text(changedContents));
 }
 
 void TestSvrxMenuFileFiles::saveOfANewMenuProposesAName()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers);
-    LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_new.txt"_s), u"svrxconfig_"_s);
-    menus.save();
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - svrxconfig_new.txt"_s);
-    QCOMPARE(menus.folder().content(u"svrxconfig_new.txt"_s),
+    Program program;
+    program.newMenu(Line::Lanes);
+    program.expectSaveDialog(Line::Lanes, Asking::Save, program.path(u"svrxconfig_new.txt"_s));
+    program.save();
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.subWindow()->windowTitle(), u"Menu File - svrxconfig_new.txt"_s);
+    QCOMPARE(program.content(u"svrxconfig_new.txt"_s),
              lanefile::text("T1=375,T2=375,T3=0,T4=0,F1=1800,F2=1800,F3=0,F4=0"));
-    QCOMPARE(menus.folder().content(u"svrxprod_new.txt"_s),
+    QCOMPARE(program.content(u"svrxprod_new.txt"_s),
              QByteArray("a5a50811010708017707080177ffffffffffffffff5a36"));
-    menus.save(); // asks no second time
+    program.save(); // asks no second time
 }
 
 void TestSvrxMenuFileFiles::saveCancelledWritesNothing()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers);
-    LaneMenus::expectSaveDialog(answers, {}, u"svrxconfig_"_s);
-    menus.save();
-    QCOMPARE(menus.editor()->filePath(), QString());
-    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - "_s);
+    Program program;
+    program.newMenu(Line::Lanes);
+    program.expectSaveDialog(Line::Lanes, Asking::Save, {});
+    program.save();
+    QCOMPARE(program.editor<SvrxMenuFile>()->filePath(), QString());
+    QCOMPARE(program.subWindow()->windowTitle(), u"Menu File - "_s);
 }
 
 void TestSvrxMenuFileFiles::saveAsWritesBothFiles()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"svrxconfig_a.txt"_s, lanefile::text(contents));
-    LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_b.txt"_s), u"svrxconfig_a.txt"_s);
-    menus.saveAs();
-    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - svrxconfig_b.txt"_s);
-    QCOMPARE(menus.editor()->filePath(), menus.path(u"svrxconfig_b.txt"_s));
-    QCOMPARE(menus.folder().names(),
+    Program program;
+    program.open(u"svrxconfig_a.txt"_s, lanefile::text(contents));
+    program.expectSaveDialog(Line::Lanes, Asking::SaveAs, program.path(u"svrxconfig_b.txt"_s),
+                             u"svrxconfig_a.txt"_s);
+    program.saveAs();
+    QCOMPARE(program.subWindow()->windowTitle(), u"Menu File - svrxconfig_b.txt"_s);
+    QCOMPARE(program.editor<SvrxMenuFile>()->filePath(), program.path(u"svrxconfig_b.txt"_s));
+    QCOMPARE(program.folder().names(),
              QStringList({u"svrxconfig_a.txt"_s, u"svrxconfig_b.txt"_s, u"svrxprod_b.txt"_s}));
-    QCOMPARE(menus.folder().content(u"svrxconfig_b.txt"_s), lanefile::text(contents));
-    QCOMPARE(menus.folder().content(u"svrxprod_b.txt"_s), production);
+    QCOMPARE(program.content(u"svrxconfig_b.txt"_s), lanefile::text(contents));
+    QCOMPARE(program.content(u"svrxprod_b.txt"_s), production);
 }
 
 void TestSvrxMenuFileFiles::saveAsOfANewMenuProposesAName()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers);
-    LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_"_s), u"svrxconfig_"_s);
-    menus.saveAs();
-    QCOMPARE(menus.folder().names(), QStringList({u"svrxconfig_"_s, u"svrxprod_"_s}));
+    Program program;
+    program.newMenu(Line::Lanes);
+    program.expectSaveDialog(Line::Lanes, Asking::SaveAs, program.path(u"svrxconfig_"_s));
+    program.saveAs();
+    QCOMPARE(program.folder().names(), QStringList({u"svrxconfig_"_s, u"svrxprod_"_s}));
 }
 
 void TestSvrxMenuFileFiles::saveAsCancelledChangesNothing()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"svrxconfig_a.txt"_s, lanefile::text(contents));
-    changeFirstTemperature(*menus.editor());
-    LaneMenus::expectSaveDialog(answers, {}, u"svrxconfig_a.txt"_s);
-    menus.saveAs();
-    checkUnsaved(menus, u"svrxconfig_a.txt"_s);
+    Program program;
+    program.open(u"svrxconfig_a.txt"_s, lanefile::text(contents));
+    changeFirstTemperature(*program.editor<SvrxMenuFile>());
+    program.expectSaveDialog(Line::Lanes, Asking::SaveAs, {}, u"svrxconfig_a.txt"_s);
+    program.saveAs();
+    checkUnsaved(program, u"svrxconfig_a.txt"_s);
 }
 
 void TestSvrxMenuFileFiles::saveAsEscapedChangesNothing()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"svrxconfig_a.txt"_s, lanefile::text(contents));
-    changeFirstTemperature(*menus.editor());
-    answers.expect<QFileDialog>([](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    menus.saveAs();
-    checkUnsaved(menus, u"svrxconfig_a.txt"_s);
+    Program program;
+    program.open(u"svrxconfig_a.txt"_s, lanefile::text(contents));
+    changeFirstTemperature(*program.editor<SvrxMenuFile>());
+    program.answers().expect<QFileDialog>(
+        [](QFileDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    program.saveAs();
+    checkUnsaved(program, u"svrxconfig_a.txt"_s);
 }
 
 void TestSvrxMenuFileFiles::wrongNamesWriteNothing_data()
@@ -260,21 +252,21 @@ void TestSvrxMenuFileFiles::wrongNamesWriteNothing()
 {
     QFETCH(const bool, isNew);
     QFETCH(const QString, name);
-    LaneMenus menus;
-    ModalAnswers answers;
+    Program program;
     if (isNew)
-        menus.newMenu(answers);
+        program.newMenu(Line::Lanes);
     else
-        menus.open(answers, u"a.txt"_s, lanefile::text(contents));
-    const QString pathBefore = menus.editor()->filePath();
-    const QString titleBefore = menus.subWindow()->windowTitle();
-    LaneMenus::expectSaveDialog(answers, menus.path(name), isNew ? u"svrxconfig_"_s : u"a.txt"_s);
-    answers.expectBox(ModalAnswers::fileFault(wrongName), QMessageBox::Ok);
-    menus.saveAs();
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(menus.folder().names(), isNew ? QStringList() : QStringList{u"a.txt"_s});
-    QCOMPARE(menus.editor()->filePath(), pathBefore);
-    QCOMPARE(menus.subWindow()->windowTitle(), titleBefore);
+        program.open(u"a.txt"_s, lanefile::text(contents));
+    const QString pathBefore = program.editor<SvrxMenuFile>()->filePath();
+    const QString titleBefore = program.subWindow()->windowTitle();
+    program.expectSaveDialog(Line::Lanes, Asking::SaveAs, program.path(name),
+                             isNew ? u"svrxconfig_"_s : u"a.txt"_s);
+    program.answers().expectBox(ModalAnswers::fileFault(wrongName), QMessageBox::Ok);
+    program.saveAs();
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.folder().names(), isNew ? QStringList() : QStringList{u"a.txt"_s});
+    QCOMPARE(program.editor<SvrxMenuFile>()->filePath(), pathBefore);
+    QCOMPARE(program.subWindow()->windowTitle(), titleBefore);
 }
 
 void TestSvrxMenuFileFiles::foldersKeepTheirNames()
@@ -300,19 +292,18 @@ void TestSvrxMenuFileFiles::saveWithoutAPathWritesNothing()
 
 void TestSvrxMenuFileFiles::failedSaveInPlace()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"a.txt"_s, lanefile::text(contents));
-    changeFirstTemperature(*menus.editor());
-    QVERIFY(QFile::remove(menus.path(u"a.txt"_s)));
-    QVERIFY(QDir().mkdir(menus.path(u"a.txt"_s)));
-    answers.expectBox(ModalAnswers::writeFault(menus.path(u"a.txt"_s)), QMessageBox::Ok);
-    menus.save();
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(menus.menuCount(), 1);
-    QCOMPARE(temperatureBox(*menus.editor(), 1).value(), 351);
-    answers.expectBox(ModalAnswers::writeFault(menus.path(u"a.txt"_s)), QMessageBox::Ok);
-    QVERIFY(!menus.editor()->save());
+    Program program;
+    program.open(u"a.txt"_s, lanefile::text(contents));
+    changeFirstTemperature(*program.editor<SvrxMenuFile>());
+    QVERIFY(QFile::remove(program.path(u"a.txt"_s)));
+    QVERIFY(QDir().mkdir(program.path(u"a.txt"_s)));
+    program.answers().expectBox(ModalAnswers::writeFault(program.path(u"a.txt"_s)), QMessageBox::Ok);
+    program.save();
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.menuCount(), 1);
+    QCOMPARE(temperatureBox(*program.editor<SvrxMenuFile>(), 1).value(), 351);
+    program.answers().expectBox(ModalAnswers::writeFault(program.path(u"a.txt"_s)), QMessageBox::Ok);
+    QVERIFY(!program.editor<SvrxMenuFile>()->save());
 }
 
 void TestSvrxMenuFileFiles::failedConfigurationLeavesNoProductionFile()

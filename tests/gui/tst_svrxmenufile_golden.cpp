@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QFile>
-
-#include "tests/gui/lanemenus.h"
 #include "tests/gui/openlaneeditor.h"
+#include "tests/support/program.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -15,14 +13,13 @@ const QStringList laneCounts{u"Single Lane"_s, u"Double Lane"_s, u"Triple Lane"_
 
 QByteArray golden(const QString &name)
 {
-    QFile file(QFINDTESTDATA(u"../data/"_s + name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return contentOf(QFINDTESTDATA(u"../data/"_s + name));
 }
 
-void saveAs(LaneMenus &menus, ModalAnswers &answers, const QString &start)
+void saveAs(Program &program, const QString &start)
 {
-    LaneMenus::expectSaveDialog(answers, menus.path(u"svrxconfig_a.txt"_s), start);
-    menus.saveAs();
+    program.expectSaveDialog(Line::Lanes, Asking::SaveAs, program.path(u"svrxconfig_a.txt"_s), start);
+    program.saveAs();
 }
 
 void addRows()
@@ -55,15 +52,14 @@ void TestSvrxMenuFileGolden::openedFilesAreWritten()
 {
     QFETCH(const int, laneCount);
     QFETCH(const QByteArray, unit);
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"a.txt"_s, golden(u"svrxconfig_4.txt"_s));
-    ui::click(*menus.editor(), unit.constData());
-    ui::choose(*menus.editor(), "comboModelSelect", laneCounts[laneCount - 1]);
-    saveAs(menus, answers, u"a.txt"_s);
+    Program program;
+    program.open(u"a.txt"_s, golden(u"svrxconfig_4.txt"_s));
+    ui::click(*program.editor<SvrxMenuFile>(), unit.constData());
+    ui::choose(*program.editor<SvrxMenuFile>(), "comboModelSelect", laneCounts[laneCount - 1]);
+    saveAs(program, u"a.txt"_s);
     const QString ending = QString::number(laneCount) + u".txt"_s;
-    QCOMPARE(menus.folder().content(u"svrxconfig_a.txt"_s), golden(u"svrxconfig_"_s + ending));
-    QCOMPARE(menus.folder().content(u"svrxprod_a.txt"_s), golden(u"svrxprod_"_s + ending));
+    QCOMPARE(program.content(u"svrxconfig_a.txt"_s), golden(u"svrxconfig_"_s + ending));
+    QCOMPARE(program.content(u"svrxprod_a.txt"_s), golden(u"svrxprod_"_s + ending));
 }
 
 // Entered in °F; the unit is changed before they are saved.
@@ -73,35 +69,33 @@ void TestSvrxMenuFileGolden::enteredFilesAreWritten()
     QFETCH(const QByteArray, unit);
     const int temperatures[] = {150, 400, 276, 399};
     const int fanSpeeds[] = {1500, 3200, 2047, 2816};
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers);
-    SvrxMenuFile &editor = *menus.editor();
+    Program program;
+    program.newMenu(Line::Lanes);
+    SvrxMenuFile &editor = *program.editor<SvrxMenuFile>();
     ui::choose(editor, "comboModelSelect", laneCounts[laneCount - 1]);
     for (int lane = 1; lane <= laneCount; ++lane) {
         ui::type(temperatureBox(editor, lane), QString::number(temperatures[lane - 1]));
         ui::type(fanSpeedBox(editor, lane), QString::number(fanSpeeds[lane - 1]));
     }
     ui::click(editor, unit.constData());
-    saveAs(menus, answers, u"svrxconfig_"_s);
+    saveAs(program, u"svrxconfig_"_s);
     const QString ending = QString::number(laneCount) + u".txt"_s;
-    QCOMPARE(menus.folder().content(u"svrxconfig_a.txt"_s), golden(u"svrxconfig_"_s + ending));
-    QCOMPARE(menus.folder().content(u"svrxprod_a.txt"_s), golden(u"svrxprod_"_s + ending));
+    QCOMPARE(program.content(u"svrxconfig_a.txt"_s), golden(u"svrxconfig_"_s + ending));
+    QCOMPARE(program.content(u"svrxprod_a.txt"_s), golden(u"svrxprod_"_s + ending));
 }
 
 void TestSvrxMenuFileGolden::celsiusEntriesAreWritten()
 {
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers);
-    SvrxMenuFile &editor = *menus.editor();
+    Program program;
+    program.newMenu(Line::Lanes);
+    SvrxMenuFile &editor = *program.editor<SvrxMenuFile>();
     ui::click(editor, "rbTempUnitC");
     ui::type(temperatureBox(editor, 1), u"66"_s);
     ui::type(temperatureBox(editor, 2), u"204"_s);
-    saveAs(menus, answers, u"svrxconfig_"_s);
-    QCOMPARE(menus.folder().content(u"svrxconfig_a.txt"_s),
+    saveAs(program, u"svrxconfig_"_s);
+    QCOMPARE(program.content(u"svrxconfig_a.txt"_s),
              lanefile::text("T1=151,T2=399,T3=0,T4=0,F1=1800,F2=1800,F3=0,F4=0"));
-    QCOMPARE(menus.folder().content(u"svrxprod_a.txt"_s),
+    QCOMPARE(program.content(u"svrxprod_a.txt"_s),
              QByteArray("a5a5081101070800970708018fffffffffffffffff3e2b"));
 }
 

@@ -50,7 +50,7 @@ void TestTimerBarEdits::renamingKeepsTheBins()
         ui::enterTime(dialog, "timeHoldTime", {2, 0});
         saveAsSoup(dialog);
     });
-    QCOMPARE(rowsOf(editor).constFirst(), u"  1 Soup"_s);
+    QCOMPARE(ui::textsOf(editor.products()).constFirst(), u"  1 Soup"_s);
     QCOMPARE(editor.products().currentRow(), 0);
     QCOMPARE(editor.detail("ShortName"), u"SOUP"_s);
     QCOMPARE(editor.button("btnDaypartSelect1_0").text(), u"SOUP"_s);
@@ -181,7 +181,7 @@ void TestTimerBarEdits::doubleClickEdits()
     answers.expect<TimerBarProductEdit>(saveAsSoup);
     ui::doubleClickRow(editor.products(), 2);
     QVERIFY(answers.allAnswered());
-    QCOMPARE(rowsOf(editor).constLast(), u"  3 Soup"_s);
+    QCOMPARE(ui::textsOf(editor.products()).constLast(), u"  3 Soup"_s);
     QCOMPARE(editor.products().currentRow(), 2);
 }
 
@@ -229,7 +229,7 @@ void TestTimerBarEdits::deleteKeepsTheIds()
     ModalAnswers answers;
     answers.expectBox(ModalAnswers::deleteQuestion(u"Delete selected product?"_s), QMessageBox::Yes);
     ui::click(*editor, "btnDeleteProduct");
-    QCOMPARE(rowsOf(editor), (QStringList{u"  1 Ham Steak"_s, u"  2 Chili"_s}));
+    QCOMPARE(ui::textsOf(editor.products()), (QStringList{u"  1 Ham Steak"_s, u"  2 Chili"_s}));
     QCOMPARE(ids(editor), (QList<int>{1, 2}));
     QVERIFY(editor.products().selectedItems().isEmpty());
     QCOMPARE(details(editor), QStringList(6, QString()));

@@ -95,11 +95,8 @@ void TestTimerBarGrid::daypartsAreNamed()
 {
     OpenTimerBar editor(baconHamChili());
     const auto &dayparts = ui::get<QComboBox>(*editor, "comboDaypartSelect");
-    QStringList names;
-    for (int i = 0; i < dayparts.count(); ++i)
-        names.append(dayparts.itemText(i));
-    QCOMPARE(names, (QStringList{u"Breakfast"_s, u"ChangeOver 1"_s, u"Lunch"_s, u"ChangeOver 2"_s,
-                                 u"Dinner"_s, u"ChangeOver 3"_s}));
+    QCOMPARE(ui::textsOf(dayparts), (QStringList{u"Breakfast"_s, u"ChangeOver 1"_s, u"Lunch"_s,
+                                                 u"ChangeOver 2"_s, u"Dinner"_s, u"ChangeOver 3"_s}));
     QCOMPARE(dayparts.currentIndex(), 0);
     QVERIFY(editor.button("btnDaypartRemove").isHidden());
     QVERIFY(editor.button("btnCancelDaypartRemove").isHidden());

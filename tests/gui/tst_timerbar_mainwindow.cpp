@@ -5,7 +5,7 @@
 #include <QPointer>
 
 #include "tests/gui/opentimerbar.h"
-#include "tests/gui/timerbarmenus.h"
+#include "tests/support/program.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -39,24 +39,22 @@ private slots:
 
 void TestTimerBarMainWindow::cancelledConfigurationOpensNothing()
 {
-    TimerBarMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers, "btnCancel");
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(menus.menuCount(), 0);
-    QVERIFY(menus.window().findChildren<TimerBarMenuFile *>().isEmpty());
-    QVERIFY(menus.window().close()); // nothing is open: it does not ask
+    Program program;
+    program.newMenu(Line::TimerBar, "btnCancel");
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.menuCount(), 0);
+    QVERIFY(program.window().findChildren<TimerBarMenuFile *>().isEmpty());
+    QVERIFY(program.window().close()); // nothing is open: it does not ask
 }
 
 // The editor behind it is not shown yet: a dialog cannot be centred on it.
 void TestTimerBarMainWindow::configurationStandsOverTheMainWindow()
 {
-    TimerBarMenus menus;
-    ModalAnswers answers;
+    Program program;
     QPointer<QWidget> parent;
-    answers.onShown([&parent](const QDialog &dialog) { parent = dialog.parentWidget(); });
-    menus.newMenu(answers);
-    QCOMPARE(parent.data(), &menus.window());
+    program.answers().onShown([&parent](const QDialog &dialog) { parent = dialog.parentWidget(); });
+    program.newMenu(Line::TimerBar);
+    QCOMPARE(parent.data(), &program.window());
 }
 
 void TestTimerBarMainWindow::brokenFileOpensNothing_data()
@@ -74,95 +72,89 @@ void TestTimerBarMainWindow::brokenFileOpensNothing()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QString, message);
-    TimerBarMenus menus;
-    menus.folder().make(u"menu.cbr"_s, bytes);
-    ModalAnswers answers;
-    TimerBarMenus::expectOpenDialog(answers, menus.path(u"menu.cbr"_s));
-    answers.expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
-    menus.choose("actionOpen");
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(menus.menuCount(), 0);
-    QVERIFY(menus.window().findChildren<TimerBarMenuFile *>().isEmpty());
-    QCOMPARE(menus.folder().content(u"menu.cbr"_s), bytes);
+    Program program;
+    program.folder().make(u"menu.cbr"_s, bytes);
+    program.expectOpenDialog(u"menu.cbr"_s);
+    program.answers().expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
+    program.openNow();
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.menuCount(), 0);
+    QVERIFY(program.window().findChildren<TimerBarMenuFile *>().isEmpty());
+    QCOMPARE(program.content(u"menu.cbr"_s), bytes);
 }
 
 void TestTimerBarMainWindow::failedSaveUnderANewNameKeepsTheMenuOpen()
 {
-    TimerBarMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers);
-    const QString path = menus.path(u"later/menu.cbr"_s);
-    TimerBarMenus::expectSaveDialog(answers, path);
-    answers.expectBox(openFault(path), QMessageBox::Ok);
-    menus.choose("action_Save");
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(menus.menuCount(), 1);
-    QCOMPARE(menus.subWindow()->windowTitle(), u"Menu File - menu.cbr"_s);
-    QVERIFY(QDir().mkdir(menus.path(u"later"_s)));
-    menus.choose("action_Save"); // the name is the menu's: it does not ask again
-    QCOMPARE(menus.folder().content(u"later/menu.cbr"_s).size(), 67 + 33 * 39);
-    QVERIFY(menus.editor()->isMenuValid());
+    Program program;
+    program.newMenu(Line::TimerBar);
+    const QString path = program.path(u"later/menu.cbr"_s);
+    program.expectSaveDialog(Line::TimerBar, Asking::Save, path);
+    program.answers().expectBox(openFault(path), QMessageBox::Ok);
+    program.save();
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.menuCount(), 1);
+    QCOMPARE(program.subWindow()->windowTitle(), u"Menu File - menu.cbr"_s);
+    QVERIFY(QDir().mkdir(program.path(u"later"_s)));
+    program.save(); // the name is the menu's: it does not ask again
+    QCOMPARE(program.content(u"later/menu.cbr"_s).size(), 67 + 33 * 39);
+    QVERIFY(program.editor<TimerBarMenuFile>()->isMenuValid());
 }
 
 void TestTimerBarMainWindow::failedSaveAsKeepsTheMenuOpen()
 {
-    TimerBarMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"menu.cbr"_s, baconHamChili().bytes());
-    const QString path = menus.path(u"missing/other.cbr"_s);
-    answers.expectFileDialog(u"Save TimerBar Menu"_s, u"TimerBar Menu Files (*.cbr)"_s, path, u"menu.cbr"_s);
-    answers.expectBox(openFault(path), QMessageBox::Ok);
-    menus.choose("actionSaveAs");
-    QVERIFY(answers.allAnswered());
-    QCOMPARE(menus.menuCount(), 1);
-    QCOMPARE(menus.editor()->products().size(), 3);
-    QCOMPARE(menus.folder().content(u"menu.cbr"_s).toHex(' '), hex(baconHamChili()));
+    Program program;
+    program.open(u"menu.cbr"_s, baconHamChili().bytes());
+    const QString path = program.path(u"missing/other.cbr"_s);
+    program.expectSaveDialog(Line::TimerBar, Asking::SaveAs, path, u"menu.cbr"_s);
+    program.answers().expectBox(openFault(path), QMessageBox::Ok);
+    program.saveAs();
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.menuCount(), 1);
+    QCOMPARE(program.editor<TimerBarMenuFile>()->products().size(), 3);
+    QCOMPARE(program.content(u"menu.cbr"_s).toHex(' '), hex(baconHamChili()));
 }
 
 void TestTimerBarMainWindow::exitWithAFailedSaveGoesNoFurther()
 {
-    TimerBarMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"a.cbr"_s, baconHamChili().bytes());
-    menus.open(answers, u"b.cbr"_s, baconHamChili().bytes());
-    const QString path = menus.path(u"a.cbr"_s);
+    Program program;
+    program.open(u"a.cbr"_s, baconHamChili().bytes());
+    program.open(u"b.cbr"_s, baconHamChili().bytes());
+    const QString path = program.path(u"a.cbr"_s);
     QVERIFY(QFile::remove(path) && QDir().mkdir(path));
-    menus.folder().make(u"b.cbr"_s, {});
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    answers.expectBox(openFault(path), QMessageBox::Ok);
-    QVERIFY(!menus.window().close());
-    QVERIFY(menus.window().isVisible());
-    QCOMPARE(menus.menuCount(), 2);
-    QCOMPARE(menus.folder().content(u"b.cbr"_s), QByteArray());
+    program.folder().make(u"b.cbr"_s, {});
+    program.expectSaveQuestion(QMessageBox::Yes);
+    program.answers().expectBox(openFault(path), QMessageBox::Ok);
+    QVERIFY(!program.window().close());
+    QVERIFY(program.window().isVisible());
+    QCOMPARE(program.menuCount(), 2);
+    QCOMPARE(program.content(u"b.cbr"_s), QByteArray());
 }
 
 void TestTimerBarMainWindow::exitGoesOnAfterAFailedWriteToANewName()
 {
-    TimerBarMenus menus;
-    ModalAnswers answers;
-    menus.newMenu(answers);
-    menus.open(answers, u"b.cbr"_s, baconHamChili().bytes());
-    menus.folder().make(u"b.cbr"_s, {});
-    const QString path = menus.path(u"missing/menu.cbr"_s);
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    TimerBarMenus::expectSaveDialog(answers, path);
-    answers.expectBox(openFault(path), QMessageBox::Ok);
-    QVERIFY(menus.window().close());
-    QCOMPARE(menus.folder().content(u"b.cbr"_s).toHex(' '), hex(baconHamChili()));
+    Program program;
+    program.newMenu(Line::TimerBar);
+    program.open(u"b.cbr"_s, baconHamChili().bytes());
+    program.folder().make(u"b.cbr"_s, {});
+    const QString path = program.path(u"missing/menu.cbr"_s);
+    program.expectSaveQuestion(QMessageBox::Yes);
+    program.expectSaveDialog(Line::TimerBar, Asking::Save, path);
+    program.answers().expectBox(openFault(path), QMessageBox::Ok);
+    QVERIFY(program.window().close());
+    QCOMPARE(program.content(u"b.cbr"_s).toHex(' '), hex(baconHamChili()));
 }
 
 void TestTimerBarMainWindow::exitInRemovalModeRemovesNothing()
 {
     cbr::Menu menu = baconHamChili();
     menu.dayparts[0] = {0, 1, 2, 100};
-    TimerBarMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, u"menu.cbr"_s, menu.bytes());
-    enterRemovalMode(*menus.editor());
-    menus.folder().make(u"menu.cbr"_s, {});
-    answers.expectBox(ModalAnswers::saveQuestion(), QMessageBox::Yes);
-    QVERIFY(menus.window().close());
-    QCOMPARE(menus.folder().content(u"menu.cbr"_s).toHex(' '), hex(menu));
+    Program program;
+    program.open(u"menu.cbr"_s, menu.bytes());
+    enterRemovalMode(*program.editor<TimerBarMenuFile>());
+    program.folder().make(u"menu.cbr"_s, {});
+    program.expectSaveQuestion(QMessageBox::Yes);
+    QVERIFY(program.window().close());
+    QCOMPARE(program.content(u"menu.cbr"_s).toHex(' '), hex(menu));
 }
 
 QTEST_MAIN(TestTimerBarMainWindow)

@@ -45,7 +45,7 @@ ModalAnswers::Box limit()
 void TestTimerBarProducts::rowsAreNumberedAndKnowTheirIds()
 {
     OpenTimerBar editor({.products = cbr::manyProducts(100)});
-    const QStringList rows = rowsOf(editor);
+    const QStringList rows = ui::textsOf(editor.products());
     QCOMPARE(rows.size(), 100);
     QCOMPARE(rows[0], u"  1 Product number 0"_s);
     QCOMPARE(rows[8], u"  9 Product number 8"_s);
@@ -138,7 +138,7 @@ void TestTimerBarProducts::addedProductIsCurrent()
     OpenTimerBar editor(menu);
     ui::clickRow(editor.products(), 0);
     open(editor, "btnAddProduct", saveAsSoup);
-    QCOMPARE(rowsOf(editor).constLast(), u"  4 Soup"_s);
+    QCOMPARE(ui::textsOf(editor.products()).constLast(), u"  4 Soup"_s);
     QCOMPARE(editor.products().currentRow(), 3);
     QVERIFY(editor.products().item(3)->isSelected());
     QCOMPARE(editor.detail("Name"), u"Soup"_s);

@@ -70,10 +70,7 @@ void TestTimerBarConfig::formShowsItsTexts()
     TimerBarConfig dialog;
     ui::show(dialog);
     const auto &models = ui::get<QComboBox>(dialog, "comboUnitModel");
-    QStringList names;
-    for (int i = 0; i < models.count(); ++i)
-        names.append(models.itemText(i));
-    QCOMPARE(names, modelNames());
+    QCOMPARE(ui::textsOf(models), modelNames());
     QVERIFY(!models.isEditable());
     QCOMPARE(ui::get<QLabel>(dialog, "lblUnitModel").text(), u"Unit Model"_s);
     QCOMPARE(ui::get<QGroupBox>(dialog, "gbTempUnit").title(), u"Temperature Unit"_s);

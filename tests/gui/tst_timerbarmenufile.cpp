@@ -187,9 +187,9 @@ void TestTimerBarMenuFile::cancelledConfigurationMakesNoMenu()
 
 void TestTimerBarMenuFile::openedMenuIsShown()
 {
-    const samplefile::Folder folder;
+    const TestFolder folder;
     const cbr::Menu menu = cbr::manyInBins(u"KTR23"_s, 12, 1);
-    const QString path = folder.write(u"Lunch.v2.cbr"_s, menu.bytes());
+    const QString path = folder.make(u"Lunch.v2.cbr"_s, menu.bytes());
     TimerBarMenuFile editor(path);
     QVERIFY(editor.isMenuValid());
     QCOMPARE(editor.filePath(), path);
@@ -199,7 +199,7 @@ void TestTimerBarMenuFile::openedMenuIsShown()
     QCOMPARE(shownCabinet(editor), u"Cabinet: Timer Bar KTR23, °C"_s);
     QCOMPARE(editor.products().size(), 12);
     QVERIFY(editor.save());
-    QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(menu));
+    QCOMPARE(contentOf(path).toHex(' '), hex(menu));
 }
 
 void TestTimerBarMenuFile::saveWithoutAPathDoesNothing()

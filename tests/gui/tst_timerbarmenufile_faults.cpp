@@ -54,13 +54,13 @@ void TestTimerBarMenuFileFaults::readFaultsAreTold()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, message);
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.cbr"_s, bytes);
+    const TestFolder folder;
+    const QString path = folder.make(u"menu.cbr"_s, bytes);
     ModalAnswers answers;
     answers.expectBox(ModalAnswers::fileFault(message), QMessageBox::Ok);
     const TimerBarMenuFile editor(path);
     QVERIFY(!editor.isMenuValid());
-    QCOMPARE(samplefile::bytesOf(path), bytes);
+    QCOMPARE(contentOf(path), bytes);
 }
 
 void TestTimerBarMenuFileFaults::filesThatCannotBeOpened_data()
@@ -104,16 +104,16 @@ void TestTimerBarMenuFileFaults::unreadableFile()
 void TestTimerBarMenuFileFaults::writingTakesOverThePath()
 {
     OpenTimerBar editor(baconHamChili());
-    const samplefile::Folder folder;
+    const TestFolder folder;
     const QString path = folder.path(u"new.cbr"_s);
     QVERIFY(editor->writeMenuFile(path));
     QCOMPARE(editor->filePath(), path);
     QCOMPARE(editor->windowTitle(), u"Menu File - new.cbr"_s);
-    QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(baconHamChili()));
+    QCOMPARE(contentOf(path).toHex(' '), hex(baconHamChili()));
     // A longer file is truncated, not overwritten in part.
-    folder.write(u"new.cbr"_s, QByteArray(5000, 'x'));
+    folder.make(u"new.cbr"_s, QByteArray(5000, 'x'));
     QVERIFY(editor->save());
-    QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(baconHamChili()));
+    QCOMPARE(contentOf(path).toHex(' '), hex(baconHamChili()));
 }
 
 void TestTimerBarMenuFileFaults::targetsThatCannotBeOpened_data()

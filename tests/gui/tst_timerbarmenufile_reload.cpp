@@ -35,9 +35,7 @@ QString shownCabinet(const TimerBarMenuFile &editor)
 QStringList shown(const TimerBarMenuFile &editor)
 {
     QStringList texts{shownCabinet(editor), ui::get<QLabel>(editor, "txtName").text()};
-    const auto &list = ui::get<QListWidget>(editor, "listWidgetProducts");
-    for (int row = 0; row < list.count(); ++row)
-        texts.append(list.item(row)->text());
+    texts += ui::textsOf(ui::get<QListWidget>(editor, "listWidgetProducts"));
     for (const QPushButton *button : editor.findChildren<QPushButton *>()) {
         if (button->objectName().startsWith(u"btnDaypartSelect"_s) && !button->isHidden())
             texts.append(button->objectName() + u' ' + button->text());
@@ -57,32 +55,32 @@ cbr::Menu chiliAndSoup()
 
 void TestTimerBarMenuFileReload::readingAgainReplacesTheMenu()
 {
-    const samplefile::Folder folder;
-    const QString path = folder.write(u"menu.cbr"_s, cbr::manyInBins(u"KTR34"_s, 12, 1).bytes());
+    const TestFolder folder;
+    const QString path = folder.make(u"menu.cbr"_s, cbr::manyInBins(u"KTR34"_s, 12, 1).bytes());
     TimerBarMenuFile editor(path);
     QVERIFY(editor.readMenuFile());
     QVERIFY(editor.save());
-    QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(cbr::manyInBins(u"KTR34"_s, 12, 1)));
+    QCOMPARE(contentOf(path).toHex(' '), hex(cbr::manyInBins(u"KTR34"_s, 12, 1)));
     // A file need not name every day part; the missing one is empty then.
     cbr::Menu other = cbr::manyInBins(u"KTR24"_s, 3);
     QByteArray bytes = other.bytes();
     const qsizetype daypartSize = other.daypartRecord(0).size();
     bytes.replace(bytes.size() - daypartSize, daypartSize, other.daypartRecord(0));
-    folder.write(u"menu.cbr"_s, cbr::withChecksum(bytes));
+    folder.make(u"menu.cbr"_s, cbr::withChecksum(bytes));
     QVERIFY(editor.readMenuFile());
     QVERIFY(editor.save());
     other.dayparts[5] = {};
-    QCOMPARE(samplefile::bytesOf(path).toHex(' '), hex(other));
+    QCOMPARE(contentOf(path).toHex(' '), hex(other));
 }
 
 void TestTimerBarMenuFileReload::readingAgainShowsTheMenu()
 {
-    const samplefile::Folder folder;
-    TimerBarMenuFile editor(folder.write(u"menu.cbr"_s, baconHamChili().bytes()));
+    const TestFolder folder;
+    TimerBarMenuFile editor(folder.make(u"menu.cbr"_s, baconHamChili().bytes()));
     ui::show(editor);
     auto &list = ui::get<QListWidget>(editor, "listWidgetProducts");
     ui::clickRow(list, 2);
-    folder.write(u"menu.cbr"_s, chiliAndSoup().bytes());
+    folder.make(u"menu.cbr"_s, chiliAndSoup().bytes());
     QVERIFY(editor.readMenuFile());
     QVERIFY(editor.isMenuValid());
     QCOMPARE(
@@ -99,10 +97,10 @@ void TestTimerBarMenuFileReload::readingAgainShowsTheMenu()
 
 void TestTimerBarMenuFileReload::readingAgainEndsTheModes()
 {
-    const samplefile::Folder folder;
+    const TestFolder folder;
     cbr::Menu menu = baconHamChili();
     menu.dayparts[0] = {0};
-    TimerBarMenuFile editor(folder.write(u"menu.cbr"_s, menu.bytes()));
+    TimerBarMenuFile editor(folder.make(u"menu.cbr"_s, menu.bytes()));
     ui::show(editor);
     ui::click(editor, "btnSelectMultiProduct");
     ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(1);
@@ -162,16 +160,16 @@ void TestTimerBarMenuFileReload::errorsKeepTheMenu()
 
 void TestTimerBarMenuFileReload::laterReadMakesTheMenuValid()
 {
-    const samplefile::Folder folder;
-    TimerBarMenuFile editor(folder.write(u"menu.cbr"_s, baconHamChili().bytes()));
-    folder.write(u"menu.cbr"_s, "no menu");
+    const TestFolder folder;
+    TimerBarMenuFile editor(folder.make(u"menu.cbr"_s, baconHamChili().bytes()));
+    folder.make(u"menu.cbr"_s, "no menu");
     {
         ModalAnswers answers;
         answers.expectBox(ModalAnswers::fileFault(u"Invalid menu file CRC!"_s), QMessageBox::Ok);
         QVERIFY(!editor.readMenuFile());
     }
     QVERIFY(!editor.isMenuValid());
-    folder.write(u"menu.cbr"_s, chiliAndSoup().bytes());
+    folder.make(u"menu.cbr"_s, chiliAndSoup().bytes());
     QVERIFY(editor.readMenuFile());
     QVERIFY(editor.isMenuValid());
 }

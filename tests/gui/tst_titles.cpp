@@ -7,9 +7,10 @@
 #include <QTimer>
 
 #include "app/startup.h"
-#include "tests/gui/lanemenus.h"
 #include "tests/support/lanefile.h"
+#include "tests/support/program.h"
 #include "tests/support/warnings.h"
+#include "widgets/menueditor.h"
 
 using namespace Qt::StringLiterals;
 
@@ -73,14 +74,13 @@ void TestTitles::fileNamesStandAsTheyAre_data()
 void TestTitles::fileNamesStandAsTheyAre()
 {
     QFETCH(const QString, name);
-    LaneMenus menus;
-    ModalAnswers answers;
-    menus.open(answers, name, lanefile::text("T1=350,F1=1500"));
-    QVERIFY(menus.subWindow());
-    QCOMPARE(m_style->titleOf(*menus.subWindow()), u"Menu File - "_s + name);
+    Program program;
+    program.open(name, lanefile::text("T1=350,F1=1500"));
+    QVERIFY(program.subWindow());
+    QCOMPARE(m_style->titleOf(*program.subWindow()), u"Menu File - "_s + name);
     const QString other = u"svrxconfig_"_s + name;
-    QVERIFY(menus.editor()->writeToFile(menus.path(other)));
-    QCOMPARE(m_style->titleOf(*menus.subWindow()), u"Menu File - "_s + other);
+    QVERIFY(program.editor<MenuEditor>()->writeToFile(program.path(other)));
+    QCOMPARE(m_style->titleOf(*program.subWindow()), u"Menu File - "_s + other);
 }
 
 void TestTitles::programLaysThemOutPlainly()

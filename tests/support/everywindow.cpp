@@ -20,6 +20,7 @@
 #include "lanes/svrxmenufile.h"
 #include "tests/support/cbrbuilder.h"
 #include "tests/support/lanefile.h"
+#include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/windowmenu.h"
 #include "timerbar/timerbarconfig.h"
@@ -183,7 +184,7 @@ void addDialogRows()
 }
 
 OpenWindow::OpenWindow(const WindowKind &kind)
-    : m_editor(std::make_unique<MenuFile>(windowmenu::file(m_folder, u"sample.json"_s, kind.cabinet)))
+    : m_editor(std::make_unique<MenuFile>(m_folder.make(u"sample.json"_s, windowmenu::bytes(kind.cabinet))))
     , m_window(kind.make(*m_editor))
 {
     ui::show(*m_window);
@@ -193,9 +194,9 @@ OpenWindow::~OpenWindow() = default;
 
 QByteArray OpenWindow::menuBytes() const
 {
-    const QString path = m_folder.filePath(u"now.json"_s);
-    QByteArray bytes = m_editor->writeToFile(path) ? windowmenu::contentOf(path) : QByteArray();
+    const QString path = m_folder.path(u"now.json"_s);
+    QByteArray bytes = m_editor->writeToFile(path) ? contentOf(path) : QByteArray();
     for (auto *timerBar : m_editor->findChildren<TimerBarMenuFile *>())
-        bytes += timerBar->writeToFile(path) ? windowmenu::contentOf(path) : QByteArray();
+        bytes += timerBar->writeToFile(path) ? contentOf(path) : QByteArray();
     return bytes;
 }

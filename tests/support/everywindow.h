@@ -6,10 +6,10 @@
 #include <memory>
 #include <vector>
 
-#include <QTemporaryDir>
 #include <QWidget>
 
 #include "holding/cabinet.h"
+#include "tests/support/testfolder.h"
 
 class MenuFile;
 
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] QByteArray menuBytes() const;
 
 private:
-    QTemporaryDir m_folder;
+    TestFolder m_folder;
     std::unique_ptr<MenuFile> m_editor;
     std::unique_ptr<QWidget> m_window;
 };

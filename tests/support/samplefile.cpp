@@ -3,9 +3,9 @@
 
 #include "tests/support/samplefile.h"
 
-#include <QFile>
 #include <QJsonDocument>
-#include <QStringList>
+
+#include "tests/support/testfolder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -110,23 +110,9 @@ QByteArray Menu::bytes() const
     return QJsonDocument(root()).toJson();
 }
 
-QString Folder::write(const QString &fileName, const QByteArray &bytes) const
-{
-    QFile file(path(fileName));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("Cannot write %s", qPrintable(file.fileName()));
-    return file.fileName();
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QJsonObject menuOf(const QString &path)
 {
-    return QJsonDocument::fromJson(bytesOf(path)).object().value(u"menu"_s).toObject();
+    return QJsonDocument::fromJson(contentOf(path)).object().value(u"menu"_s).toObject();
 }
 
 QList<int> binsOf(const QJsonObject &menu, int daypart)

@@ -8,7 +8,6 @@
 #include <QJsonObject>
 #include <QList>
 #include <QString>
-#include <QTemporaryDir>
 
 /// Holding-cabinet menu files, written by the tests themselves rather than by the program. Everywhere
 /// `changes` replaces or adds keys of the object.
@@ -40,20 +39,6 @@ struct Menu
     [[nodiscard]] QByteArray bytes() const;
 };
 
-/// A folder of menu files that goes with the test.
-class Folder
-{
-public:
-    /// The path of a file of this name, whether it exists or not.
-    [[nodiscard]] QString path(const QString &fileName) const { return m_folder.filePath(fileName); }
-    /// Writes a file and returns its path.
-    QString write(const QString &fileName, const QByteArray &bytes) const;
-
-private:
-    QTemporaryDir m_folder;
-};
-
-[[nodiscard]] QByteArray bytesOf(const QString &path);
 /// The "menu" object of a written file.
 [[nodiscard]] QJsonObject menuOf(const QString &path);
 /// The ids in the bins of a day part, from the first bin on.

@@ -3,9 +3,6 @@
 
 #include "tests/support/windowmenu.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include "holding/menujson.h"
 #include "holding/newentries.h"
 
@@ -54,24 +51,9 @@ holding::Menu menu(const holding::CabinetConfiguration &configuration)
     return menu;
 }
 
-QString file(const QTemporaryDir &folder, const QString &name,
-             const holding::CabinetConfiguration &configuration)
+QByteArray bytes(const holding::CabinetConfiguration &configuration)
 {
-    const QString path = folder.filePath(name);
-    QFile file(path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(holding::writeMenu(menu(configuration))) > 0;
-    if (!written)
-        qFatal("The sample menu cannot be written to %s", qPrintable(path));
-    return path;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s cannot be read", qPrintable(path));
-    return file.readAll();
+    return holding::writeMenu(menu(configuration));
 }
 
 } // namespace windowmenu

@@ -8,8 +8,6 @@
 
 #include "holding/menu.h"
 
-class QTemporaryDir;
-
 /// A small but complete holding-cabinet menu: the default products, of which the first has a long name and a
 /// colour, a group of the first two with a long name, and three bins: the
 /// first product, the group, the third product.
@@ -23,9 +21,7 @@ extern const QString longName;
 
 [[nodiscard]] holding::Menu menu(const holding::CabinetConfiguration &configuration = fullCabinet());
 
-/// Writes the menu into the folder and returns its path.
-[[nodiscard]] QString file(const QTemporaryDir &folder, const QString &name,
-                           const holding::CabinetConfiguration &configuration = fullCabinet());
-[[nodiscard]] QByteArray contentOf(const QString &path);
+/// The file of the menu.
+[[nodiscard]] QByteArray bytes(const holding::CabinetConfiguration &configuration = fullCabinet());
 
 } // namespace windowmenu

@@ -23,5 +23,5 @@ public:
 /// The texts of a window that no catalogue changed, each with its place. What is data does not count: cabinet
 /// types and models, the product line's name, numbers, fractions, times, units and the given names.
 [[nodiscard]] QStringList untranslatedTexts(QWidget &window, const QStringList &names);
-/// Fails the test when there are any, on any page of the window.
+/// Ends the test program when there are any, on any page of the window.
 void checkTranslated(QWidget &window, const QStringList &names);

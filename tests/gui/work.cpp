@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tests/support/work.h"
+#include "tests/gui/work.h"
 
 #include <QComboBox>
-#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTimeEdit>
 
@@ -23,13 +20,14 @@
 #include "holding/newentries.h"
 #include "holding/productedit.h"
 #include "holding/timercolorpicker.h"
+#include "tests/support/require.h"
 #include "tests/support/windowmenu.h"
 
 using namespace Qt::StringLiterals;
 
 void Work::expectBox(QMessageBox::StandardButton press)
 {
-    m_answers.expect<QMessageBox>([this, press](QMessageBox &box) {
+    m_program.answers().expect<QMessageBox>([this, press](QMessageBox &box) {
         look(box);
         ui::click(*box.button(press));
     });
@@ -38,28 +36,28 @@ void Work::expectBox(QMessageBox::StandardButton press)
 // Of Qt's own dialog only what the program tells it.
 void Work::expectFile(const QString &path)
 {
-    m_answers.expect<QFileDialog>([this, path](QFileDialog &dialog) {
+    m_program.answers().expect<QFileDialog>([this, path](QFileDialog &dialog) {
         if (m_translated) {
-            QVERIFY(dialog.windowTitle().startsWith(PseudoTranslator::mark));
-            QVERIFY(dialog.nameFilters().constFirst().startsWith(PseudoTranslator::mark));
+            REQUIRE(dialog.windowTitle().startsWith(PseudoTranslator::mark));
+            REQUIRE(dialog.nameFilters().constFirst().startsWith(PseudoTranslator::mark));
         }
         ui::get<QLineEdit>(dialog, "fileNameEdit").setText(path);
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
 }
 
-QWidget &Work::editor() const
+QWidget &Work::editor()
 {
-    return *ui::get<QMdiArea>(m_window, "mdiArea").activeSubWindow();
+    return *m_program.area().activeSubWindow();
 }
 
 void Work::makeMenu()
 {
     expectDialog<AboutApp>([](AboutApp &box) { ui::click(box, "btnAccept"); });
-    ui::clickMenu(m_window, "menuHelp", "actionAbout");
+    ui::clickMenu(m_program.window(), "menuHelp", "actionAbout");
     expectDialog<SelectProductLine>([](SelectProductLine &dialog) { ui::click(dialog, "btnAccept"); });
     expectDialog<Configuration>([this](Configuration &dialog) { configure(dialog); });
-    ui::clickMenu(m_window, "menuFile", "actionNew");
+    m_program.choose("actionNew");
     look(editor());
 }
 
@@ -139,18 +137,18 @@ void Work::addGroup()
 
 void Work::saveNew()
 {
-    expectFile(m_folder.filePath(u"new.json"_s));
-    ui::clickMenu(m_window, "menuFile", "action_Save");
-    expectFile(m_folder.filePath(u"missing/new.json"_s));
+    expectFile(m_program.path(u"new.json"_s));
+    m_program.save();
+    expectFile(m_program.path(u"missing/new.json"_s));
     expectBox(QMessageBox::Ok);
-    ui::clickMenu(m_window, "menuFile", "actionSaveAs");
+    m_program.saveAs();
     look(editor());
 }
 
 void Work::openSample()
 {
-    expectFile(windowmenu::file(m_folder, u"sample.json"_s));
-    ui::clickMenu(m_window, "menuFile", "actionOpen");
+    expectFile(m_program.folder().make(u"sample.json"_s, windowmenu::bytes()));
+    m_program.choose("actionOpen");
 }
 
 // Takes a product out of all groups and bins that have it.
@@ -202,7 +200,7 @@ void Work::clearBins()
 {
     auto &bin = ui::get<QPushButton>(editor(), "btnDaypartSelect1_0");
     QTest::mousePress(&bin, Qt::LeftButton);
-    QTRY_VERIFY(bin.isCheckable());
+    REQUIRE_SOON(bin.isCheckable());
     QTest::mouseRelease(&bin, Qt::LeftButton);
     look(editor());
     ui::click(editor(), "btnDaypartRemove");
@@ -260,12 +258,8 @@ void Work::fillUp()
     holding::Menu full = windowmenu::menu();
     while (!full.isFull())
         full.products.push_back(holding::newProduct(full.nextFreeId(), 2));
-    const QString path = m_folder.filePath(u"full.json"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(holding::writeMenu(full)) > 0);
-    file.close();
-    expectFile(path);
-    ui::clickMenu(m_window, "menuFile", "actionOpen");
+    expectFile(m_program.folder().make(u"full.json"_s, holding::writeMenu(full)));
+    m_program.choose("actionOpen");
     expectBox(QMessageBox::Close);
     ui::click(editor(), "btnAddProduct");
     showTab(1);
@@ -278,7 +272,7 @@ void Work::leave()
     expectBox(QMessageBox::Cancel);
     QTest::keyClick(&ui::get<MenuFile>(editor(), "MenuFile"), Qt::Key_Escape);
     expectBox(QMessageBox::No);
-    QVERIFY(m_window.close());
+    REQUIRE(m_program.window().close());
 }
 
 QList<QByteArray> Work::run()
@@ -296,15 +290,14 @@ QList<QByteArray> Work::run()
     editProduct(1); // in the group alone
     editProduct(2); // in a bin alone
     editGroup();
-    ui::clickMenu(m_window, "menuFile", "action_Save");
-    const QByteArray edited = windowmenu::contentOf(m_folder.filePath(u"sample.json"_s));
+    m_program.save();
+    const QByteArray edited = m_program.content(u"sample.json"_s);
     deleteEntries("btnSelectMultiGroup", "btnDeleteGroup", "listWidgetGroups");
     showTab(0);
     deleteEntries("btnSelectMultiProduct", "btnDeleteProduct", "listWidgetProducts");
     changeModel();
-    ui::clickMenu(m_window, "menuFile", "action_Save");
+    m_program.save();
     fillUp();
     leave();
-    return {windowmenu::contentOf(m_folder.filePath(u"new.json"_s)), edited,
-            windowmenu::contentOf(m_folder.filePath(u"sample.json"_s))};
+    return {m_program.content(u"new.json"_s), edited, m_program.content(u"sample.json"_s)};
 }

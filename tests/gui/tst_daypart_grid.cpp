@@ -7,7 +7,7 @@
 using namespace Qt::StringLiterals;
 
 /// The grid of bins as each cabinet shows it.
-class TestBinGrid : public QObject
+class TestDaypartGrid : public QObject
 {
     Q_OBJECT
 
@@ -103,12 +103,12 @@ void addModels()
 
 } // namespace
 
-void TestBinGrid::models_data()
+void TestDaypartGrid::models_data()
 {
     addModels();
 }
 
-void TestBinGrid::models()
+void TestDaypartGrid::models()
 {
     QFETCH(QString, model);
     QFETCH(int, rows);
@@ -138,7 +138,7 @@ void TestBinGrid::models()
     }
 }
 
-void TestBinGrid::fullRows_data()
+void TestDaypartGrid::fullRows_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QList<int>>("ids");
@@ -162,7 +162,7 @@ void TestBinGrid::fullRows_data()
     QTest::newRow("KTR54, mixed") << u"KTR54"_s << QList<int>{2, 5, 4, 2} << QList<int>{112, 112, 230, 0};
 }
 
-void TestBinGrid::fullRows()
+void TestDaypartGrid::fullRows()
 {
     QFETCH(QString, model);
     QFETCH(QList<int>, ids);
@@ -177,14 +177,14 @@ void TestBinGrid::fullRows()
     QCOMPARE(editor.savedBins(0).first(ids.size()), ids);
 }
 
-void TestBinGrid::everyModelInEverySplit_data()
+void TestDaypartGrid::everyModelInEverySplit_data()
 {
     addModels();
 }
 
 // Each row of each cabinet in each split: the buttons stand side by side inside the zone, rows below one
 // another, the second zone beside the first with a gap that is wider than the one between bins.
-void TestBinGrid::everyModelInEverySplit()
+void TestDaypartGrid::everyModelInEverySplit()
 {
     QFETCH(QString, model);
     QFETCH(int, rows);
@@ -220,7 +220,7 @@ void TestBinGrid::everyModelInEverySplit()
 }
 
 // Whatever stands in a zone, its row is filled from edge to edge and the zone stays as wide as it was.
-void TestBinGrid::buttonsFillTheirZone()
+void TestDaypartGrid::buttonsFillTheirZone()
 {
     OpenBins editor(bins::menuOf(u"KTR54"_s, {2, 2, 2, 2, 4, 0, 4, 0, 2, 0, 0, 2}));
     OpenBins empty(bins::menuOf(u"KTR54"_s, {}));
@@ -238,7 +238,7 @@ void TestBinGrid::buttonsFillTheirZone()
     QCOMPARE(editor.widget("frameFirstZone").width(), editor.widget("frameSecondZone").width());
 }
 
-void TestBinGrid::nothingMovesTheBins_data()
+void TestDaypartGrid::nothingMovesTheBins_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QList<int>>("row");
@@ -254,7 +254,7 @@ void TestBinGrid::nothingMovesTheBins_data()
 }
 
 // The rows above and below stay where they are.
-void TestBinGrid::nothingMovesTheBins()
+void TestDaypartGrid::nothingMovesTheBins()
 {
     QFETCH(QString, model);
     QFETCH(QList<int>, row);
@@ -268,7 +268,7 @@ void TestBinGrid::nothingMovesTheBins()
     }
 }
 
-void TestBinGrid::assignedBinsNeverLookEmpty()
+void TestDaypartGrid::assignedBinsNeverLookEmpty()
 {
     samplefile::Menu menu = bins::menuOf(u"KTR22"_s, {2, 99, 6, 0});
     menu.products.append(samplefile::product(6, QString()));
@@ -279,7 +279,7 @@ void TestBinGrid::assignedBinsNeverLookEmpty()
     QCOMPARE(editor.button(1, 1).text(), QString());
 }
 
-void TestBinGrid::redrawRestoresEveryButton()
+void TestDaypartGrid::redrawRestoresEveryButton()
 {
     OpenBins editor(bins::menuOf(u"KTR33"_s, {4, 0, 0, 2, 0, 0, 3, 0, 1}, {1, 1, 1}));
     QCOMPARE(widthsInRow(editor, 0, 3), (QList<int>{394, 0, 0}));
@@ -298,7 +298,7 @@ void TestBinGrid::redrawRestoresEveryButton()
 }
 
 // For who cannot see where a button stands.
-void TestBinGrid::buttonsTellTheirBin()
+void TestDaypartGrid::buttonsTellTheirBin()
 {
     OpenBins editor(bins::menuOf(u"KTR54"_s, {2}));
     QSet<QString> names;
@@ -313,7 +313,7 @@ void TestBinGrid::buttonsTellTheirBin()
     QVERIFY(editor.button(0, 0).accessibleName().contains(u"Half"_s));
 }
 
-void TestBinGrid::namesAreElidedOnlyInPainting()
+void TestDaypartGrid::namesAreElidedOnlyInPainting()
 {
     const QString name = u"Grilled Chicken Breast Fillet with Mushrooms, Large"_s;
     samplefile::Menu menu = bins::menuOf(u"KTR54"_s, {8, 8, 2});
@@ -329,7 +329,7 @@ void TestBinGrid::namesAreElidedOnlyInPainting()
 }
 
 // An ampersand is a part of the name and makes no shortcut.
-void TestBinGrid::namesAreShownAsTheyAre()
+void TestDaypartGrid::namesAreShownAsTheyAre()
 {
     samplefile::Menu menu = bins::menuOf(u"KTR22"_s, {8, 9, 10});
     menu.products.append(samplefile::product(8, u"Fish&Fries"_s));
@@ -346,7 +346,7 @@ void TestBinGrid::namesAreShownAsTheyAre()
     QVERIFY(editor.button(0, 0).accessibleName().contains(u"Fish&Fries"_s));
 }
 
-void TestBinGrid::toolTips_data()
+void TestDaypartGrid::toolTips_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<int>("unit");
@@ -359,7 +359,7 @@ void TestBinGrid::toolTips_data()
         << u"ZPV23"_s << 0 << u"Ham & Eggs\nTemperature: 210°F\nHolding Time: 01:00:01"_s;
 }
 
-void TestBinGrid::toolTips()
+void TestDaypartGrid::toolTips()
 {
     QFETCH(QString, model);
     QFETCH(int, unit);
@@ -373,7 +373,7 @@ void TestBinGrid::toolTips()
     QVERIFY(editor.button(1, 0).toolTip().isEmpty());
 }
 
-void TestBinGrid::widthsThatEditorsTell()
+void TestDaypartGrid::widthsThatEditorsTell()
 {
     OpenBins editor(bins::menuOf(u"KTR33"_s, {}));
     QCOMPARE(editor->getDaypartButtonWidth(u"2/3"_s), 265);
@@ -383,5 +383,5 @@ void TestBinGrid::widthsThatEditorsTell()
         QCOMPARE(editor->calculateButtonWidth(size), 55);
 }
 
-QTEST_MAIN(TestBinGrid)
-#include "tst_bingrid.moc"
+QTEST_MAIN(TestDaypartGrid)
+#include "tst_daypart_grid.moc"

@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tests/support/pseudotranslation.h"
+#include "tests/gui/pseudotranslation.h"
 
 #include <QRegularExpression>
 #include <QTest>
 
+#include "tests/support/require.h"
 #include "tests/support/shownwidgets.h"
 
 using namespace Qt::StringLiterals;
@@ -45,6 +46,6 @@ void checkTranslated(QWidget &window, const QStringList &names)
 {
     shown::forEachPage(window, [&] {
         const QStringList texts = untranslatedTexts(window, names);
-        QVERIFY2(texts.isEmpty(), qPrintable(texts.join(u'\n')));
+        REQUIRE(texts.isEmpty(), texts.join(u'\n'));
     });
 }

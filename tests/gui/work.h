@@ -9,11 +9,9 @@
 #include <QListWidget>
 #include <QStringList>
 #include <QTabWidget>
-#include <QTemporaryDir>
 
-#include "app/mainwindow.h"
-#include "tests/support/modalanswers.h"
-#include "tests/support/pseudotranslation.h"
+#include "tests/gui/pseudotranslation.h"
+#include "tests/support/program.h"
 #include "tests/support/uidriver.h"
 
 class Configuration;
@@ -27,8 +25,7 @@ public:
         : m_translated(translated)
         , m_names(names)
     {
-        ui::show(m_window);
-        look(m_window);
+        look(m_program.window());
     }
 
     /// The files that were saved.
@@ -62,21 +59,19 @@ private:
     void fillUp();
     void leave();
 
-    [[nodiscard]] QWidget &editor() const;
-    [[nodiscard]] QListWidget &list(const char *name) const { return ui::get<QListWidget>(editor(), name); }
-    void showTab(int index) const { ui::get<QTabWidget>(editor(), "tabWidget").setCurrentIndex(index); }
+    [[nodiscard]] QWidget &editor();
+    [[nodiscard]] QListWidget &list(const char *name) { return ui::get<QListWidget>(editor(), name); }
+    void showTab(int index) { ui::get<QTabWidget>(editor(), "tabWidget").setCurrentIndex(index); }
 
     bool m_translated;
     QStringList m_names;
-    QTemporaryDir m_folder;
-    MainWindow m_window;
-    ModalAnswers m_answers;
+    Program m_program;
 };
 
 template <typename Dialog>
 void Work::expectDialog(std::function<void(Dialog &)> act)
 {
-    m_answers.expect<Dialog>([this, act = std::move(act)](Dialog &dialog) {
+    m_program.answers().expect<Dialog>([this, act = std::move(act)](Dialog &dialog) {
         look(dialog);
         act(dialog);
     });
