@@ -4,6 +4,7 @@
 #pragma once
 
 #include "holding/menu.h"
+#include "holding/newentries.h"
 
 /// A name that differs from language to language.
 inline QStringList translatedNames(const QString &name)

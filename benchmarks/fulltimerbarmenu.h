@@ -4,6 +4,7 @@
 #pragma once
 
 #include "timerbar/menu.h"
+#include "timerbar/newentries.h"
 
 /// A Timer Bar menu as large as the editor lets one become: 100 products with the longest names, on the
 /// cabinet with the most bins, all of them taken in every day part.

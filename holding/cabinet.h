@@ -90,7 +90,7 @@ inline constexpr auto allModels = std::to_array<CabinetModel>({
     {QLatin1StringView("ZPV"), QLatin1StringView("ZPV23"), {2, 3, 1, false}},
 });
 
-/// The largest row count and row of all models: what a day part has room for.
+/// The rows of a day part and the places in each: as many as the largest model needs.
 inline constexpr int maxRows = 8;
 inline constexpr int maxSlots = 4;
 

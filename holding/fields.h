@@ -19,7 +19,7 @@ struct StoredField
 {
     QLatin1StringView key;
     void (*read)(const QJsonValue &value, ProductInfo &entry) = nullptr;
-    /// What the configuration switches off is written as 0.
+    /// What the configuration switches off is written as 0 of products, and as it is stored of groups.
     QJsonValue (*write)(const ProductInfo &entry, const CabinetConfiguration &configuration) = nullptr;
 };
 

@@ -27,9 +27,10 @@ public:
     [[nodiscard]] const HoldingSettings &settings() const { return m_settings; }
 
     [[nodiscard]] bool fits(const ProductInfo &product) const;
-    /// Appends a product that fits; one that is a member already changes nothing.
+    /// Appends a product that fits, unless it is a member already. The only member fixes the settings.
     void add(const ProductInfo &product);
-    /// The default stays the same product; where that one goes, the next member takes its place.
+    /// The default stays the same product; where that one goes, the next member takes its place. Call
+    /// settleDefault() afterwards, as the last member has none behind it.
     void remove(int position);
 
     void setDefault(int position) { m_defaultPosition = position; }

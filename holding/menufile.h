@@ -24,7 +24,8 @@ class MenuFile;
 
 /// The editor of one holding-cabinet menu. It owns the menu: configuration, products, groups and day parts.
 ///
-/// Rules and file format are in the core; the slots delegate. Dialogs read the getters while they are built.
+/// Rules and file format are in the core; the slots delegate. Dialogs read the configuration and
+/// the lists while they are built.
 class MenuFile final : public MenuEditor
 {
     Q_OBJECT

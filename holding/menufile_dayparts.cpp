@@ -45,19 +45,26 @@ constexpr std::array gridButtons{
 #undef GRID_BUTTON
 };
 
-constexpr bool hasButtonForEachBin(const holding::CabinetModel &model)
+constexpr bool hasOneButton(const holding::CabinetShape &shape, Bin bin)
 {
-    int bins = 0;
-    for (int zone = 0; zone < model.shape.zones; ++zone)
-        bins += model.shape.rows * model.shape.zone(zone).count;
-    return bins == std::count_if(gridButtons.begin(), gridButtons.end(),
-                                 [&](const GridButton &button) { return button.isIn(model.shape); });
+    return std::count_if(gridButtons.begin(), gridButtons.end(), [&](const GridButton &each) {
+               return each.isIn(shape) && each.binIn(shape) == bin;
+           }) == 1;
 }
 
-static_assert(std::all_of(holding::allModels.begin(), holding::allModels.end(), hasButtonForEachBin),
-              "the grid lacks buttons for the bins of some model");
+constexpr bool hasItsButtons(const holding::CabinetModel &model)
+{
+    for (int row = 0; row < model.shape.rows; ++row) {
+        for (int slot = 0; slot < model.shape.binsPerRow(); ++slot) {
+            if (model.shape.hasBin({row, slot}) && !hasOneButton(model.shape, {row, slot}))
+                return false;
+        }
+    }
+    return true;
+}
 
-constexpr int binGap = 2; // in the form; 265 and 127 leave no more in the only zone
+static_assert(std::all_of(holding::allModels.begin(), holding::allModels.end(), hasItsButtons),
+              "a model has a bin without a button, or with two, in holding/binbuttons.h");
 
 // A bin whose entry is missing or has no name is no empty bin; its id is all there is to show.
 QString binText(const holding::SlotContent &content, int id)
@@ -162,7 +169,7 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
     const holding::RowContent content = holding::rowContent(m_menu, daypart, row);
     holding::RowLook looks = holding::rowLook(m_shape, content);
     for (int zone = 0; zone < m_shape.zones; ++zone)
-        holding::fitIntoZone(looks, m_shape.zone(zone), holding::zoneWidth(m_shape, zone), binGap);
+        holding::fitIntoZone(looks, m_shape.zone(zone), holding::zoneWidth(m_shape, zone));
     for (int slot = 0; slot < looks.size(); ++slot) {
         const Bin bin{row, slot};
         QPushButton *button = m_grid.button(bin);

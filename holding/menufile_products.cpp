@@ -62,7 +62,7 @@ void MenuFile::on_btnEditProduct_clicked()
     const holding::HoldingSettings before = holding::holdingSettings(*product, getFanSpeedEnabled());
     if (ProductEdit(*product, m_products.currentRow(), this).exec() != Accepted)
         return;
-    // Whoever held the product was chosen by these settings.
+    // Groups and bins were chosen to suit these settings.
     const bool changed = holding::holdingSettings(*product, getFanSpeedEnabled()) != before;
     const bool leftGroups = changed && removeIdFromAllGroups(product->get_productId());
     const bool leftDayparts = changed && removeIdFromAllDayparts(product->get_productId());

@@ -3,6 +3,8 @@
 
 #include "holding/menujson.h"
 
+#include <array>
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
@@ -43,31 +45,41 @@ void readIfPresent(const QJsonValue &value, int &field)
         field = intFromJson(value);
 }
 
+struct Switch
+{
+    QLatin1StringView key;
+    bool CabinetConfiguration::*isEnabled;
+};
+
+constexpr auto switches = std::to_array<Switch>({
+    {"fanSpeedEnabled"_L1, &CabinetConfiguration::fanSpeedEnabled},
+    {"resetTimeEnabled"_L1, &CabinetConfiguration::resetTimeEnabled},
+    {"timerColorEnabled"_L1, &CabinetConfiguration::timerColorEnabled},
+    {"prodcutIdEnabled"_L1, &CabinetConfiguration::productIdEnabled},
+});
+
 void readHeader(const QJsonObject &header, CabinetConfiguration &configuration)
 {
     readIfPresent(header.value("cabinetModel"_L1), configuration.model);
     readIfPresent(header.value("cabinetType"_L1), configuration.type);
     readIfPresent(header.value("temperatureUnit"_L1), configuration.temperatureUnit);
-    readIfPresent(header.value("fanSpeedEnabled"_L1), configuration.fanSpeedEnabled);
-    readIfPresent(header.value("resetTimeEnabled"_L1), configuration.resetTimeEnabled);
-    readIfPresent(header.value("timerColorEnabled"_L1), configuration.timerColorEnabled);
-    readIfPresent(header.value("prodcutIdEnabled"_L1), configuration.productIdEnabled);
+    for (const Switch &each : switches)
+        readIfPresent(header.value(each.key), configuration.*each.isEnabled);
 }
 
 QJsonObject writeHeader(const CabinetConfiguration &configuration)
 {
-    return {
+    QJsonObject header{
         {"Note"_L1, fixedNote},
         {"menuVersion"_L1, fixedVersion},
         {"menuDescription"_L1, fixedDescription},
         {"cabinetType"_L1, configuration.type},
         {"cabinetModel"_L1, configuration.model},
         {"temperatureUnit"_L1, configuration.temperatureUnit},
-        {"fanSpeedEnabled"_L1, configuration.fanSpeedEnabled},
-        {"resetTimeEnabled"_L1, configuration.resetTimeEnabled},
-        {"timerColorEnabled"_L1, configuration.timerColorEnabled},
-        {"prodcutIdEnabled"_L1, configuration.productIdEnabled},
     };
+    for (const Switch &each : switches)
+        header.insert(each.key, configuration.*each.isEnabled);
+    return header;
 }
 
 std::unique_ptr<ProductInfo> readProduct(const QJsonObject &json)

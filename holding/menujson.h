@@ -30,7 +30,8 @@ using AskConfiguration = std::function<bool(CabinetConfiguration &)>;
 /// stay as they are. Returns an empty text or the message of an error.
 [[nodiscard]] QString readDefaultMenu(int binsPerZone, Menu &menu);
 
-/// The document of a menu, indented by four spaces. What the configuration switches off is written as 0.
+/// The document of a menu, indented by four spaces. Of products, what the
+/// configuration switches off is written as 0.
 [[nodiscard]] QByteArray writeMenu(const Menu &menu);
 
 } // namespace holding

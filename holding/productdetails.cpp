@@ -23,15 +23,21 @@ ProductDetails::ProductDetails(QWidget *parent)
 {
     m_ui->setupUi(this);
     for (const holding::ProductField &field : holding::productFields()) {
-        const QLatin1StringView name = field.detail.name;
-        if (!name.isEmpty())
-            m_rows.append(
-                {&field.detail, findChild<QLabel *>("lbl"_L1 + name), findChild<QLabel *>("txt"_L1 + name)});
+        if (!field.detail.name.isEmpty())
+            m_rows.append({&field.detail, &label("lbl"_L1, field.detail), &label("txt"_L1, field.detail)});
     }
     reserveRoom();
 }
 
 ProductDetails::~ProductDetails() = default;
+
+QLabel &ProductDetails::label(QLatin1StringView prefix, const holding::FieldDetail &detail)
+{
+    auto *found = findChild<QLabel *>(prefix + detail.name);
+    if (!found)
+        qFatal("The form of the details lacks %s%s", prefix.data(), detail.name.data());
+    return *found;
+}
 
 // The editor's size is fixed, whatever it shows later: room for the sample's text, in any font.
 void ProductDetails::reserveRoom()

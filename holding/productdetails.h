@@ -41,6 +41,7 @@ private:
         QLabel *value;
     };
 
+    [[nodiscard]] QLabel &label(QLatin1StringView prefix, const holding::FieldDetail &detail);
     void reserveRoom();
     void showTimerColor(const ProductInfo *entry);
 

@@ -3,8 +3,6 @@
 
 #include "holding/productedit.h"
 
-#include <algorithm>
-
 #include "holding/menufile.h"
 #include "holding/productrules.h"
 #include "holding/producttypes.h"
@@ -155,14 +153,10 @@ void ProductEdit::on_btnSave_clicked()
     accept();
 }
 
-// A menu's hundredth entry and products of a file may have an id outside the box's range: as long as the box
-// shows what it made of that id, it stands for the id itself.
 int ProductEdit::enteredId() const
 {
     const QSpinBox *box = m_ui->numProductId;
-    const int ownId = m_product.get_productId();
-    const bool showsOwnId = box->value() == std::clamp(ownId, box->minimum(), box->maximum());
-    return showsOwnId ? ownId : box->value();
+    return holding::enteredId(box->value(), box->minimum(), box->maximum(), m_product.get_productId());
 }
 
 QString ProductEdit::firstFault() const
@@ -182,7 +176,7 @@ void ProductEdit::writeRecord()
     const int unit = m_configuration.temperatureUnit;
     const int upperTemp = enteredTemperature(m_ui->numTemp1->value(), m_product.get_upperTemp(), unit);
     const int lowerTemp = enteredTemperature(m_ui->numTemp2->value(), m_product.get_lowerTemp(), unit);
-    const bool oneTemperature = m_ui->frameTemp2->isHidden();
+    const bool oneTemperature = holding::isZpv(m_configuration.type);
     m_product.set_productName(sameNameInAllLanguages(m_ui->txtName->text()));
     m_product.set_upperTemp(upperTemp);
     m_product.set_lowerTemp(oneTemperature ? upperTemp : lowerTemp);

@@ -3,6 +3,8 @@
 
 #include "holding/productrules.h"
 
+#include <algorithm>
+
 namespace holding {
 
 TemperatureRange productTemperatureRange(int unit, int storedFahrenheit)
@@ -10,6 +12,11 @@ TemperatureRange productTemperatureRange(int unit, int storedFahrenheit)
     if (unit == unitCelsius)
         return {storedFahrenheit == 0 ? 0 : 32, 107};
     return {90, 225};
+}
+
+int enteredId(int boxValue, int lowest, int highest, int ownId)
+{
+    return boxValue == std::clamp(ownId, lowest, highest) ? ownId : boxValue;
 }
 
 bool isIdTaken(const QList<ProductInfo *> &products, int ownIndex, int id)

@@ -15,6 +15,10 @@ namespace holding {
 /// Celsius the range then begins at 0, so that opening and saving does not make up a temperature.
 [[nodiscard]] TemperatureRange productTemperatureRange(int unit, int storedFahrenheit);
 
+/// The id that a box stands for. A menu's hundredth entry and products of a file may have an id outside the
+/// box's range: as long as the box shows what it made of that id, it stands for the id itself.
+[[nodiscard]] int enteredId(int boxValue, int lowest, int highest, int ownId);
+
 /// Whether another product has this id. `ownIndex` is the product's place among the menu's products; for a
 /// new one any place that no product has.
 [[nodiscard]] bool isIdTaken(const QList<ProductInfo *> &products, int ownIndex, int id);

@@ -3,6 +3,8 @@
 
 #include "holding/producttypes.h"
 
+#include <array>
+
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,44 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(ProductTypes)
 };
 
+/// A word that menus store and the text that stands for it, still to be translated.
+struct Type
+{
+    QLatin1StringView word;
+    const char *text;
+};
+
+constexpr auto lids = std::to_array<Type>({
+    {"None"_L1, QT_TRANSLATE_NOOP("ProductTypes", "None")},
+    {"Solid"_L1, QT_TRANSLATE_NOOP("ProductTypes", "Solid")},
+    {"Vented"_L1, QT_TRANSLATE_NOOP("ProductTypes", "Vented")},
+});
+constexpr int noLid = 0;
+
+constexpr auto bottoms = std::to_array<Type>({
+    {"False"_L1, QT_TRANSLATE_NOOP("ProductTypes", "False")},
+    {"Normal"_L1, QT_TRANSLATE_NOOP("ProductTypes", "Normal")},
+});
+constexpr int normalBottom = 1;
+
+template <typename Types>
+QStringList wordsOf(const Types &types)
+{
+    QStringList words;
+    for (const Type &type : types)
+        words.append(type.word);
+    return words;
+}
+
+template <typename Types>
+QStringList textsOf(const Types &types)
+{
+    QStringList texts;
+    for (const Type &type : types)
+        texts.append(Text::tr(type.text));
+    return texts;
+}
+
 int indexIn(const QStringList &words, const QString &word, int fallback)
 {
     const auto index = words.indexOf(word);
@@ -26,18 +66,18 @@ int indexIn(const QStringList &words, const QString &word, int fallback)
 
 const QStringList &lidTypes()
 {
-    static const QStringList words{u"None"_s, u"Solid"_s, u"Vented"_s};
+    static const QStringList words = wordsOf(lids);
     return words;
 }
 
 QStringList lidTexts()
 {
-    return {Text::tr("None"), Text::tr("Solid"), Text::tr("Vented")};
+    return textsOf(lids);
 }
 
 int lidIndex(const QString &lidType)
 {
-    return indexIn(lidTypes(), lidType, 0);
+    return indexIn(lidTypes(), lidType, noLid);
 }
 
 QString lidText(const QString &lidType)
@@ -47,18 +87,18 @@ QString lidText(const QString &lidType)
 
 const QStringList &bottomTypes()
 {
-    static const QStringList words{u"False"_s, u"Normal"_s};
+    static const QStringList words = wordsOf(bottoms);
     return words;
 }
 
 QStringList bottomTexts()
 {
-    return {Text::tr("False"), Text::tr("Normal")};
+    return textsOf(bottoms);
 }
 
 int bottomIndex(const QString &bottomType)
 {
-    return indexIn(bottomTypes(), bottomType, 1);
+    return indexIn(bottomTypes(), bottomType, normalBottom);
 }
 
 QString bottomText(const QString &bottomType)

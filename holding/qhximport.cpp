@@ -75,7 +75,7 @@ std::optional<Record> recordAt(const QByteArray &bytes, qint64 offset, qsizetype
     return Record(QByteArrayView(bytes).sliced(offset, size));
 }
 
-// Newer programs wrote UTF-8, older ones the Latin-1 of their day.
+// Newer programs wrote UTF-8, older ones Latin-1.
 QString decodeName(QByteArrayView name)
 {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
@@ -212,7 +212,16 @@ QString readDayparts(const QByteArray &bytes, qint64 offset, Menu &menu)
         for (int bin = 0; bin < bins; ++bin)
             daypart.bins[placeOfFileBin(shape, bin)] = record->i32(2 + 4 * bin);
     }
+    menu.daypartCount = importedDayparts;
     return {};
+}
+
+void copyBins(const Daypart &source, const CabinetShape &shape, Daypart &target)
+{
+    for (int row = 0; row < shape.rows; ++row) {
+        for (int slot = 0; slot < shape.binsPerRow(); ++slot)
+            target.bins[Bin{row, slot}] = source.bins[Bin{row, slot}];
+    }
 }
 
 } // namespace
@@ -249,8 +258,11 @@ void addImportedMenu(Menu &&imported, Menu &menu)
     menu.configuration.temperatureUnit = imported.configuration.temperatureUnit;
     std::move(imported.products.begin(), imported.products.end(), std::back_inserter(menu.products));
     std::move(imported.groups.begin(), imported.groups.end(), std::back_inserter(menu.groups));
-    menu.dayparts = imported.dayparts;
-    menu.daypartCount = imported.daypartCount;
+    menu.daypartCount = importedDayparts;
+    for (int i = 0; i < importedDayparts; ++i) {
+        menu.dayparts[i].inUse = true;
+        copyBins(imported.dayparts[i], imported.shape(), menu.dayparts[i]);
+    }
 }
 
 } // namespace holding

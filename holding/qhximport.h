@@ -18,8 +18,9 @@ namespace holding {
 /// `menu` then holds what was read before it.
 [[nodiscard]] QString importQhxMenu(const QByteArray &bytes, Menu &menu);
 
-/// Makes an imported menu part of another one: its entries come behind those that are there, its cabinet and
-/// its day parts replace the others. The four switches of `menu` stay.
+/// Makes an imported menu part of another one: its entries come behind those that are there, and its cabinet
+/// replaces the other one. The two day parts keep their names, are in use and hold the imported bins; later
+/// ones go. The four switches of `menu` stay.
 void addImportedMenu(Menu &&imported, Menu &menu);
 
 } // namespace holding

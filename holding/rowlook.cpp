@@ -11,6 +11,7 @@ namespace holding {
 
 namespace {
 
+// A zone of more bins than these have room for is as wide as its bins when all are empty.
 constexpr int onlyZoneWidth = 394;
 constexpr int besideZoneWidth = 340;
 constexpr int oneBinZoneWidth = 177;
@@ -65,16 +66,18 @@ RowLook rowLook(const CabinetShape &shape, const RowContent &row)
 
 int zoneWidth(const CabinetShape &shape, int zone)
 {
-    if (shape.zones != 2)
-        return onlyZoneWidth;
-    return zone > 0 && shape.singleBinSecondZone ? oneBinZoneWidth : besideZoneWidth;
+    if (zone > 0 && shape.singleBinSecondZone)
+        return oneBinZoneWidth;
+    const int bins = shape.binsPerZone;
+    const int emptyBins = bins * emptyBinButtonWidth + (bins - 1) * binGap;
+    return std::max(zone > 0 || shape.zones == 2 ? besideZoneWidth : onlyZoneWidth, emptyBins);
 }
 
-void fitIntoZone(RowLook &looks, const Zone &zone, int zoneWidth, int gap)
+void fitIntoZone(RowLook &looks, const Zone &zone, int zoneWidth)
 {
-    int excess = -gap - zoneWidth;
+    int excess = -binGap - zoneWidth;
     for (int slot = zone.first; slot < zone.end(); ++slot)
-        excess += looks[slot].visible ? looks[slot].minimumWidth + gap : 0;
+        excess += looks[slot].visible ? looks[slot].minimumWidth + binGap : 0;
     for (int slot = zone.end() - 1; slot >= zone.first && excess > 0; --slot) {
         BinLook &look = looks[slot];
         const int cut = look.visible ? std::min(excess, look.minimumWidth - emptyBinButtonWidth) : 0;

@@ -8,6 +8,9 @@
 /// How a row of the grid looks with what stands in its bins. All widths are in pixels.
 namespace holding {
 
+/// Between two bins of a zone; in the form too. 265 and 127 leave no more in the only zone.
+inline constexpr int binGap = 2;
+
 /// How a bin's button shows.
 struct BinLook
 {
@@ -26,7 +29,7 @@ using RowLook = FixedList<BinLook, maxSlots>;
 [[nodiscard]] int zoneWidth(const CabinetShape &shape, int zone);
 
 /// What a file holds, or another cabinet left, may ask for more than a zone has: the last bins then give way,
-/// down to the width of an empty one; `gap` lies between two bins.
-void fitIntoZone(RowLook &looks, const Zone &zone, int zoneWidth, int gap);
+/// down to the width of an empty one.
+void fitIntoZone(RowLook &looks, const Zone &zone, int zoneWidth);
 
 } // namespace holding

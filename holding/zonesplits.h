@@ -20,7 +20,7 @@ struct ZoneSplit
 {
     int binsPerZone = 0;
     QLatin1StringView text; ///< as entries store it
-    int slotsNeeded = 0; ///< from the entry's own bin on; a half of three bins needs the room of two halves
+    int slotsNeeded = 0;    ///< from the entry's own bin on; halves of three bins need all three
     /// The least width of the button in pixels, where a row has one zone and where it has two.
     int width = emptyBinButtonWidth;
     int widthBesideZone = emptyBinButtonWidth;

@@ -3,6 +3,8 @@
 
 #include "timerbar/bins.h"
 
+#include <array>
+
 #include <QCoreApplication>
 
 namespace timerbar {
@@ -14,12 +16,24 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(TimerBarMenuFile)
 };
 
+constexpr auto names = std::to_array<const char *>({
+    QT_TRANSLATE_NOOP("TimerBarMenuFile", "Breakfast"),
+    QT_TRANSLATE_NOOP("TimerBarMenuFile", "ChangeOver 1"),
+    QT_TRANSLATE_NOOP("TimerBarMenuFile", "Lunch"),
+    QT_TRANSLATE_NOOP("TimerBarMenuFile", "ChangeOver 2"),
+    QT_TRANSLATE_NOOP("TimerBarMenuFile", "Dinner"),
+    QT_TRANSLATE_NOOP("TimerBarMenuFile", "ChangeOver 3"),
+});
+static_assert(names.size() == daypartCount, "each day part has its name");
+
 } // namespace
 
 QStringList daypartNames()
 {
-    return {Text::tr("Breakfast"),    Text::tr("ChangeOver 1"), Text::tr("Lunch"),
-            Text::tr("ChangeOver 2"), Text::tr("Dinner"),       Text::tr("ChangeOver 3")};
+    QStringList translated;
+    for (const char *name : names)
+        translated.append(Text::tr(name));
+    return translated;
 }
 
 ReferenceTemperatures neighbourTemperatures(const Menu &menu, int daypart, Bin bin)
@@ -29,9 +43,14 @@ ReferenceTemperatures neighbourTemperatures(const Menu &menu, int daypart, Bin b
         const int id = menu.dayparts[daypart][bin.row][other];
         const ProductInfo *product = other == bin.slot || id == emptyCell ? nullptr : menu.product(id);
         if (product)
-            return {product->get_upperTemp(), product->get_lowerTemp()};
+            return temperaturesOf(*product);
     }
     return {};
+}
+
+ReferenceTemperatures temperaturesOf(const ProductInfo &product)
+{
+    return {product.get_upperTemp(), product.get_lowerTemp()};
 }
 
 bool fitsNeighbour(const ProductInfo &product, const ReferenceTemperatures &reference)

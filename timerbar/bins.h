@@ -24,6 +24,9 @@ struct ReferenceTemperatures
 /// The temperatures of the product in the other bin of the same pair.
 [[nodiscard]] ReferenceTemperatures neighbourTemperatures(const Menu &menu, int daypart, Bin bin);
 
+/// What a product demands of its neighbour; where that changes it can stay in no bin.
+[[nodiscard]] ReferenceTemperatures temperaturesOf(const ProductInfo &product);
+
 /// Whether a product may stand beside one with these temperatures. The upper one only says that there is a
 /// neighbour: both of the product's temperatures are compared with the lower one.
 [[nodiscard]] bool fitsNeighbour(const ProductInfo &product, const ReferenceTemperatures &reference);

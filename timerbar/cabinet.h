@@ -23,7 +23,10 @@ struct CabinetShape
     [[nodiscard]] constexpr bool isKnown() const { return rows > 0; }
     [[nodiscard]] constexpr int columns() const { return 2 * columnLayout - (threeColumns ? 1 : 0); }
     [[nodiscard]] constexpr int bins() const { return rows * columns(); }
-    [[nodiscard]] constexpr bool hasBin(Bin bin) const { return bin.row < rows && bin.slot < columns(); }
+    [[nodiscard]] constexpr bool hasBin(Bin bin) const
+    {
+        return bin.row >= 0 && bin.row < rows && bin.slot >= 0 && bin.slot < columns();
+    }
 
     friend constexpr bool operator==(const CabinetShape &, const CabinetShape &) = default;
 };

@@ -46,8 +46,4 @@ struct Menu
     bool removeFromDayparts(int id);
 };
 
-/// A new product, and a copy of one under another id.
-[[nodiscard]] std::unique_ptr<ProductInfo> newProduct(int id);
-[[nodiscard]] std::unique_ptr<ProductInfo> duplicateOf(const ProductInfo &source, int id);
-
 } // namespace timerbar

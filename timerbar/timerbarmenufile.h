@@ -44,6 +44,7 @@ public:
     [[nodiscard]] QList<ProductInfo *> products() const;
 
 public slots:
+    // Forwarded, as they belong to the slots that callers find by name.
     void closeEvent(QCloseEvent *event) override;
     void reject() override;
     /// Reads the file again and shows it. After an error, which has been shown, the menu is as it was, and

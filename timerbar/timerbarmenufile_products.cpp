@@ -9,6 +9,8 @@
 #include <QMessageBox>
 #include <QSignalBlocker>
 
+#include "timerbar/bins.h"
+#include "timerbar/newentries.h"
 #include "timerbar/timerbarproductedit.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/messages.h"
@@ -86,11 +88,10 @@ void TimerBarMenuFile::on_btnEditProduct_clicked()
     ProductInfo *product = currentProduct();
     if (!product || m_products.isMultiSelecting())
         return;
-    const int upperTemp = product->get_upperTemp();
-    const int lowerTemp = product->get_lowerTemp();
+    const timerbar::ReferenceTemperatures before = timerbar::temperaturesOf(*product);
     if (TimerBarProductEdit(*product, this).exec() != Accepted)
         return;
-    const bool changed = product->get_upperTemp() != upperTemp || product->get_lowerTemp() != lowerTemp;
+    const bool changed = timerbar::temperaturesOf(*product) != before;
     const bool leftDayparts = changed && removeIdFromAllDayparts(product->get_productId());
     loadProducts();
     loadProductInfo();

@@ -26,19 +26,17 @@ TimerBarProductDetails::~TimerBarProductDetails() = default;
 
 void TimerBarProductDetails::showProduct(const ProductInfo *product, int temperatureUnit)
 {
-    if (!product) {
-        for (QLabel *value :
-             std::initializer_list<QLabel *>{m_ui->txtName, m_ui->txtShortName, m_ui->txtTempUpper,
-                                             m_ui->txtTempLower, m_ui->txtHoldTime, m_ui->txtWarningTime})
-            value->clear();
-        return;
-    }
-    m_ui->txtName->setText(shownName(product->get_productName()));
-    m_ui->txtShortName->setText(product->get_productShortName());
-    m_ui->txtTempUpper->setText(temperatureText(product->get_upperTemp(), temperatureUnit));
-    m_ui->txtTempLower->setText(temperatureText(product->get_lowerTemp(), temperatureUnit));
-    m_ui->txtHoldTime->setText(timeText(product->get_holdTime(), hoursAndMinutes));
-    m_ui->txtWarningTime->setText(timeText(product->get_warningTime(), hoursAndMinutes));
+    const auto show = [product](QLabel *label, const auto &textOf) {
+        label->setText(product ? textOf(*product) : QString());
+    };
+    const auto time = [](int seconds) { return timeText(seconds, hoursAndMinutes); };
+    const auto temperature = [=](int fahrenheit) { return temperatureText(fahrenheit, temperatureUnit); };
+    show(m_ui->txtName, [](const ProductInfo &shown) { return shownName(shown.get_productName()); });
+    show(m_ui->txtShortName, [](const ProductInfo &shown) { return shown.get_productShortName(); });
+    show(m_ui->txtTempUpper, [&](const ProductInfo &shown) { return temperature(shown.get_upperTemp()); });
+    show(m_ui->txtTempLower, [&](const ProductInfo &shown) { return temperature(shown.get_lowerTemp()); });
+    show(m_ui->txtHoldTime, [&](const ProductInfo &shown) { return time(shown.get_holdTime()); });
+    show(m_ui->txtWarningTime, [&](const ProductInfo &shown) { return time(shown.get_warningTime()); });
 }
 
 void TimerBarProductDetails::setShortNameLabel(const QString &label)

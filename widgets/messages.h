@@ -8,12 +8,12 @@
 
 class QWidget;
 
-/// The message boxes of the program. Each waits until the user has answered it. A fault is told apart by
+/// The message boxes of the program. Each waits until the user has answered it. An error is told apart by
 /// where it comes from: a file's box has no parent and says "Error" as its text, a dialog's box says it in
 /// its title.
 namespace messages {
 
-/// A fault in reading or writing a file.
+/// An error in reading or writing a file.
 void fileFault(const QString &message);
 
 /// What is wrong with the entries of a dialog.

@@ -8,6 +8,12 @@
 
 #include "model/times.h"
 
+namespace {
+
+constexpr int secondsOfDay = 24 * 60 * 60;
+
+} // namespace
+
 TimeEntry::TimeEntry(QTimeEdit *edit)
     : m_edit(edit)
 {
@@ -26,5 +32,6 @@ void TimeEntry::show(int storedSeconds)
 
 int TimeEntry::seconds() const
 {
-    return m_edited ? secondsOf(m_edit->time()) : m_storedSeconds;
+    const bool storedStands = !m_edited && m_storedSeconds >= secondsOfDay;
+    return storedStands ? m_storedSeconds : secondsOf(m_edit->time());
 }

@@ -9,9 +9,9 @@ class QTimeEdit;
 
 /// A stored time in a box for a time of day.
 ///
-/// A file can hold times that no day has; the box shows such a time wrapped into a day. The stored seconds
+/// A file can hold times of a day and more; the box shows such a time wrapped into a day. The stored seconds
 /// stand until somebody edits the box, so that a save does not shorten them unseen. Once it is edited, also
-/// when the same digits are typed again, what the box shows counts.
+/// when the same digits are typed again, what the box shows counts. Of a time below zero it always does.
 class TimeEntry final : public QObject
 {
     Q_OBJECT

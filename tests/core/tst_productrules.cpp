@@ -17,6 +17,8 @@ private slots:
     void init() { failOnWarnings(); }
     void temperatures_data();
     void temperatures();
+    void enteredIds_data();
+    void enteredIds();
     void idTaken_data();
     void idTaken();
 };
@@ -42,6 +44,26 @@ void TestProductRules::temperatures()
     const TemperatureRange range = productTemperatureRange(unit, stored);
     QTEST(range.lowest, "lowest");
     QTEST(range.highest, "highest");
+}
+
+void TestProductRules::enteredIds_data()
+{
+    QTest::addColumn<int>("box");
+    QTest::addColumn<int>("own");
+    QTest::addColumn<int>("entered");
+    QTest::newRow("its own") << 7 << 7 << 7;
+    QTest::newRow("another one") << 8 << 7 << 8;
+    QTest::newRow("own beyond the box") << 99 << 150 << 150;
+    QTest::newRow("own below the box") << 1 << -3 << -3;
+    QTest::newRow("another one, own beyond the box") << 98 << 150 << 98;
+    QTest::newRow("the highest") << 99 << 5 << 99;
+}
+
+void TestProductRules::enteredIds()
+{
+    QFETCH(int, box);
+    QFETCH(int, own);
+    QTEST(enteredId(box, 1, 99, own), "entered");
 }
 
 void TestProductRules::idTaken_data()

@@ -28,6 +28,7 @@ private slots:
     void everyRowFitsItsZones_data() { binrows::addModels(); }
     void everyRowFitsItsZones();
     void whatFitsStaysAsItIs();
+    void hiddenZonesHaveAWidth();
 };
 
 void TestRowLook::buttonWidths_data()
@@ -200,7 +201,7 @@ void TestRowLook::everyRowFitsItsZones()
             const Zone zone = shape.zoneOfSlot(int(layout.indexOf(name)));
             const int width = zone.count == 1 ? 177 : shape.zones == 2 ? 340 : 394;
             QCOMPARE(zoneWidth(shape, name == u'a' ? 0 : 1), width);
-            fitIntoZone(looks, zone, width, gap);
+            fitIntoZone(looks, zone, width);
             QVERIFY2(totalWidth(looks, zone, gap) == std::min(width, totalWidth(before, zone, gap)),
                      qPrintable(fill));
         }
@@ -220,12 +221,22 @@ void TestRowLook::whatFitsStaysAsItIs()
         for (const QString &fill : fills) {
             auto looks = rowLook(shape, entries.row(fill));
             const auto before = looks;
-            fitIntoZone(looks, shape.zoneOfSlot(0), 394, 2);
+            fitIntoZone(looks, shape.zoneOfSlot(0), 394);
             QVERIFY2(looks == before, qPrintable(fill));
         }
     };
     check(u"KTR33", {u"T.3."_s, u"3T.."_s, u"333."_s, u"22.."_s, u"2..."_s, u"1..."_s});
     check(u"KTR22", {u"1..."_s, u"22.."_s, u".2.."_s});
+}
+
+void TestRowLook::hiddenZonesHaveAWidth()
+{
+    for (const CabinetShape &shape :
+         {CabinetShape{}, cabinetShape(u"QHX"_s, u"KTR22"_s), cabinetShape(u"QHX"_s, u"KTR33"_s)}) {
+        QCOMPARE(zoneWidth(shape, 0), 394);
+        QCOMPARE(zoneWidth(shape, 1), 340);
+    }
+    QCOMPARE(zoneWidth({2, 5, 1, false}, 0), 5 * 112 + 4 * 2);
 }
 
 QTEST_APPLESS_MAIN(TestRowLook)

@@ -5,6 +5,7 @@
 
 #include "tests/support/warnings.h"
 #include "timerbar/bins.h"
+#include "timerbar/newentries.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,6 +7,7 @@
 #include "tests/support/warnings.h"
 #include "timerbar/defaultproducts.h"
 #include "timerbar/menu.h"
+#include "timerbar/newentries.h"
 
 using namespace Qt::StringLiterals;
 

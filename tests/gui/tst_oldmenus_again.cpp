@@ -55,7 +55,17 @@ void TestOldMenusAgain::entriesAreAddedAndShown()
     QVERIFY(editor.importQhxMenuFile(folder.path(u"old.qhx"_s)));
     QCOMPARE(namesIn(editor), (QStringList{u"  1 Bacon"_s, u"  2 Ham"_s}));
     QCOMPARE(editor.getCabinetType(), u"QHX"_s);
-    QCOMPARE(ui::get<QComboBox>(editor, "comboDaypartSelect").count(), 2);
+    QCOMPARE(ui::textsOf(ui::get<QComboBox>(editor, "comboDaypartSelect")),
+             (QStringList{u"Morning"_s, u"LUNCH/DINNER"_s}));
+    QVERIFY(editor.writeToFile(folder.path(u"saved.json"_s)));
+    const QJsonObject saved = samplefile::menuOf(folder.path(u"saved.json"_s));
+    MenuFile alone(folder.path(u"old.qhx"_s));
+    QVERIFY(alone.writeToFile(folder.path(u"alone.json"_s)));
+    const QJsonObject imported = samplefile::menuOf(folder.path(u"alone.json"_s));
+    for (int daypart = 0; daypart < 2; ++daypart) {
+        QVERIFY(saved.value(u"layout"_s).toArray().at(daypart).toObject().value(u"inUse"_s).toBool());
+        QCOMPARE(samplefile::binsOf(saved, daypart), samplefile::binsOf(imported, daypart));
+    }
 }
 
 void TestOldMenusAgain::errorChangesNothing_data()

@@ -42,7 +42,11 @@ void TestProductEditTimes::storedTimeStands_data()
     QTest::newRow("more than a day") << u"holdingTime"_s << day + 3600 << QByteArray("timeHoldTime")
                                      << QTime(1, 0) << tooLong;
     QTest::newRow("below zero") << u"holdingTime"_s << -60 << QByteArray("timeHoldTime") << QTime(23, 59)
-                                << u"Invalid hold time. Minimum value is 6 minutes!"_s;
+                                << tooLong;
+    QTest::newRow("alert below zero")
+        << u"warningTime"_s << -60 << QByteArray("timeWarningTime") << QTime(23, 59) << alert;
+    QTest::newRow("reset below zero")
+        << u"resetTime"_s << -60 << QByteArray("timeResetTime") << QTime(23, 59) << u"Invalid reset time!"_s;
     QTest::newRow("alert") << u"warningTime"_s << day + 60 << QByteArray("timeWarningTime") << QTime(0, 1)
                            << alert;
     QTest::newRow("reset") << u"resetTime"_s << day + 60 << QByteArray("timeResetTime") << QTime(0, 1)
