@@ -8,12 +8,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QTemporaryFile>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr qint64 largestFile = 64LL * 1024 * 1024;
 
 fs::file_type fileType(const QString &path)
 {
@@ -42,6 +43,22 @@ Replaced replaceWhole(const QString &path, const QByteArray &bytes)
     // Only now a nameless temporary file gets a name and the old file's place. Either may be refused: the
     // name is too long, or the folder is sticky and the file someone else's.
     return file.commit() ? Replaced::Yes : Replaced::NotPossible;
+}
+
+// A file that is replaced belongs to whoever replaces it and loses its other names. Where that would lock
+// others out of a shared file, or split it, its content alone is exchanged. A new file beside it tells whose
+// it would be.
+bool canBeReplaced(const QString &path)
+{
+    const QFileInfo old(QFileInfo(path).canonicalFilePath());
+    std::error_code error;
+    if (fs::hard_link_count(old.filesystemFilePath(), error) != 1 || error)
+        return false;
+    QTemporaryFile probe(old.path() + u"/XXXXXX"_s);
+    if (!probe.open())
+        return false;
+    const QFileInfo replacement(probe.fileName());
+    return replacement.ownerId() == old.ownerId() && replacement.groupId() == old.groupId();
 }
 
 bool writeDevice(const QString &path, const QByteArray &bytes)
@@ -105,11 +122,13 @@ bool isWritableTarget(const QString &path)
 
 bool writeFile(const QString &path, const QByteArray &bytes)
 {
+    if (bytes.size() > largestFile)
+        return false;
     switch (fileType(path)) {
     case fs::file_type::not_found:
         return replaceWhole(path, bytes) == Replaced::Yes;
     case fs::file_type::regular: {
-        const Replaced replaced = replaceWhole(path, bytes);
+        const Replaced replaced = canBeReplaced(path) ? replaceWhole(path, bytes) : Replaced::NotPossible;
         return replaced == Replaced::Yes ||
                (replaced == Replaced::NotPossible && overwriteOrRestore(path, bytes));
     }

@@ -45,6 +45,7 @@ private slots:
     void unwritableFolder();
     void stickyFolder();
     void readOnlyFile();
+    void whatCannotBeReadIsNotWritten();
 
 private:
     std::unique_ptr<TestFolder> m_folder;
@@ -218,6 +219,17 @@ void TestWriteFile::readOnlyFile()
     QVERIFY(ordinary);
     QVERIFY(!written);
     QCOMPARE(m_folder->content(u"a.json"_s), "old");
+}
+
+void TestWriteFile::whatCannotBeReadIsNotWritten()
+{
+    m_folder->make(u"a.json"_s, "old");
+    const QByteArray largest(largestFile, 'x');
+    QVERIFY(!writeFile(m_folder->path(u"a.json"_s), largest + 'x'));
+    QCOMPARE(m_folder->content(u"a.json"_s), "old");
+    QVERIFY(writeFile(m_folder->path(u"a.json"_s), largest));
+    QVERIFY(readFile(m_folder->path(u"a.json"_s)) == largest);
+    QCOMPARE(m_folder->names(), QStringList{u"a.json"_s});
 }
 
 QTEST_APPLESS_MAIN(TestWriteFile)
