@@ -3,6 +3,8 @@
 
 #include "app/startup.h"
 
+#include <csignal>
+
 #include <QApplication>
 #include <QTranslator>
 
@@ -22,11 +24,21 @@ void layOutTitlesPlainly()
     QApplication::setFont(font, titleBar);
 }
 
+// A limit on the size of files would end the program, and with it every open menu, instead of failing the
+// write.
+void surviveFileSizeLimit()
+{
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
+}
+
 } // namespace
 
 void prepareApplication()
 {
     layOutTitlesPlainly();
+    surviveFileSizeLimit();
 }
 
 int runProgram(const QStringList &uiLanguages)

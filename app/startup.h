@@ -5,8 +5,9 @@
 
 #include <QStringList>
 
-/// Sets what holds for the whole application: how the titles of sub-windows are laid out. To be called before
-/// the first window is made.
+/// Sets what holds for the whole application: how the titles of sub-windows are laid out, and that a write
+/// beyond a file size limit fails instead of ending the program. To be called before the first window is
+/// made.
 void prepareApplication();
 
 /// Runs the program once there is an application object: translated into the first of the user's languages
