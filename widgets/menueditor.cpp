@@ -3,6 +3,7 @@
 
 #include "widgets/menueditor.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QMdiSubWindow>
@@ -47,8 +48,24 @@ void MenuEditor::showTitle(const QString &fileName)
     setWindowTitle(tr("Menu File - %1").arg(QString(fileName).replace("[*]"_L1, "[*][*]"_L1)));
 }
 
+namespace {
+
+// Dialogs and boxes run on the stack, some of them as children of the editor. While one is open only a
+// program can close an editor, and would take it away under them.
+bool isUnderDialog(const QWidget *editor)
+{
+    const QWidget *modal = QApplication::activeModalWidget();
+    return modal && modal != editor && !modal->isAncestorOf(editor);
+}
+
+} // namespace
+
 void MenuEditor::closeEvent(QCloseEvent *event)
 {
+    if (isUnderDialog(this)) {
+        event->ignore();
+        return;
+    }
     const QMessageBox::StandardButton answer = messages::askSaveChanges();
     if (answer == QMessageBox::Yes && !m_filePath.isEmpty()) {
         save(); // a failure has been shown; the user asked to close all the same

@@ -56,7 +56,8 @@ protected:
     /// Shows a name in the title; empty for a new menu.
     void showTitle(const QString &fileName);
 
-    /// Asks whether to save first. The editor schedules its own deletion, except after a save in place.
+    /// Asks whether to save first; ignored while a modal dialog is open. The editor schedules its own
+    /// deletion, except after a save in place.
     void closeEvent(QCloseEvent *event) override;
     /// What closing writes under the name that it asked for.
     virtual bool writeOnClosing(const QString &path);
