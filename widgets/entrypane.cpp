@@ -39,12 +39,12 @@ void EntryPane::updateButtons()
     const bool single = m_row >= 0 && !m_multiSelection->isActive();
     m_parts.edit->setEnabled(single);
     m_parts.duplicate->setEnabled(single);
-    m_parts.remove->setEnabled(!rowsToDelete().isEmpty());
+    m_parts.remove->setEnabled(single || m_multiSelection->isAnyChecked());
 }
 
 void EntryPane::followSelection()
 {
-    const bool chosen = m_multiSelection->isActive() || !m_parts.list->selectedItems().isEmpty();
+    const bool chosen = m_multiSelection->isActive() || m_parts.list->selectionModel()->hasSelection();
     m_row = chosen ? m_parts.list->currentRow() : -1;
 }
 

@@ -6,8 +6,27 @@
 #include <algorithm>
 
 #include <QAbstractButton>
+#include <QItemSelection>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QSignalBlocker>
+
+namespace {
+
+// Rows that follow each other are one range: selecting rows one by one takes longer with every row that is
+// selected already.
+QItemSelection rangesOf(const QAbstractItemModel &model, const QList<int> &rows)
+{
+    QItemSelection ranges;
+    for (qsizetype first = 0, last = 0; first < rows.size(); first = ++last) {
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1)
+            ++last;
+        ranges.append(QItemSelectionRange(model.index(rows[first], 0), model.index(rows[last], 0)));
+    }
+    return ranges;
+}
+
+} // namespace
 
 MultiSelection::MultiSelection(QListWidget *list, QAbstractButton *button)
     : QObject(list)
@@ -15,16 +34,22 @@ MultiSelection::MultiSelection(QListWidget *list, QAbstractButton *button)
     , m_button(button)
 {
     list->installEventFilter(this);
-    connect(list, &QListWidget::itemSelectionChanged, this, &MultiSelection::checkSelected);
+    connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection &selected, const QItemSelection &deselected) {
+                check(selected, Qt::Checked);
+                check(deselected, Qt::Unchecked);
+            });
     connect(list, &QListWidget::itemChanged, this, [this](QListWidgetItem *item) {
-        if (m_active)
-            item->setSelected(item->checkState() == Qt::Checked);
+        const bool checked = item->checkState() == Qt::Checked;
+        if (m_active && item->isSelected() != checked)
+            item->setSelected(checked);
     });
 }
 
 void MultiSelection::setActive(bool active)
 {
     m_active = false; // the clean-up below is no choice of the user's
+    const QSignalBlocker blocker(m_list);
     m_list->clearSelection();
     m_list->setCurrentRow(-1, QItemSelectionModel::NoUpdate);
     m_list->setSelectionMode(active ? QAbstractItemView::MultiSelection : QAbstractItemView::SingleSelection);
@@ -33,6 +58,11 @@ void MultiSelection::setActive(bool active)
         m_list->item(row)->setData(Qt::CheckStateRole, {});
     m_active = active;
     restoreChecks({});
+}
+
+bool MultiSelection::isAnyChecked() const
+{
+    return m_active && m_list->selectionModel()->hasSelection();
 }
 
 QList<int> MultiSelection::checkedRows() const
@@ -49,24 +79,24 @@ void MultiSelection::restoreChecks(const QList<int> &rows)
 {
     if (!m_active)
         return;
+    const QSignalBlocker blocker(m_list);
     for (int row = 0; row < m_list->count(); ++row) {
         QListWidgetItem *item = m_list->item(row);
         const bool checked = std::binary_search(rows.begin(), rows.end(), row);
         // The view alone toggles a row: were the box checkable by itself, a click on it would count twice.
         item->setFlags(item->flags() & ~Qt::ItemIsUserCheckable);
         item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
-        item->setSelected(checked);
     }
+    m_list->selectionModel()->select(rangesOf(*m_list->model(), rows), QItemSelectionModel::ClearAndSelect);
 }
 
-void MultiSelection::checkSelected()
+void MultiSelection::check(const QItemSelection &rows, Qt::CheckState state)
 {
     if (!m_active)
         return;
-    for (int row = 0; row < m_list->count(); ++row) {
-        QListWidgetItem *item = m_list->item(row);
-        item->setCheckState(item->isSelected() ? Qt::Checked : Qt::Unchecked);
-    }
+    const QModelIndexList indexes = rows.indexes();
+    for (const QModelIndex &index : indexes)
+        m_list->item(index.row())->setCheckState(state);
 }
 
 // Left to itself the view also searches for what is typed, a blank included, and toggles the row it finds.

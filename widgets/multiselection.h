@@ -7,6 +7,7 @@
 #include <QObject>
 
 class QAbstractButton;
+class QItemSelection;
 class QListWidget;
 
 /// The multiple-selection mode of one list, switched by a button whose text it keeps.
@@ -24,6 +25,8 @@ public:
     /// Enters or leaves the mode; both clear the selection, the check marks and the current row.
     void setActive(bool active);
 
+    /// Told without looking at the rows; false outside the mode.
+    [[nodiscard]] bool isAnyChecked() const;
     /// The checked rows in ascending order; none outside the mode.
     [[nodiscard]] QList<int> checkedRows() const;
     /// Gives the rows of a refilled list their check boxes, with these rows, in ascending order, checked.
@@ -34,7 +37,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void checkSelected();
+    void check(const QItemSelection &rows, Qt::CheckState state);
 
     QListWidget *m_list;
     QAbstractButton *m_button;
