@@ -46,7 +46,8 @@ void AssignDaypartItem::loadProducts()
     for (const ProductInfo *entry : std::as_const(m_entries)) {
         const bool fits =
             holding::fitsBin(*entry, m_limits, m_allowedZoneSplits, m_configuration.fanSpeedEnabled);
-        numberedrows::appendToPick(list, shownName(entry->get_productName()), fits);
+        QListWidgetItem *item = numberedrows::appendToPick(list, shownName(entry->get_productName()), fits);
+        item->setData(numberedrows::idRole, entry->get_productId());
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include "holding/menufile.h"
 #include "holding/producttypes.h"
+#include "model/entries.h"
 #include "ui_groupedit.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
@@ -19,8 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The product's id lies on the role of a list item's picture, where no picture is.
-constexpr int idRole = Qt::DecorationRole;
 // A member's position in the group, which differs from its row where members before it are not listed.
 constexpr int positionRole = Qt::UserRole;
 
@@ -32,7 +31,7 @@ int positionOf(const QListWidgetItem *item)
 void appendMember(QListWidget *list, const ProductInfo &member, int position)
 {
     QListWidgetItem *item = numberedrows::append(list, position + 1, shownName(member.get_productName()));
-    item->setData(idRole, member.get_productId());
+    item->setData(numberedrows::idRole, member.get_productId());
     item->setData(positionRole, position);
     item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
     numberedrows::colourFitting(item, position);
@@ -46,6 +45,7 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     , m_group(group)
     , m_configuration(menuFile->configuration())
     , m_products(menuFile->getMenuProducts())
+    , m_productsById(indexById(m_products))
     , m_draft(group, m_configuration)
 {
     m_ui->setupUi(this);
@@ -81,14 +81,6 @@ void GroupEdit::applyConfiguration()
     m_ui->txtFanSpeed->setVisible(m_configuration.fanSpeedEnabled);
 }
 
-const ProductInfo *GroupEdit::product(int id) const
-{
-    const auto found = std::find_if(m_products.begin(), m_products.end(), [id](const ProductInfo *candidate) {
-        return candidate->get_productId() == id;
-    });
-    return found == m_products.end() ? nullptr : *found;
-}
-
 void GroupEdit::loadProducts()
 {
     QListWidget *list = m_ui->listWidgetProducts;
@@ -96,7 +88,7 @@ void GroupEdit::loadProducts()
     for (const ProductInfo *candidate : std::as_const(m_products)) {
         QListWidgetItem *item = numberedrows::appendToPick(list, shownName(candidate->get_productName()),
                                                            m_draft.fits(*candidate));
-        item->setData(idRole, candidate->get_productId());
+        item->setData(numberedrows::idRole, candidate->get_productId());
     }
 }
 
@@ -107,7 +99,7 @@ void GroupEdit::loadGroupProducts()
     list->clear();
     QList<int> listedPositions;
     for (int position = 0; position < m_draft.members().size(); ++position) {
-        const ProductInfo *member = product(m_draft.members()[position]);
+        const ProductInfo *member = m_productsById.value(m_draft.members()[position]);
         if (!member)
             continue;
         appendMember(list, *member, position);

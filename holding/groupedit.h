@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include <QHash>
 #include <QList>
 
 #include "holding/groupdraft.h"
@@ -45,7 +46,6 @@ public slots:
 
 private:
     void applyConfiguration();
-    [[nodiscard]] const ProductInfo *product(int id) const;
     void checkDefaultOnly();
     void showSummary();
 
@@ -53,5 +53,6 @@ private:
     ProductInfo &m_group;
     const holding::CabinetConfiguration m_configuration;
     const QList<ProductInfo *> m_products; ///< the menu's, in its order
+    const QHash<int, ProductInfo *> m_productsById;
     holding::GroupDraft m_draft;
 };

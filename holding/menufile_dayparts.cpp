@@ -14,6 +14,7 @@
 #include "holding/rowlook.h"
 #include "model/times.h"
 #include "ui_menufile.h"
+#include "widgets/longtext.h"
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
 
@@ -66,23 +67,42 @@ constexpr bool hasItsButtons(const holding::CabinetModel &model)
 static_assert(std::all_of(holding::allModels.begin(), holding::allModels.end(), hasItsButtons),
               "a model has a bin without a button, or with two, in holding/binbuttons.h");
 
-// A bin whose entry is missing or has no name is no empty bin; its id is all there is to show.
-QString binText(const holding::SlotContent &content, int id)
+/// What a bin tells of the entry in it.
+struct BinLabel
 {
+    QString name;
+    QString remark; ///< why the name is an id
+};
+
+// A bin whose entry is missing or has no name is no empty bin; its id is all there is to show.
+BinLabel binLabel(const holding::SlotContent &content, int id)
+{
+    if (!content.filled)
+        return {};
     const QString name = content.entry ? shownName(content.entry->get_productName()) : QString();
-    return content.filled && name.isEmpty() ? MenuFile::tr("Id %1").arg(id) : name;
+    if (!name.isEmpty())
+        return {name, {}};
+    return {MenuFile::tr("Id %1").arg(id),
+            content.entry ? MenuFile::tr("no name") : MenuFile::tr("not in this menu")};
 }
 
-QString binToolTip(const ProductInfo *entry, const holding::CabinetConfiguration &configuration)
+QString settingsText(const ProductInfo &entry, const holding::CabinetConfiguration &configuration)
 {
-    if (!entry)
-        return {};
     const int unit = configuration.temperatureUnit;
-    QString temperatures = temperatureText(entry->get_upperTemp(), unit);
+    QString temperatures = temperatureText(entry.get_upperTemp(), unit);
     if (!holding::isZpv(configuration.type))
-        temperatures += u" / "_s + temperatureText(entry->get_lowerTemp(), unit);
-    return MenuFile::tr("%1\nTemperature: %2\nHolding Time: %3")
-        .arg(shownName(entry->get_productName()), temperatures, timeText(entry->get_holdTime()));
+        temperatures += u" / "_s + temperatureText(entry.get_lowerTemp(), unit);
+    return MenuFile::tr("Temperature: %1\nHolding Time: %2")
+        .arg(temperatures, timeText(entry.get_holdTime()));
+}
+
+QString binToolTip(const BinLabel &label, const ProductInfo *entry,
+                   const holding::CabinetConfiguration &configuration)
+{
+    QString text = beginningOf(label.name);
+    if (!label.remark.isEmpty())
+        text = MenuFile::tr("%1: %2").arg(text, label.remark);
+    return entry ? text + u'\n' + settingsText(*entry, configuration) : text;
 }
 
 } // namespace
@@ -144,7 +164,7 @@ void MenuFile::loadDaypartSelector()
     const QSignalBlocker blocker(m_ui->comboDaypartSelect);
     m_ui->comboDaypartSelect->clear();
     for (int i = 0; i < m_menu.daypartCount; ++i)
-        m_ui->comboDaypartSelect->addItem(shownName(m_menu.dayparts[i].names));
+        m_ui->comboDaypartSelect->addItem(beginningOf(shownName(m_menu.dayparts[i].names)));
     m_ui->btnDeleteDaypart->setEnabled(m_menu.daypartCount > 1);
 }
 
@@ -176,8 +196,9 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
         if (!button)
             continue;
         button->setMinimumWidth(looks[slot].minimumWidth);
-        m_grid.showContent(bin, binText(content[slot], daypart.bins[bin]));
-        button->setToolTip(asPlainText(binToolTip(content[slot].entry, m_menu.configuration)));
+        const BinLabel label = binLabel(content[slot], daypart.bins[bin]);
+        m_grid.showContent(bin, label.name, label.remark);
+        button->setToolTip(asPlainText(binToolTip(label, content[slot].entry, m_menu.configuration)));
         button->setVisible(looks[slot].visible);
     }
 }
@@ -259,7 +280,7 @@ void MenuFile::on_btnEditDaypart_clicked()
         return;
     daypart->names = dialog.names();
     m_ui->comboDaypartSelect->setItemText(m_ui->comboDaypartSelect->currentIndex(),
-                                          shownName(daypart->names));
+                                          beginningOf(shownName(daypart->names)));
     loadCurrentDaypart();
 }
 

@@ -3,12 +3,33 @@
 
 #include "holding/menufile.h"
 
+#include <QListWidget>
+
 #include "holding/groupedit.h"
 #include "holding/newentries.h"
 #include "holding/settings.h"
 #include "ui_menufile.h"
 #include "widgets/messages.h"
 #include "widgets/numberedrows.h"
+
+namespace {
+
+constexpr int maxListedMembers = 1000;
+
+void appendMember(QListWidget *list, const ProductInfo &member, int position, bool isDefault)
+{
+    QListWidgetItem *item = numberedrows::append(list, position + 1, shownName(member.get_productName()));
+    item->setFlags(Qt::ItemIsEnabled);
+    item->setCheckState(isDefault ? Qt::Checked : Qt::Unchecked);
+}
+
+void appendNote(QListWidget *list, const QString &text)
+{
+    auto *note = new QListWidgetItem(text, list);
+    note->setFlags(Qt::ItemIsEnabled);
+}
+
+} // namespace
 
 ProductInfo *MenuFile::currentGroup() const
 {
@@ -32,23 +53,27 @@ void MenuFile::loadGroupInfo()
     loadGroupMembers();
 }
 
-// The members in the group's order, the default one ticked. A member whose product is missing has no row.
+// The members in the group's order, the default one ticked. A member whose product is missing has no row. A
+// file may list millions of members: the first ones tell enough.
 void MenuFile::loadGroupMembers()
 {
-    m_ui->listWidgetMembers->clear();
+    QListWidget *list = m_ui->listWidgetMembers;
+    list->clear();
     const ProductInfo *group = currentGroup();
     if (!group)
         return;
+    const QHash<int, ProductInfo *> products = indexById(getMenuProducts());
     const QList<int> members = group->get_productList();
+    int unlisted = 0;
     for (int position = 0; position < members.size(); ++position) {
-        const ProductInfo *member = m_menu.product(members[position]);
-        if (!member)
-            continue;
-        QListWidgetItem *item =
-            numberedrows::append(m_ui->listWidgetMembers, position + 1, shownName(member->get_productName()));
-        item->setFlags(Qt::ItemIsEnabled);
-        item->setCheckState(position == group->get_defaultIndex() ? Qt::Checked : Qt::Unchecked);
+        const ProductInfo *member = products.value(members[position]);
+        if (member && list->count() < maxListedMembers)
+            appendMember(list, *member, position, position == group->get_defaultIndex());
+        else if (member)
+            ++unlisted;
     }
+    if (unlisted > 0)
+        appendNote(list, tr("and %1 more").arg(unlisted));
 }
 
 void MenuFile::addGroup(std::unique_ptr<ProductInfo> group)

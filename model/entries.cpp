@@ -15,6 +15,17 @@ ProductInfo *findEntry(const Entries &entries, int id)
     return found == entries.end() ? nullptr : found->get();
 }
 
+QHash<int, ProductInfo *> indexById(const QList<ProductInfo *> &entries)
+{
+    QHash<int, ProductInfo *> index;
+    index.reserve(entries.size());
+    for (ProductInfo *entry : entries) {
+        if (!index.contains(entry->get_productId()))
+            index.insert(entry->get_productId(), entry);
+    }
+    return index;
+}
+
 ProductInfo *entryAt(const Entries &entries, int row)
 {
     const auto index = static_cast<std::size_t>(row);

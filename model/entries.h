@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include <QHash>
 #include <QList>
 #include <QStringList>
 
@@ -17,6 +18,8 @@ using Entries = std::vector<std::unique_ptr<ProductInfo>>;
 
 /// The first entry with this id, or null.
 [[nodiscard]] ProductInfo *findEntry(const Entries &entries, int id);
+/// The first entry of each id, for who looks up many.
+[[nodiscard]] QHash<int, ProductInfo *> indexById(const QList<ProductInfo *> &entries);
 /// The entry of a row; null for a row that there is not, such as the -1 of a list without a current row.
 [[nodiscard]] ProductInfo *entryAt(const Entries &entries, int row);
 

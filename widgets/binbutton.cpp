@@ -6,6 +6,8 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+#include "widgets/longtext.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,7 +31,7 @@ void BinButton::paintEvent([[maybe_unused]] QPaintEvent *event)
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    option.text = fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * textMargin);
+    option.text = fontMetrics().elidedText(beginningOf(text()), Qt::ElideRight, width() - 2 * textMargin);
     option.text.replace(u'&', u"&&"_s); // styles draw one ampersand as an underline
     QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
 }

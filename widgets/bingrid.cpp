@@ -11,6 +11,8 @@
 #include <QMouseEvent>
 #include <QPushButton>
 
+#include "widgets/longtext.h"
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -75,13 +77,14 @@ QList<Bin> BinGrid::bins() const
     return bins;
 }
 
-void BinGrid::showContent(Bin bin, const QString &text) const
+void BinGrid::showContent(Bin bin, const QString &text, const QString &remark) const
 {
     QPushButton *shown = button(bin);
     shown->setText(text);
     shown->setShortcut({}); // an ampersand is part of the name, no key opens a bin
-    shown->setAccessibleName(
-        tr("Row %1, Bin %2: %3").arg(bin.row + 1).arg(bin.slot + 1).arg(text.isEmpty() ? tr("Empty") : text));
+    const QString content = text.isEmpty() ? tr("Empty") : beginningOf(text);
+    const QString name = tr("Row %1, Bin %2: %3").arg(bin.row + 1).arg(bin.slot + 1).arg(content);
+    shown->setAccessibleName(remark.isEmpty() ? name : tr("%1, %2").arg(name, remark));
 }
 
 std::optional<Bin> BinGrid::binOf(const QPushButton *button) const

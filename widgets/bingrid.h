@@ -34,8 +34,9 @@ public:
     void add(QPushButton *button, Bin bin);
     [[nodiscard]] QPushButton *button(Bin bin) const; ///< null for a bin that the cabinet lacks
     [[nodiscard]] QList<Bin> bins() const;
-    /// Shows what a bin of the cabinet holds: a name as it stands, or nothing.
-    void showContent(Bin bin, const QString &text) const;
+    /// Shows what a bin of the cabinet holds: a name as it stands, or nothing. A remark is not shown, but
+    /// told with the name.
+    void showContent(Bin bin, const QString &text, const QString &remark = {}) const;
 
     void press(QPushButton *button);
     void release();

@@ -16,8 +16,9 @@ constexpr int longestShownName = 4 * ordinaryNameLength;
 // On one paragraph: a file may hold any characters.
 QString shownPart(QString name)
 {
-    name.replace(u'\n', u' ');
-    return name.size() <= longestShownName ? name : name.first(longestShownName) + u'\u2026';
+    if (name.size() > longestShownName)
+        name = name.first(longestShownName) + u'\u2026';
+    return name.replace(u'\n', u' ');
 }
 
 QTextOption wrapping()

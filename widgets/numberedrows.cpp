@@ -6,7 +6,9 @@
 #include <QBrush>
 #include <QFont>
 #include <QListWidget>
+#include <QStyledItemDelegate>
 
+#include "widgets/longtext.h"
 #include "widgets/plaintext.h"
 
 using namespace Qt::StringLiterals;
@@ -20,8 +22,21 @@ constexpr QSize rowSize(100, 32);
 constexpr QColor unfittingText(0x60, 0x60, 0x60);
 constexpr QColor unfittingStripe(0xd3, 0xd3, 0xd3);
 
+/// Paints rows whose names may be of any length.
+class RowPainter final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QString displayText(const QVariant &value, const QLocale &locale) const override
+    {
+        return QStyledItemDelegate::displayText(beginningOf(value.toString()), locale);
+    }
+};
+
 void prepare(QListWidget *list)
 {
+    list->setItemDelegate(new RowPainter(list));
     list->setDragDropMode(QAbstractItemView::NoDragDrop);
     list->setDragEnabled(false);
     list->setUniformItemSizes(true);
@@ -85,7 +100,7 @@ QListWidgetItem *append(QListWidget *list, int number, const QString &name)
 {
     auto *item = new QListWidgetItem(text(number, name));
     item->setSizeHint(rowSize);
-    item->setToolTip(asPlainText(name));
+    item->setToolTip(asPlainText(beginningOf(name)));
     list->addItem(item);
     return item;
 }

@@ -4,12 +4,17 @@
 #pragma once
 
 #include <QString>
+#include <Qt>
 
 class QListWidget;
 class QListWidgetItem;
 
 /// The numbered lists of products and groups that the editors and dialogs show.
 namespace numberedrows {
+
+/// Where the rows of the holding line's lists to pick from keep the entry's id: on the role of a picture,
+/// where no picture is.
+inline constexpr int idRole = Qt::DecorationRole;
 
 /// Sets up a list that colours its own rows: fixed-pitch font, a selected row in black on dark cyan, no drag
 /// and drop. For dialogs; its style sheet costs more than an editor should pay when it opens.
