@@ -26,10 +26,10 @@ std::unique_ptr<Ui::ProductEdit> makeForm(ProductEdit *dialog)
     return form;
 }
 
-void loadTemperature(QSpinBox *box, int fahrenheit, int unit)
+void loadTemperature(TemperatureBox *box, int fahrenheit, int unit)
 {
-    const TemperatureRange range = holding::productTemperatureRange(unit, fahrenheit);
-    box->setRange(range.lowest, range.highest);
+    box->setTemperatures(holding::productTemperatureRange(unit),
+                         holding::mayHaveNoTemperature(unit, fahrenheit));
     box->setValue(shownTemperature(fahrenheit, unit));
 }
 

@@ -7,11 +7,14 @@
 
 namespace holding {
 
-TemperatureRange productTemperatureRange(int unit, int storedFahrenheit)
+TemperatureRange productTemperatureRange(int unit)
 {
-    if (unit == unitCelsius)
-        return {storedFahrenheit == 0 ? 0 : 32, 107};
-    return {90, 225};
+    return unit == unitCelsius ? TemperatureRange{32, 107} : TemperatureRange{90, 225};
+}
+
+bool mayHaveNoTemperature(int unit, int storedFahrenheit)
+{
+    return unit == unitCelsius && storedFahrenheit == 0;
 }
 
 int enteredId(int boxValue, int lowest, int highest, int ownId)

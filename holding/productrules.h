@@ -11,9 +11,11 @@
 /// What a product may be given in its dialog.
 namespace holding {
 
-/// The temperatures that can be entered, in the menu's unit. A stored 0 means that no temperature is set: in
-/// Celsius the range then begins at 0, so that opening and saving does not make up a temperature.
-[[nodiscard]] TemperatureRange productTemperatureRange(int unit, int storedFahrenheit);
+/// The temperatures that can be entered, in the menu's unit.
+[[nodiscard]] TemperatureRange productTemperatureRange(int unit);
+/// Whether a product may keep having no temperature: a stored 0 means that none is set. In Celsius it can, so
+/// that opening and saving does not make one up; in Fahrenheit the lowest temperature takes its place.
+[[nodiscard]] bool mayHaveNoTemperature(int unit, int storedFahrenheit);
 
 /// The id that a box stands for. A menu's hundredth entry and products of a file may have an id outside the
 /// box's range: as long as the box shows what it made of that id, it stands for the id itself.

@@ -32,7 +32,7 @@ void TestProductRules::temperatures_data()
     QTest::newRow("Fahrenheit") << 0 << 200 << 90 << 225;
     QTest::newRow("Fahrenheit, none set") << 0 << 0 << 90 << 225;
     QTest::newRow("Celsius") << 1 << 200 << 32 << 107;
-    QTest::newRow("Celsius, none set") << 1 << 0 << 0 << 107;
+    QTest::newRow("Celsius, none set") << 1 << 0 << 32 << 107;
     QTest::newRow("odd unit") << 2 << 200 << 90 << 225;
     QTest::newRow("negative unit") << -1 << 0 << 90 << 225;
 }
@@ -41,9 +41,10 @@ void TestProductRules::temperatures()
 {
     QFETCH(int, unit);
     QFETCH(int, stored);
-    const TemperatureRange range = productTemperatureRange(unit, stored);
+    const TemperatureRange range = productTemperatureRange(unit);
     QTEST(range.lowest, "lowest");
     QTEST(range.highest, "highest");
+    QCOMPARE(mayHaveNoTemperature(unit, stored), unit == 1 && stored == 0);
 }
 
 void TestProductRules::enteredIds_data()
