@@ -31,6 +31,7 @@ class TestEntryLists : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void find();
+    void index();
     void rows();
     void nextFreeId_data();
     void nextFreeId();
@@ -46,6 +47,15 @@ void TestEntryLists::find()
     QCOMPARE(findEntry(entries, 0), entries[4].get());
     QCOMPARE(findEntry(entries, 6), nullptr);
     QCOMPARE(findEntry({}, 5), nullptr);
+}
+
+void TestEntryLists::index()
+{
+    const Entries entries = entriesWith({5, 7, 5, -1});
+    const QHash<int, ProductInfo *> index = indexById(pointersTo(entries));
+    QCOMPARE(index.size(), 3);
+    for (const int id : {5, 7, -1, 6})
+        QCOMPARE(index.value(id), findEntry(entries, id));
 }
 
 void TestEntryLists::rows()
