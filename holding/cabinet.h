@@ -23,6 +23,8 @@ struct CabinetConfiguration
     bool resetTimeEnabled = false;
     bool productIdEnabled = false;
     bool timerColorEnabled = false;
+
+    friend bool operator==(const CabinetConfiguration &, const CabinetConfiguration &) = default;
 };
 
 /// Neighbouring slots of a row that share their settings.

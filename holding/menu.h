@@ -24,6 +24,8 @@ struct Daypart
     bool inUse = false;
     /// The id of a product or group. An id need not belong to any entry.
     BinTable<int, maxRows, maxSlots> bins;
+
+    friend bool operator==(const Daypart &, const Daypart &) = default;
 };
 
 /// Products and groups share one id space in which 0 is no entry. Files may bring negative or repeated ids;
