@@ -83,7 +83,8 @@ void MultiSelection::restoreChecks(const QList<int> &rows)
     for (int row = 0; row < m_list->count(); ++row) {
         QListWidgetItem *item = m_list->item(row);
         const bool checked = std::binary_search(rows.begin(), rows.end(), row);
-        // The view alone toggles a row: were the box checkable by itself, a click on it would count twice.
+        // The view alone toggles a row: a click on a box that could be checked by itself would not make it
+        // current.
         item->setFlags(item->flags() & ~Qt::ItemIsUserCheckable);
         item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
     }
