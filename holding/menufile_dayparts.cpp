@@ -86,23 +86,24 @@ BinLabel binLabel(const holding::SlotContent &content, int id)
             content.entry ? MenuFile::tr("no name") : MenuFile::tr("not in this menu")};
 }
 
-QString settingsText(const ProductInfo &entry, const holding::CabinetConfiguration &configuration)
+QString settingsText(const QString &title, const ProductInfo &entry,
+                     const holding::CabinetConfiguration &configuration)
 {
     const int unit = configuration.temperatureUnit;
     QString temperatures = temperatureText(entry.get_upperTemp(), unit);
     if (!holding::isZpv(configuration.type))
         temperatures += u" / "_s + temperatureText(entry.get_lowerTemp(), unit);
-    return MenuFile::tr("Temperature: %1\nHolding Time: %2")
-        .arg(temperatures, timeText(entry.get_holdTime()));
+    return MenuFile::tr("%1\nTemperature: %2\nHolding Time: %3")
+        .arg(title, temperatures, timeText(entry.get_holdTime()));
 }
 
 QString binToolTip(const BinLabel &label, const ProductInfo *entry,
                    const holding::CabinetConfiguration &configuration)
 {
-    QString text = beginningOf(label.name);
+    QString title = beginningOf(label.name);
     if (!label.remark.isEmpty())
-        text = MenuFile::tr("%1: %2").arg(text, label.remark);
-    return entry ? text + u'\n' + settingsText(*entry, configuration) : text;
+        title = MenuFile::tr("%1: %2").arg(title, label.remark);
+    return entry ? settingsText(title, *entry, configuration) : title;
 }
 
 } // namespace

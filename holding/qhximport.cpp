@@ -258,11 +258,14 @@ void addImportedMenu(Menu &&imported, Menu &menu)
     menu.configuration.temperatureUnit = imported.configuration.temperatureUnit;
     std::move(imported.products.begin(), imported.products.end(), std::back_inserter(menu.products));
     std::move(imported.groups.begin(), imported.groups.end(), std::back_inserter(menu.groups));
-    menu.daypartCount = importedDayparts;
     for (int i = 0; i < importedDayparts; ++i) {
-        menu.dayparts[i].inUse = true;
-        copyBins(imported.dayparts[i], imported.shape(), menu.dayparts[i]);
+        Daypart &daypart = menu.dayparts[i];
+        if (i >= menu.daypartCount)
+            daypart.names = imported.dayparts[i].names;
+        daypart.inUse = true;
+        copyBins(imported.dayparts[i], imported.shape(), daypart);
     }
+    menu.daypartCount = importedDayparts;
 }
 
 } // namespace holding

@@ -7,6 +7,7 @@
 #include "tests/support/sampletimerbar.h"
 #include "tests/support/warnings.h"
 #include "timerbar/cbrfile.h"
+#include "timerbar/newentries.h"
 
 using namespace Qt::StringLiterals;
 
