@@ -191,7 +191,7 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
     holding::RowLook looks = holding::rowLook(m_shape, content);
     for (int zone = 0; zone < m_shape.zones; ++zone)
         holding::fitIntoZone(looks, m_shape.zone(zone), holding::zoneWidth(m_shape, zone));
-    for (int slot = 0; slot < looks.size(); ++slot) {
+    for (int slot = 0; slot < holding::maxSlots; ++slot) {
         const Bin bin{row, slot};
         QPushButton *button = m_grid.button(bin);
         if (!button)

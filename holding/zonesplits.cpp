@@ -62,10 +62,10 @@ QStringList zoneSplitsForRun(int binsPerZone, int freeSlots)
     return textsOf(splits);
 }
 
-int binButtonWidth(const CabinetShape &shape, const QString &text)
+int binButtonWidth(const CabinetShape &shape, const QString &zoneSplits)
 {
     const auto *found = std::find_if(allZoneSplits.begin(), allZoneSplits.end(), [&](const ZoneSplit &split) {
-        return split.binsPerZone == shape.binsPerZone && split.text == text;
+        return split.binsPerZone == shape.binsPerZone && split.text == zoneSplits;
     });
     if (found == allZoneSplits.end() || shape.zones < 1 || shape.zones > 2)
         return emptyBinButtonWidth;
