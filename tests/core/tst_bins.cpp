@@ -7,6 +7,8 @@
 #include "holding/bins.h"
 #include "holding/newentries.h"
 #include "tests/support/binrows.h"
+#include "tests/support/cabinets.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -86,9 +88,9 @@ void TestBins::zoneLimits()
             const BinLimits limits =
                 first < 0 ? BinLimits{} : BinLimits{200 + factor, 100 + factor, 10 * factor};
             const Zone zone = shape.zoneOfSlot(slot);
-            QVERIFY2(holding::zoneLimits(row, zone, slot, true) == limits, qPrintable(fill));
+            REQUIRE(holding::zoneLimits(row, zone, slot, true) == limits, fill);
             const BinLimits withoutFan{limits.upperTemp, limits.lowerTemp, 0};
-            QVERIFY2(holding::zoneLimits(row, zone, slot, false) == withoutFan, qPrintable(fill));
+            REQUIRE(holding::zoneLimits(row, zone, slot, false) == withoutFan, fill);
         }
     });
 }
@@ -100,8 +102,8 @@ void TestBins::freeRun()
     const binrows::Entries entries;
     binrows::forEachRow([&](const QString &fill) {
         for (int slot = 0; slot < layout.size(); ++slot)
-            QCOMPARE(holding::freeRun(entries.row(fill), shape.zoneOfSlot(slot), slot),
-                     binrows::freeRun(fill, layout, slot));
+            REQUIRE_EQUAL(holding::freeRun(entries.row(fill), shape.zoneOfSlot(slot), slot),
+                          binrows::freeRun(fill, layout, slot));
     });
 }
 
@@ -109,19 +111,15 @@ void TestBins::allowedZoneSplits()
 {
     QFETCH(CabinetShape, shape);
     QFETCH(QString, layout);
-    static const QHash<QString, QString> splits{
-        {u"2 1"_s, u"1/2"_s},     {u"2 2"_s, u"1/1 1/2"_s},         {u"3 1"_s, u"1/3"_s},
-        {u"3 2"_s, u"2/3 1/3"_s}, {u"3 3"_s, u"1/1 1/2 2/3 1/3"_s}, {u"4 1"_s, u"1/4"_s},
-        {u"4 2"_s, u"1/2 1/4"_s}, {u"4 3"_s, u"3/4 1/2 1/4"_s},     {u"4 4"_s, u"1/1 3/4 1/2 1/4"_s}};
     const binrows::Entries entries;
     binrows::forEachRow([&](const QString &fill) {
         for (int slot = 0; slot < layout.size(); ++slot) {
             const QString zone = binrows::zoneOf(fill, layout, slot);
             const bool half = zone.size() == 1 || (zone.size() == 3 && zone.contains(u'2'));
-            const QString expected =
-                half ? u"1/2"_s
-                     : splits.value(u"%1 %2"_s.arg(zone.size()).arg(binrows::freeRun(fill, layout, slot)));
-            QCOMPARE(holding::allowedZoneSplits(shape, entries.row(fill), slot).join(u' '), expected);
+            const QString expected = half ? u"1/2"_s
+                                          : cabinets::zone(int(zone.size()))
+                                                .fitting.value(binrows::freeRun(fill, layout, slot) - 1);
+            REQUIRE_EQUAL(holding::allowedZoneSplits(shape, entries.row(fill), slot).join(u' '), expected);
         }
     });
 }

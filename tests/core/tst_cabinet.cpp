@@ -5,6 +5,8 @@
 #include <QTest>
 
 #include "holding/cabinet.h"
+#include "tests/support/cabinets.h"
+#include "tests/support/textlists.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +18,9 @@ class TestCabinet : public QObject
 
 private slots:
     void init() { failOnWarnings(); }
-    void shapes_data();
+    void everyModelIsKnownToTheTests_data();
+    void everyModelIsKnownToTheTests();
+    void shapes_data() { cabinets::addModelRows(); }
     void shapes();
     void unknownCabinets_data();
     void unknownCabinets();
@@ -27,46 +31,38 @@ private slots:
     void newConfiguration();
 };
 
-void TestCabinet::shapes_data()
+void TestCabinet::everyModelIsKnownToTheTests_data()
 {
     QTest::addColumn<QString>("type");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("binsPerZone");
-    QTest::addColumn<int>("zones");
-    QTest::addColumn<bool>("singleBinSecondZone");
-    QTest::addColumn<int>("binsInRow");
-    QTest::newRow("KTR22") << u"QHX"_s << 2 << 2 << 1 << false << 2;
-    QTest::newRow("KTR23") << u"QHX"_s << 2 << 2 << 2 << true << 3;
-    QTest::newRow("KTR24") << u"QHX"_s << 2 << 2 << 2 << false << 4;
-    QTest::newRow("KTR32") << u"QHX"_s << 3 << 2 << 1 << false << 2;
-    QTest::newRow("KTR33") << u"QHX"_s << 3 << 3 << 1 << false << 3;
-    QTest::newRow("KTR34") << u"QHX"_s << 3 << 2 << 2 << false << 4;
-    QTest::newRow("KTR42") << u"QHX"_s << 4 << 2 << 1 << false << 2;
-    QTest::newRow("KTR52") << u"QHX"_s << 5 << 2 << 1 << false << 2;
-    QTest::newRow("KTR54") << u"QHX"_s << 5 << 2 << 2 << false << 4;
-    QTest::newRow("KTR63") << u"QHX"_s << 6 << 3 << 1 << false << 3;
-    QTest::newRow("KTR82") << u"QHX"_s << 8 << 2 << 1 << false << 2;
-    QTest::newRow("ZPV43") << u"ZPV"_s << 4 << 3 << 1 << false << 3;
-    QTest::newRow("ZPV23") << u"ZPV"_s << 2 << 3 << 1 << false << 3;
+    for (const CabinetModel &model : allModels)
+        QTest::newRow(model.name.data()) << QString(model.type);
+}
+
+void TestCabinet::everyModelIsKnownToTheTests()
+{
+    QFETCH(QString, type);
+    const QString model = QString::fromLatin1(QTest::currentDataTag());
+    QVERIFY2(cabinets::modelNames(type).contains(model),
+             qPrintable(u"tests/support/cabinets.cpp lacks "_s + model));
 }
 
 void TestCabinet::shapes()
 {
-    QFETCH(QString, type);
-    QFETCH(int, rows);
-    QFETCH(int, binsPerZone);
-    QFETCH(int, zones);
-    QFETCH(bool, singleBinSecondZone);
-    QFETCH(int, binsInRow);
-    const CabinetShape shape = cabinetShape(type, QString::fromLatin1(QTest::currentDataTag()));
+    QFETCH(QString, model);
+    const cabinets::Model &expected = cabinets::model(model);
+    const CabinetShape shape = cabinetShape(expected.type, model);
     QVERIFY(shape.isKnown());
-    QCOMPARE(int(shape.rows), rows);
-    QCOMPARE(int(shape.binsPerZone), binsPerZone);
-    QCOMPARE(int(shape.zones), zones);
-    QCOMPARE(shape.singleBinSecondZone, singleBinSecondZone);
+    QCOMPARE(int(shape.rows), expected.rows);
+    QCOMPARE(int(shape.binsPerZone), expected.firstZone());
+    QCOMPARE(int(shape.zones), expected.secondZone() > 0 ? 2 : 1);
+    QCOMPARE(shape.singleBinSecondZone, expected.secondZone() == 1);
     // Ids are stored as if the missing bin were there.
-    QCOMPARE(shape.binsPerRow(), singleBinSecondZone ? binsInRow + 1 : binsInRow);
+    QCOMPARE(shape.binsPerRow(), expected.row.size() + (shape.singleBinSecondZone ? 1 : 0));
     QVERIFY(shape.rows <= maxRows && shape.binsPerRow() <= maxSlots);
+    for (int row = 0; row <= maxRows; ++row) {
+        for (int slot = 0; slot <= maxSlots; ++slot)
+            QCOMPARE(shape.hasBin({row, slot}), expected.hasBin(row, slot));
+    }
 }
 
 void TestCabinet::unknownCabinets_data()
@@ -103,10 +99,8 @@ void TestCabinet::unknownCabinets()
 void TestCabinet::offeredInOrder()
 {
     QCOMPARE(cabinetTypes(), (QStringList{u"QHX"_s, u"ZPV"_s}));
-    QCOMPARE(cabinetModels(u"QHX"_s),
-             (QStringList{u"KTR22"_s, u"KTR23"_s, u"KTR24"_s, u"KTR32"_s, u"KTR33"_s, u"KTR34"_s, u"KTR42"_s,
-                          u"KTR52"_s, u"KTR54"_s, u"KTR63"_s, u"KTR82"_s}));
-    QCOMPARE(cabinetModels(u"ZPV"_s), (QStringList{u"ZPV43"_s, u"ZPV23"_s}));
+    for (const QString &type : cabinetTypes())
+        QCOMPARE(differenceOf(cabinetModels(type), cabinets::modelNames(type)), QString());
     QCOMPARE(cabinetModels(u"zpv"_s), QStringList());
     QCOMPARE(cabinetModels(QString()), QStringList());
 }

@@ -10,6 +10,8 @@
 
 #include "holding/menujson.h"
 #include "holding/menunames.h"
+#include "holding/zonesplits.h"
+#include "tests/support/languages.h"
 #include "tests/support/samplemenu.h"
 #include "tests/support/warnings.h"
 
@@ -78,6 +80,10 @@ private slots:
     void init() { failOnWarnings(); }
     void products_data();
     void products();
+    void everyModelOffersTheirSplits_data();
+    void everyModelOffersTheirSplits();
+    void namedInEveryLanguage_data();
+    void namedInEveryLanguage();
     void chosenByBinsPerZone_data();
     void chosenByBinsPerZone();
     void restOfMenuStays();
@@ -106,7 +112,7 @@ void TestDefaultMenus::products()
     for (std::size_t i = 0; i < menu.products.size(); ++i) {
         const ProductInfo &product = *menu.products[i];
         const Expected &expected = expectedProducts[i];
-        QCOMPARE(product.get_productName(), QStringList(15, QString::fromLatin1(expected.name)));
+        QCOMPARE(product.get_productName(), inEveryLanguage(QString::fromLatin1(expected.name)));
         QCOMPARE(product.get_productId(), expected.id);
         QCOMPARE(product.get_upperTemp(), expected.temperature);
         QCOMPARE(product.get_lowerTemp(), expected.temperature);
@@ -120,6 +126,44 @@ void TestDefaultMenus::products()
         QCOMPARE(product.get_bottomType(), u"Normal"_s);
         QCOMPARE(product.get_productLocked(), false);
         QCOMPARE(product.get_isGroup(), false);
+    }
+}
+
+void TestDefaultMenus::everyModelOffersTheirSplits_data()
+{
+    QTest::addColumn<int>("binsPerZone");
+    for (const CabinetModel &model : allModels)
+        QTest::newRow(model.name.data()) << int(model.shape.binsPerZone);
+}
+
+void TestDefaultMenus::everyModelOffersTheirSplits()
+{
+    QFETCH(int, binsPerZone);
+    Menu menu;
+    QCOMPARE(readDefaultMenu(binsPerZone, menu), QString());
+    const QStringList offered = offeredZoneSplits(binsPerZone);
+    for (const auto &product : menu.products) {
+        const QString splits = product->get_zoneSplits();
+        QVERIFY2(offered.contains(splits), qPrintable(u"The default menu has "_s + splits));
+    }
+}
+
+void TestDefaultMenus::namedInEveryLanguage_data()
+{
+    QTest::addColumn<QLatin1StringView>("language");
+    for (const char *language : languageKeys)
+        QTest::newRow(language) << QLatin1StringView(language);
+}
+
+void TestDefaultMenus::namedInEveryLanguage()
+{
+    QFETCH(QLatin1StringView, language);
+    for (const int binsPerZone : {2, 3}) {
+        const QJsonValue products = documentOf(binsPerZone)["menu"_L1]["products"_L1];
+        for (const QJsonValue product : products.toArray()) {
+            const QJsonObject names = product["productName"_L1].toObject();
+            QCOMPARE(names.value(language), names.value("eng_USA"_L1));
+        }
     }
 }
 
@@ -182,8 +226,8 @@ void TestDefaultMenus::documents()
 
     const QJsonArray layout = content["layout"_L1].toArray();
     QCOMPARE(layout.size(), 2);
-    QCOMPARE(layout[0]["daypartName"_L1].toObject(), namesToJson(QStringList(15, u"Breakfast"_s)));
-    QCOMPARE(layout[1]["daypartName"_L1].toObject(), namesToJson(QStringList(15, u"Lunch/Dinner"_s)));
+    QCOMPARE(layout[0]["daypartName"_L1].toObject(), namesToJson(inEveryLanguage(u"Breakfast"_s)));
+    QCOMPARE(layout[1]["daypartName"_L1].toObject(), namesToJson(inEveryLanguage(u"Lunch/Dinner"_s)));
     for (const QJsonValue daypart : layout) {
         QCOMPARE(daypart["inUse"_L1], QJsonValue(true));
         const QJsonArray locations = daypart["productLocations"_L1].toArray();

@@ -5,6 +5,7 @@
 
 #include "holding/menu.h"
 #include "holding/newentries.h"
+#include "tests/support/languages.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -47,6 +48,8 @@ QList<int> upTo(int last)
 
 } // namespace
 
+using Row = FixedList<int, maxSlots>;
+
 class TestMenu : public QObject
 {
     Q_OBJECT
@@ -75,13 +78,13 @@ void TestMenu::newMenu()
     const Menu menu;
     QCOMPARE(menu.daypartCount, 2);
     QCOMPARE(int(menu.dayparts.size()), 10);
-    QCOMPARE(menu.dayparts[0].names, QStringList(15, u"BREAKFAST"_s));
-    QCOMPARE(menu.dayparts[1].names, QStringList(15, u"LUNCH/DINNER"_s));
+    QCOMPARE(menu.dayparts[0].names, inEveryLanguage(u"BREAKFAST"_s));
+    QCOMPARE(menu.dayparts[1].names, inEveryLanguage(u"LUNCH/DINNER"_s));
     for (int i = 0; i < menu.dayparts.size(); ++i) {
         QCOMPARE(menu.dayparts[i].inUse, i < 2);
         QVERIFY(menu.dayparts[i].bins == Daypart().bins);
         if (i >= 2)
-            QCOMPARE(menu.dayparts[i].names, QStringList(15, QString()));
+            QCOMPARE(menu.dayparts[i].names, inEveryLanguage({}));
     }
     QVERIFY(menu.products.empty());
     QVERIFY(menu.groups.empty());
@@ -91,11 +94,12 @@ void TestMenu::newMenu()
 void TestMenu::newDaypart()
 {
     const Daypart daypart;
-    QCOMPARE(daypart.names, QStringList(15, QString()));
+    QCOMPARE(daypart.names, inEveryLanguage({}));
     QCOMPARE(daypart.inUse, false);
-    QCOMPARE(int(daypart.bins.size()), 8);
-    for (const auto &row : daypart.bins)
-        QVERIFY(row == (FixedList<int, 4>{0, 0, 0, 0}));
+    for (const auto &row : daypart.bins) {
+        for (const int id : row)
+            QCOMPARE(id, emptyBin);
+    }
 }
 
 void TestMenu::nextFreeId_data()
@@ -214,8 +218,8 @@ void TestMenu::removeFromDayparts()
     menu.dayparts[1].bins[2] = {6, 6, 6, 5};
     QVERIFY(!menu.removeFromDayparts(7));
     QVERIFY(menu.removeFromDayparts(5));
-    QVERIFY(menu.dayparts[0].bins[0] == (FixedList<int, 4>{0, 6, 0, 0}));
-    QVERIFY(menu.dayparts[1].bins[2] == (FixedList<int, 4>{6, 6, 6, 0}));
+    QVERIFY(menu.dayparts[0].bins[0] == (Row{0, 6, 0, 0}));
+    QVERIFY(menu.dayparts[1].bins[2] == (Row{6, 6, 6, 0}));
     QVERIFY(!menu.removeFromDayparts(5));
 }
 
@@ -234,7 +238,7 @@ void TestMenu::nothingIsRemovedForNoEntry()
     Menu menu;
     menu.dayparts[0].bins[0] = {5, 0, 5, 0};
     QVERIFY(!menu.removeFromDayparts(emptyBin));
-    QVERIFY(menu.dayparts[0].bins[0] == (FixedList<int, 4>{5, 0, 5, 0}));
+    QVERIFY(menu.dayparts[0].bins[0] == (Row{5, 0, 5, 0}));
 }
 
 void TestMenu::clearBins()
@@ -242,15 +246,15 @@ void TestMenu::clearBins()
     Menu menu;
     for (Daypart &daypart : menu.dayparts) {
         for (auto &row : daypart.bins)
-            row = {3, 3, 3, 3};
+            row.values.fill(3);
     }
-    menu.dayparts[9].names = QStringList(15, u"NIGHT"_s);
+    menu.dayparts[9].names = inEveryLanguage(u"NIGHT"_s);
     menu.dayparts[9].inUse = true;
     menu.clearBins();
     for (const Daypart &daypart : menu.dayparts)
         QVERIFY(daypart.bins == Daypart().bins);
-    QCOMPARE(menu.dayparts[0].names, QStringList(15, u"BREAKFAST"_s));
-    QCOMPARE(menu.dayparts[9].names, QStringList(15, u"NIGHT"_s));
+    QCOMPARE(menu.dayparts[0].names, inEveryLanguage(u"BREAKFAST"_s));
+    QCOMPARE(menu.dayparts[9].names, inEveryLanguage(u"NIGHT"_s));
     QVERIFY(menu.dayparts[0].inUse && menu.dayparts[9].inUse && !menu.dayparts[2].inUse);
     QCOMPARE(menu.daypartCount, 2);
 }

@@ -6,6 +6,7 @@
 
 #include "holding/menujson.h"
 #include "tests/support/corruption.h"
+#include "tests/support/languages.h"
 #include "tests/support/menudocument.h"
 #include "tests/support/require.h"
 #include "tests/support/samplemenu.h"
@@ -46,7 +47,7 @@ void checkEntries(const Entries &entries, bool groups)
     for (const auto &entry : entries) {
         REQUIRE(entry->get_productId() != 0);
         REQUIRE_EQUAL(entry->get_isGroup(), groups);
-        REQUIRE_EQUAL(entry->get_productName().size(), 15);
+        REQUIRE_EQUAL(entry->get_productName().size(), languageCount);
     }
 }
 
@@ -55,12 +56,11 @@ void checkDayparts(const Menu &menu)
     REQUIRE(menu.daypartCount >= 0 && menu.daypartCount <= maxDayparts);
     const CabinetShape shape = menu.shape();
     for (const Daypart &daypart : menu.dayparts) {
-        REQUIRE_EQUAL(daypart.names.size(), 15);
+        REQUIRE_EQUAL(daypart.names.size(), languageCount);
         for (int row = 0; row < maxRows; ++row) {
             for (int slot = 0; slot < maxSlots; ++slot) {
-                const bool exists = row < shape.rows && slot < shape.binsPerRow() &&
-                                    !(shape.singleBinSecondZone && slot == maxSlots - 1);
-                REQUIRE(exists || daypart.bins[std::size_t(row)][std::size_t(slot)] == emptyBin);
+                const Bin bin{row, slot};
+                REQUIRE(shape.hasBin(bin) || daypart.bins[bin] == emptyBin);
             }
         }
     }

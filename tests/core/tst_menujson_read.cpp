@@ -5,6 +5,7 @@
 
 #include "holding/menujson.h"
 #include "holding/settings.h"
+#include "tests/support/languages.h"
 #include "tests/support/menudocument.h"
 #include "tests/support/warnings.h"
 
@@ -143,7 +144,7 @@ void TestMenuJsonRead::productDefaults()
     const ProductInfo &product = *menu.products[0];
     QCOMPARE(product.get_isGroup(), false);
     QCOMPARE(product.get_productLocked(), false);
-    QCOMPARE(product.get_productName(), QStringList(15, QString()));
+    QCOMPARE(product.get_productName(), inEveryLanguage({}));
     QCOMPARE(product.get_productShortName(), QString());
     QCOMPARE(product.get_holdTime(), 0);
     QCOMPARE(product.get_warningTime(), 0);
@@ -164,7 +165,7 @@ void TestMenuJsonRead::groupDefaults()
     const ProductInfo &group = *menu.groups[0];
     QCOMPARE(group.get_isGroup(), true);
     QCOMPARE(group.get_productLocked(), false);
-    QCOMPARE(group.get_productName(), QStringList(15, QString()));
+    QCOMPARE(group.get_productName(), inEveryLanguage({}));
     QVERIFY(holdingSettings(group, true) == HoldingSettings());
     QCOMPARE(group.get_productList(), QList<int>());
     QCOMPARE(group.get_defaultIndex(), 0);
@@ -338,7 +339,7 @@ void TestMenuJsonRead::dayparts()
     QCOMPARE(document::read(document::withLists("", "", daypart), menu), QString());
     QCOMPARE(menu.daypartCount, 1);
     QTEST(menu.dayparts[0].inUse, "inUse");
-    QCOMPARE(menu.dayparts[0].names, QStringList(15, QString()));
+    QCOMPARE(menu.dayparts[0].names, inEveryLanguage({}));
     QVERIFY(menu.dayparts[0].bins == Daypart().bins);
 }
 
@@ -351,7 +352,7 @@ void TestMenuJsonRead::daypartsReplaceTheOldOnes()
         QCOMPARE(menu.daypartCount, count);
         for (std::size_t i = 0; i < maxDayparts; ++i) {
             QCOMPARE(menu.dayparts[i].inUse, static_cast<int>(i) < count);
-            QCOMPARE(menu.dayparts[i].names, QStringList(15, QString()));
+            QCOMPARE(menu.dayparts[i].names, inEveryLanguage({}));
             QVERIFY(menu.dayparts[i].bins == Daypart().bins);
         }
     }

@@ -8,12 +8,17 @@
 
 #include "holding/menujson.h"
 #include "holding/menunames.h"
+#include "tests/support/cabinets.h"
+#include "tests/support/languages.h"
 #include "tests/support/require.h"
 #include "tests/support/samplemenu.h"
+#include "tests/support/textlists.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
 using namespace holding;
+
+Q_DECLARE_METATYPE(cabinets::Model)
 
 namespace {
 
@@ -70,6 +75,7 @@ private slots:
     void switchedOff();
     void daypartsInUseOnly();
     void fixedHeader();
+    void languagesAreInOrder();
     void names_data();
     void names();
     void shortListsAreFilledUp();
@@ -112,44 +118,28 @@ void TestMenuJsonWrite::goldenFilesAreKept()
 
 void TestMenuJsonWrite::everyCabinet_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<int>("bins");
-    QTest::newRow("KTR22") << u"QHX"_s << u"KTR22"_s << 4;
-    QTest::newRow("KTR23, with its missing bins") << u"QHX"_s << u"KTR23"_s << 8;
-    QTest::newRow("KTR24") << u"QHX"_s << u"KTR24"_s << 8;
-    QTest::newRow("KTR32") << u"QHX"_s << u"KTR32"_s << 6;
-    QTest::newRow("KTR33") << u"QHX"_s << u"KTR33"_s << 9;
-    QTest::newRow("KTR34") << u"QHX"_s << u"KTR34"_s << 12;
-    QTest::newRow("KTR42") << u"QHX"_s << u"KTR42"_s << 8;
-    QTest::newRow("KTR52") << u"QHX"_s << u"KTR52"_s << 10;
-    QTest::newRow("KTR54") << u"QHX"_s << u"KTR54"_s << 20;
-    QTest::newRow("KTR63") << u"QHX"_s << u"KTR63"_s << 18;
-    QTest::newRow("KTR82") << u"QHX"_s << u"KTR82"_s << 16;
-    QTest::newRow("ZPV43") << u"ZPV"_s << u"ZPV43"_s << 12;
-    QTest::newRow("ZPV23") << u"ZPV"_s << u"ZPV23"_s << 6;
-    QTest::newRow("unknown") << u"QHX"_s << u"KTR99"_s << 0;
+    QTest::addColumn<cabinets::Model>("cabinet");
+    for (const cabinets::Model &model : cabinets::models())
+        QTest::newRow(qPrintable(model.name)) << model;
+    QTest::newRow("unknown") << cabinets::Model{u"QHX"_s, u"KTR99"_s, 0, {}};
 }
 
 void TestMenuJsonWrite::everyCabinet()
 {
-    QFETCH(QString, type);
-    QFETCH(QString, model);
-    QFETCH(int, bins);
+    QFETCH(const cabinets::Model, cabinet);
     Menu menu;
-    menu.configuration.type = type;
-    menu.configuration.model = model;
-    const int inRow = menu.shape().binsPerRow();
+    menu.configuration.type = cabinet.type;
+    menu.configuration.model = cabinet.name;
     Menu expected; // bins beyond the shape are not written
-    for (std::size_t row = 0; row < maxRows; ++row) {
-        for (std::size_t slot = 0; slot < maxSlots; ++slot) {
-            const int id = static_cast<int>(100 + 10 * row + slot);
-            const bool missing = menu.shape().singleBinSecondZone && slot == 3;
-            const bool within = row < menu.shape().rows && static_cast<int>(slot) < inRow;
+    for (int row = 0; row < maxRows; ++row) {
+        for (int slot = 0; slot < maxSlots; ++slot) {
+            const int id = 100 + 10 * row + slot;
+            const bool missing = cabinet.secondZone() == 1 && slot == cabinet.row.size();
             menu.dayparts[1].bins[row][slot] = missing ? emptyBin : id;
-            expected.dayparts[1].bins[row][slot] = within && !missing ? id : emptyBin;
+            expected.dayparts[1].bins[row][slot] = cabinet.hasBin(row, slot) ? id : emptyBin;
         }
     }
+    const int bins = cabinet.rows * cabinet.places();
     const QByteArray json = writeMenu(menu);
     const QJsonObject root = QJsonDocument::fromJson(json).object();
     const QJsonArray locations = root["menu"_L1]["layout"_L1][1]["productLocations"_L1].toArray();
@@ -213,28 +203,56 @@ void TestMenuJsonWrite::fixedHeader()
     compareBytes(writeMenu(read), golden(u"plain"_s));
 }
 
+namespace {
+
+QStringList keysAsNames()
+{
+    QStringList names;
+    for (const char *key : languageKeys)
+        names.append(u"Bacon in "_s + QLatin1StringView(key));
+    return names;
+}
+
+QByteArray allNamesBackwards()
+{
+    QByteArray json;
+    for (const char *key : languageKeys)
+        json.prepend(QByteArray(json.isEmpty() ? "" : ",")
+                         .prepend('"' + QByteArray(key) + R"(":"Bacon in )" + key + '"'));
+    return '{' + json + '}';
+}
+
+} // namespace
+
+void TestMenuJsonWrite::languagesAreInOrder()
+{
+    QStringList keys;
+    for (const QLatin1StringView key : nameLanguages)
+        keys.append(key);
+    QStringList expected;
+    for (const char *key : languageKeys)
+        expected.append(QLatin1StringView(key));
+    QCOMPARE(differenceOf(keys, expected), QString());
+}
+
 void TestMenuJsonWrite::names_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QStringList>("names");
-    const QStringList none(15, QString());
+    const QStringList none = inEveryLanguage({});
     QStringList english = none;
     english[0] = u"Bacon"_s;
     QStringList last = none;
-    last[14] = u"ベーコン"_s;
+    last.last() = u"ベーコン"_s;
     QTest::newRow("nothing") << QByteArray("{}") << none;
     QTest::newRow("English only") << QByteArray(R"({"eng_USA": "Bacon"})") << english;
-    QTest::newRow("last language only") << QByteArray(R"({"jpn": "ベーコン"})") << last;
+    QTest::newRow("last language only")
+        << QByteArray("{\"") + languageKeys.back() + R"(": "ベーコン"})" << last;
     QTest::newRow("wrong types are missing")
         << QByteArray(R"({"eng_USA": "Bacon", "spa": 1, "fra": null, "deu": ["x"], "ita": {}})") << english;
     QTest::newRow("unknown language") << QByteArray(R"({"eng_USA": "Bacon", "swe": "x"})") << english;
     QTest::newRow("keys are exact") << QByteArray(R"({"eng_USA": "Bacon", "DEU": "x"})") << english;
-    QTest::newRow("all, in any order")
-        << QByteArray(R"({"zh_cn":"13","kor":"12","ara":"11","rus":"10","por":"9","pol":"8","nld":"7",)"
-                      R"("ita":"6","deu":"5","fra_ca":"4","spa_mx":"3","fra":"2","spa":"1","jpn":"14",)"
-                      R"("eng_USA":"0"})")
-        << QStringList{u"0"_s, u"1"_s, u"2"_s,  u"3"_s,  u"4"_s,  u"5"_s,  u"6"_s, u"7"_s,
-                       u"8"_s, u"9"_s, u"10"_s, u"11"_s, u"12"_s, u"13"_s, u"14"_s};
+    QTest::newRow("all, in any order") << allNamesBackwards() << keysAsNames();
 }
 
 void TestMenuJsonWrite::names()
@@ -243,17 +261,17 @@ void TestMenuJsonWrite::names()
     QFETCH(QStringList, names);
     QCOMPARE(namesFromJson(QJsonDocument::fromJson(json).object()), names);
     const QJsonObject written = namesToJson(names);
-    QCOMPARE(written.size(), 15);
+    QCOMPARE(written.size(), languageCount);
     QCOMPARE(namesFromJson(written), names);
 }
 
 void TestMenuJsonWrite::shortListsAreFilledUp()
 {
-    QStringList bacon(15, QString());
+    QStringList bacon = inEveryLanguage({});
     bacon[0] = u"Bacon"_s;
     QCOMPARE(namesToJson({u"Bacon"_s}), namesToJson(bacon));
-    QCOMPARE(namesToJson({}), namesToJson(QStringList(15, QString())));
-    QCOMPARE(namesToJson({}).value("jpn"_L1), QJsonValue(QString()));
+    QCOMPARE(namesToJson({}), namesToJson(inEveryLanguage({})));
+    QCOMPARE(namesToJson({}).value(QLatin1StringView(languageKeys.back())), QJsonValue(QString()));
     QCOMPARE(namesToJson(bacon + QStringList{u"more"_s}), namesToJson(bacon));
 }
 

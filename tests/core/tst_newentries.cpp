@@ -5,6 +5,7 @@
 
 #include "holding/newentries.h"
 #include "holding/settings.h"
+#include "tests/support/languages.h"
 #include "tests/support/recordfields.h"
 #include "tests/support/warnings.h"
 
@@ -57,7 +58,7 @@ void TestNewEntries::newProductDefaults()
     QCOMPARE(product->get_productId(), 42);
     QCOMPARE(product->get_isGroup(), false);
     QCOMPARE(product->get_productLocked(), false);
-    QCOMPARE(product->get_productName(), QStringList(15, QString()));
+    QCOMPARE(product->get_productName(), inEveryLanguage({}));
     QCOMPARE(product->get_productShortName(), QString());
     QCOMPARE(product->get_upperTemp(), 200);
     QCOMPARE(product->get_lowerTemp(), 200);
@@ -78,7 +79,7 @@ void TestNewEntries::newGroupDefaults()
     const auto group = newGroup(42);
     QCOMPARE(group->get_productId(), 42);
     QCOMPARE(group->get_isGroup(), true);
-    QCOMPARE(group->get_productName(), QStringList(15, QString()));
+    QCOMPARE(group->get_productName(), inEveryLanguage({}));
     QVERIFY(holdingSettings(*group, true) == HoldingSettings());
     QCOMPARE(group->get_holdTime(), 0);
     QCOMPARE(group->get_warningTime(), 0);

@@ -9,6 +9,7 @@
 #include "model/productinfo.h"
 #include "tests/support/recordfields.h"
 #include "tests/support/slotlist.h"
+#include "tests/support/textlists.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -105,9 +106,8 @@ void TestProductInfo::publicSurface()
         expected.append(u"set_"_s + name + u'(' + parameterType(field.initially) + u" value)"_s);
     }
     const QMetaObject &meta = ProductInfo::staticMetaObject;
-    QCOMPARE(expected.size(), 34);
-    QCOMPARE(ownSlots(meta), expected);
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 34); // and so no signals
+    QCOMPARE(differenceOf(ownSlots(meta), expected), QString());
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), expected.size()); // and so no signals
     QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 0);
     QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
 }

@@ -6,6 +6,8 @@
 #include <QTest>
 
 #include "holding/qhximport.h"
+#include "tests/support/cabinets.h"
+#include "tests/support/languages.h"
 #include "tests/support/qhxbuilder.h"
 #include "tests/support/require.h"
 #include "tests/support/warnings.h"
@@ -43,6 +45,8 @@ private slots:
 };
 
 namespace {
+
+using Row = FixedList<int, maxSlots>;
 
 void import(const qhx::File &file, Menu &menu)
 {
@@ -116,7 +120,7 @@ void TestQhxImport::product()
     QVERIFY(menu.groups.empty());
     QVERIFY(!product.get_isGroup() && !product.get_productLocked());
     QCOMPARE(product.get_productId(), 0x01020304);
-    QCOMPARE(product.get_productName(), QStringList(15, u"Bacon"_s));
+    QCOMPARE(product.get_productName(), inEveryLanguage(u"Bacon"_s));
     QCOMPARE(product.get_holdTime(), 86399);
     QCOMPARE(product.get_warningTime(), 0x00010203);
     QCOMPARE(product.get_upperTemp(), 215);
@@ -155,7 +159,7 @@ void TestQhxImport::group()
     const ProductInfo &group = *menu.groups.front();
     QVERIFY(group.get_isGroup());
     QCOMPARE(group.get_productId(), 9);
-    QCOMPARE(group.get_productName(), QStringList(15, u"Meats"_s));
+    QCOMPARE(group.get_productName(), inEveryLanguage(u"Meats"_s));
     QCOMPARE(group.get_upperTemp(), 215);
     QCOMPARE(group.get_lowerTemp(), 185);
     QCOMPARE(group.get_fanSpeed(), 77);
@@ -294,7 +298,7 @@ void TestQhxImport::names()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, name);
     Menu menu;
-    QCOMPARE(importEntry(menu, {.name = bytes}).get_productName(), QStringList(15, name));
+    QCOMPARE(importEntry(menu, {.name = bytes}).get_productName(), inEveryLanguage(name));
 }
 
 void TestQhxImport::orderOfEntries()
@@ -318,14 +322,14 @@ void TestQhxImport::dayparts()
     Menu menu;
     import(qhx::sample(), menu);
     QCOMPARE(menu.daypartCount, 2);
-    QCOMPARE(menu.dayparts[0].names, QStringList(15, u"BREAKFAST"_s));
-    QCOMPARE(menu.dayparts[1].names, QStringList(15, u"LUNCH/DINNER"_s));
+    QCOMPARE(menu.dayparts[0].names, inEveryLanguage(u"BREAKFAST"_s));
+    QCOMPARE(menu.dayparts[1].names, inEveryLanguage(u"LUNCH/DINNER"_s));
     for (int i = 0; i < menu.dayparts.size(); ++i) {
         QCOMPARE(menu.dayparts[i].inUse, i < 2);
         QCOMPARE(menu.dayparts[i].bins == Daypart().bins, i >= 2);
     }
-    QCOMPARE(menu.dayparts[0].bins[4], (FixedList<int, 4>{12, 0, 0, 12}));
-    QCOMPARE(menu.dayparts[1].bins[0], (FixedList<int, 4>{7, 300, 7, 300}));
+    QCOMPARE(menu.dayparts[0].bins[4], (Row{12, 0, 0, 12}));
+    QCOMPARE(menu.dayparts[1].bins[0], (Row{7, 300, 7, 300}));
 }
 
 void TestQhxImport::placeOfFileBin()
@@ -339,26 +343,17 @@ void TestQhxImport::placeOfFileBin()
 
 void TestQhxImport::binOrder_data()
 {
-    QTest::addColumn<int>("model");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("binsInRow");
-    QTest::newRow("KTR52") << 5 << 5 << 2;
-    QTest::newRow("KTR42") << 7 << 4 << 2;
-    QTest::newRow("KTR22") << 8 << 2 << 2;
-    QTest::newRow("KTR24") << 9 << 2 << 4;
-    QTest::newRow("KTR63") << 10 << 6 << 3;
-    QTest::newRow("KTR32") << 11 << 3 << 2;
-    QTest::newRow("KTR63, other code") << 12 << 6 << 3;
-    QTest::newRow("KTR54") << 6 << 5 << 4;
+    QTest::addColumn<int>("code");
+    for (const int code : {5, 6, 7, 8, 9, 10, 11, 12})
+        QTest::addRow("%s, code %d", qPrintable(modelOf(code)), code) << code;
 }
 
 void TestQhxImport::binOrder()
 {
-    QFETCH(int, model);
-    QFETCH(int, rows);
-    QFETCH(int, binsInRow);
+    QFETCH(int, code);
+    const cabinets::Model &model = cabinets::model(modelOf(code));
     qhx::File file;
-    file.model = quint8(model);
+    file.model = quint8(code);
     for (std::size_t i = 0; i < 20; ++i) {
         file.dayparts[0][i] = quint32(100 + i);
         file.dayparts[1][i] = quint32(200 + i);
@@ -366,10 +361,10 @@ void TestQhxImport::binOrder()
     Menu menu;
     import(file, menu);
     for (int daypart = 0; daypart < 2; ++daypart) {
-        BinTable<int, 8, 4> expected;
+        BinTable<int, maxRows, maxSlots> expected;
         int next = 100 + 100 * daypart;
-        for (int row = rows; row-- > 0;) {
-            for (int bin = 0; bin < binsInRow; ++bin)
+        for (int row = model.rows; row-- > 0;) {
+            for (int bin = 0; bin < model.places(); ++bin)
                 expected[Bin{row, bin}] = next++;
         }
         QVERIFY(menu.dayparts[daypart].bins == expected);
@@ -383,7 +378,7 @@ void TestQhxImport::binsThatNoEntryHas()
     file.dayparts[0] = {4, 99};
     Menu menu;
     import(file, menu);
-    QCOMPARE(menu.dayparts[0].bins[1], (FixedList<int, 4>{4, 99, 0, 0}));
+    QCOMPARE(menu.dayparts[0].bins[1], (Row{4, 99, 0, 0}));
 }
 
 QTEST_APPLESS_MAIN(TestQhxImport)

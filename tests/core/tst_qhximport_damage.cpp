@@ -6,6 +6,7 @@
 #include "holding/menujson.h"
 #include "holding/qhximport.h"
 #include "tests/support/corruption.h"
+#include "tests/support/languages.h"
 #include "tests/support/qhxbuilder.h"
 #include "tests/support/require.h"
 #include "tests/support/warnings.h"
@@ -55,7 +56,7 @@ void checkEntries(const Entries &entries, bool groups)
     for (const auto &entry : entries) {
         REQUIRE(entry->get_productId() != 0);
         REQUIRE_EQUAL(entry->get_isGroup(), groups);
-        REQUIRE_EQUAL(entry->get_productName().size(), 15);
+        REQUIRE_EQUAL(entry->get_productName().size(), languageCount);
         REQUIRE(entry->get_productName().constFirst().size() <= 64);
         REQUIRE_EQUAL(entry->get_productList().size(), groups ? 8 : 0);
     }
@@ -67,8 +68,8 @@ void checkBins(const Menu &menu)
     for (const Daypart &daypart : menu.dayparts) {
         for (int row = 0; row < maxRows; ++row) {
             for (int slot = 0; slot < maxSlots; ++slot) {
-                const bool exists = row < shape.rows && slot < shape.binsPerRow();
-                REQUIRE(exists || daypart.bins[std::size_t(row)][std::size_t(slot)] == emptyBin);
+                const Bin bin{row, slot};
+                REQUIRE(shape.hasBin(bin) || daypart.bins[bin] == emptyBin);
             }
         }
     }

@@ -6,6 +6,8 @@
 
 #include "holding/rowlook.h"
 #include "tests/support/binrows.h"
+#include "tests/support/cabinets.h"
+#include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -18,7 +20,7 @@ class TestRowLook : public QObject
 
 private slots:
     void init() { failOnWarnings(); }
-    void buttonWidths_data();
+    void buttonWidths_data() { cabinets::addModelRows(); }
     void buttonWidths();
     void otherShapesHaveOneWidth();
     void everyRow_data() { binrows::addModels(); }
@@ -31,42 +33,29 @@ private slots:
     void hiddenZonesHaveAWidth();
 };
 
-void TestRowLook::buttonWidths_data()
-{
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<QList<int>>("widths"); // of "1/3", "1/2", "2/3", "1/1"
-    const QList<int> twoBins{112, 194, 112, 394};
-    const QList<int> threeBins{127, 194, 265, 394};
-    const QList<int> twoZones{112, 112, 112, 230};
-    for (const char *model : {"KTR22", "KTR32", "KTR42", "KTR52", "KTR82"})
-        QTest::newRow(model) << QString::fromLatin1(model) << twoBins;
-    for (const char *model : {"KTR33", "KTR63", "ZPV43", "ZPV23"})
-        QTest::newRow(model) << QString::fromLatin1(model) << threeBins;
-    for (const char *model : {"KTR23", "KTR24", "KTR34", "KTR54"})
-        QTest::newRow(model) << QString::fromLatin1(model) << twoZones;
-}
-
 void TestRowLook::buttonWidths()
 {
     QFETCH(QString, model);
-    QFETCH(QList<int>, widths);
-    const CabinetShape shape = cabinetShape(model.startsWith(u'Z') ? u"ZPV"_s : u"QHX"_s, model);
+    const cabinets::Model &expected = cabinets::model(model);
+    const CabinetShape shape = cabinetShape(expected.type, model);
     QVERIFY(shape.isKnown());
-    const QStringList splits{u"1/3"_s, u"1/2"_s, u"2/3"_s, u"1/1"_s};
-    for (qsizetype i = 0; i < splits.size(); ++i)
-        QCOMPARE(binButtonWidth(shape, splits[i]), widths[i]);
-    for (const QString &other : {QString(), u"1/4"_s, u"3/4"_s, u"2/2"_s, u" 1/1"_s, u"1/1 "_s})
+    const cabinets::Zone zone = cabinets::zone(expected.firstZone());
+    const auto &widths = expected.secondZone() > 0 ? zone.widthsBesideZone : zone.widths;
+    for (const QString &splits : cabinets::allSplits())
+        QVERIFY2(binButtonWidth(shape, splits) == widths.value(splits, 112), qPrintable(splits));
+    for (const QString &other : {QString(), u"2/2"_s, u" 1/1"_s, u"1/1 "_s})
         QCOMPARE(binButtonWidth(shape, other), 112);
 }
 
 void TestRowLook::otherShapesHaveOneWidth()
 {
     for (int zones = 0; zones <= 3; ++zones) {
-        for (int bins = 0; bins <= 5; ++bins) {
-            if ((zones == 1 && (bins == 2 || bins == 3)) || (zones == 2 && bins == 2))
+        for (int bins = 0; bins <= 6; ++bins) {
+            const cabinets::Zone zone = cabinets::zone(bins);
+            if ((zones == 1 && !zone.widths.isEmpty()) || (zones == 2 && !zone.widthsBesideZone.isEmpty()))
                 continue;
             const CabinetShape shape{2, quint8(bins), quint8(zones), false};
-            for (const QString &splits : {u"1/4"_s, u"1/3"_s, u"1/2"_s, u"2/3"_s, u"3/4"_s, u"1/1"_s})
+            for (const QString &splits : cabinets::allSplits())
                 QCOMPARE(binButtonWidth(shape, splits), 112);
         }
     }
@@ -74,8 +63,8 @@ void TestRowLook::otherShapesHaveOneWidth()
 
 namespace {
 
-// How a zone shows, a text a bin: "-" is hidden, "h" half a zone wide, "o" as wide as what stands in it. The
-// first pattern that a zone matches decides.
+// How a zone of three bins shows, a letter a bin: "-" is hidden, "h" half a zone wide, "o" as wide as what
+// stands in it. The first pattern that a zone matches decides.
 struct Pattern
 {
     QString zone;
@@ -85,15 +74,19 @@ struct Pattern
 const QList<Pattern> &patterns()
 {
     static const QList<Pattern> all{
-        {u"."_s, u"o"_s},       {u"1."_s, u"o-"_s},        {u".."_s, u"oo"_s},
         {u"1.."_s, u"o--"_s},   {u"(2.|.2)."_s, u"hh-"_s}, {u".1."_s, u"oo-"_s},
         {u"T\\.."_s, u"o-o"_s}, {u".T\\."_s, u"oo-"_s},    {u"..."_s, u"ooo"_s},
     };
     return all;
 }
 
+// In zones of other sizes, a whole hides what follows it.
 QString looksOf(const QString &zone)
 {
+    if (zone.size() != 3) {
+        const qsizetype whole = zone.indexOf(u'1');
+        return QString(whole < 0 ? zone.size() : whole + 1, u'o').leftJustified(zone.size(), u'-');
+    }
     for (const Pattern &pattern : patterns()) {
         if (QRegularExpression(QRegularExpression::anchoredPattern(pattern.zone)).match(zone).hasMatch())
             return pattern.looks;
@@ -125,9 +118,9 @@ void TestRowLook::everyRow()
         expected = expected.leftJustified(maxSlots, u'-');
         for (int slot = 0; slot < maxSlots; ++slot) {
             const BinLook &look = looks[slot];
-            QVERIFY2(look.visible == (expected[slot] != u'-'), qPrintable(fill));
+            REQUIRE(look.visible == (expected[slot] != u'-'), fill);
             if (look.visible)
-                QVERIFY2(look.minimumWidth == widthOf(shape, expected[slot], fill[slot]), qPrintable(fill));
+                REQUIRE(look.minimumWidth == widthOf(shape, expected[slot], fill[slot]), fill);
         }
     });
 }
@@ -169,6 +162,7 @@ void TestRowLook::byTable()
     QList<int> shown;
     for (const BinLook &look : rowLook(shape, entries.row(fill)))
         shown.append(look.visible ? look.minimumWidth : 0);
+    widths.resize(maxSlots);
     QCOMPARE(shown, widths);
 }
 
@@ -200,14 +194,13 @@ void TestRowLook::everyRowFitsItsZones()
                 continue;
             const Zone zone = shape.zoneOfSlot(int(layout.indexOf(name)));
             const int width = zone.count == 1 ? 177 : shape.zones == 2 ? 340 : 394;
-            QCOMPARE(zoneWidth(shape, name == u'a' ? 0 : 1), width);
+            REQUIRE_EQUAL(zoneWidth(shape, name == u'a' ? 0 : 1), width);
             fitIntoZone(looks, zone, width);
-            QVERIFY2(totalWidth(looks, zone, gap) == std::min(width, totalWidth(before, zone, gap)),
-                     qPrintable(fill));
+            REQUIRE(totalWidth(looks, zone, gap) == std::min(width, totalWidth(before, zone, gap)), fill);
         }
         for (int slot = 0; slot < looks.size(); ++slot) {
-            QCOMPARE(looks[slot].visible, before[slot].visible);
-            QVERIFY(looks[slot].minimumWidth >= 112);
+            REQUIRE_EQUAL(looks[slot].visible, before[slot].visible);
+            REQUIRE(looks[slot].minimumWidth >= 112, fill);
         }
     });
 }
@@ -222,7 +215,7 @@ void TestRowLook::whatFitsStaysAsItIs()
             auto looks = rowLook(shape, entries.row(fill));
             const auto before = looks;
             fitIntoZone(looks, shape.zoneOfSlot(0), 394);
-            QVERIFY2(looks == before, qPrintable(fill));
+            REQUIRE(looks == before, fill);
         }
     };
     check(u"KTR33", {u"T.3."_s, u"3T.."_s, u"333."_s, u"22.."_s, u"2..."_s, u"1..."_s});

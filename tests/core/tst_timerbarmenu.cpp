@@ -194,7 +194,7 @@ void TestTimerBarMenu::removalEmptiesEveryCell()
     menu.dayparts[2][3] = {1, 100, 100, 1}; // beyond the model
     menu.dayparts[5][1] = {2, 2, 1, 2};
     QVERIFY(menu.removeFromDayparts(1));
-    using Row = FixedList<int, 4>;
+    using Row = FixedList<int, timerbar::maxColumns>;
     QCOMPARE(menu.dayparts[0][0], (Row{100, 2, 100, 100}));
     QCOMPARE(menu.dayparts[2][3], (Row{100, 100, 100, 100}));
     QCOMPARE(menu.dayparts[5][1], (Row{2, 2, 100, 2}));

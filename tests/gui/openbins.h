@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "tests/gui/openeditor.h"
+#include "tests/support/cabinets.h"
 
 /// An editor with its day-part tab in front.
 class OpenBins : public OpenEditor
@@ -53,7 +54,7 @@ using namespace Qt::StringLiterals;
 inline QJsonObject headerOf(const QString &model, const QJsonObject &changes = {})
 {
     QJsonObject header = samplefile::header(changes);
-    header.insert(u"cabinetType"_s, model.startsWith(u'Z') ? u"ZPV"_s : u"QHX"_s);
+    header.insert(u"cabinetType"_s, cabinets::model(model).type);
     header.insert(u"cabinetModel"_s, model);
     return header;
 }

@@ -9,7 +9,9 @@
 #include <QSignalSpy>
 
 #include "holding/configuration.h"
+#include "tests/support/cabinets.h"
 #include "tests/support/slotlist.h"
+#include "tests/support/textlists.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 
@@ -110,11 +112,10 @@ void TestConfiguration::everyTypeOffersItsModels()
 {
     Configuration dialog;
     ui::show(dialog);
-    QCOMPARE(itemsOf(dialog, "comboUnitModel"), (QStringList{u"ZPV43"_s, u"ZPV23"_s}));
-    ui::choose(dialog, "comboUnitType", u"QHX"_s);
-    QCOMPARE(itemsOf(dialog, "comboUnitModel"),
-             (QStringList{u"KTR22"_s, u"KTR23"_s, u"KTR24"_s, u"KTR32"_s, u"KTR33"_s, u"KTR34"_s, u"KTR42"_s,
-                          u"KTR52"_s, u"KTR54"_s, u"KTR63"_s, u"KTR82"_s}));
+    for (const QString &type : {u"ZPV"_s, u"QHX"_s}) {
+        ui::choose(dialog, "comboUnitType", type);
+        QCOMPARE(differenceOf(itemsOf(dialog, "comboUnitModel"), cabinets::modelNames(type)), QString());
+    }
 }
 
 void TestConfiguration::changingTheTypeSelectsItsFirstModel()

@@ -6,6 +6,7 @@
 #include "holding/configuration.h"
 #include "holding/menujson.h"
 #include "tests/gui/openbins.h"
+#include "tests/support/cabinets.h"
 #include "tests/support/modalanswers.h"
 #include "tests/support/require.h"
 #include "tests/support/testfolder.h"
@@ -36,7 +37,7 @@ void choose(OpenBins &editor, const QString &model, bool otherBinsPerZone)
 {
     ModalAnswers answers;
     answers.expect<Configuration>([model](Configuration &dialog) {
-        ui::choose(dialog, "comboUnitType", model.startsWith(u'Z') ? u"ZPV"_s : u"QHX"_s);
+        ui::choose(dialog, "comboUnitType", cabinets::model(model).type);
         ui::choose(dialog, "comboUnitModel", model);
         ui::click(dialog, "btnAccept");
     });
@@ -56,11 +57,10 @@ void choose(OpenBins &editor, const QString &model, bool otherBinsPerZone)
 QStringList shownRows(OpenBins &editor)
 {
     QStringList rows;
-    const holding::CabinetShape shape =
-        holding::cabinetShape(editor->getCabinetType(), editor->getCabinetModel());
-    for (int row = 0; row < shape.rows; ++row) {
+    const cabinets::Model &cabinet = cabinets::model(editor->getCabinetModel());
+    for (int row = 0; row < cabinet.rows; ++row) {
         QStringList names;
-        for (int slot = 0; slot < shape.binsPerRow() - (shape.singleBinSecondZone ? 1 : 0); ++slot) {
+        for (int slot = 0; slot < cabinet.row.size(); ++slot) {
             if (editor.button(row, slot).isVisible())
                 names.append(editor.button(row, slot).text());
         }
@@ -119,13 +119,11 @@ void TestDaypartConfiguration::backToTheSelectorsFirst()
 // The grid of a model does not depend on the one that was shown before.
 void TestDaypartConfiguration::everyModelAfterEveryOther()
 {
-    QStringList models = holding::cabinetModels(u"QHX"_s) + holding::cabinetModels(u"ZPV"_s);
-    QCOMPARE(models.size(), 13);
+    const QStringList models = cabinets::modelNames();
     OpenBins editor(bins::menuOf(models.constFirst(), {}));
     for (const QString &model : models + QStringList(models.rbegin(), models.rend())) {
         const int before = editor->getBinsPerZone();
-        const int after =
-            holding::cabinetShape(model.startsWith(u'Z') ? u"ZPV"_s : u"QHX"_s, model).binsPerZone;
+        const int after = cabinets::model(model).firstZone();
         choose(editor, model, before != after);
         OpenBins fresh(bins::menuOf(model, {}));
         for (const QPushButton *button : fresh.widget("frameGrid").findChildren<QPushButton *>()) {
@@ -166,9 +164,7 @@ void TestDaypartConfiguration::newMenuHasTheTwoDayparts()
 
 void TestDaypartConfiguration::fullMenusStayTheSame_data()
 {
-    QTest::addColumn<QString>("model");
-    for (const QString &model : holding::cabinetModels(u"QHX"_s) + holding::cabinetModels(u"ZPV"_s))
-        QTest::newRow(qPrintable(model)) << model;
+    cabinets::addModelRows();
 }
 
 // Ten day parts, every bin of both zones filled, every split.
@@ -179,7 +175,7 @@ void TestDaypartConfiguration::fullMenusStayTheSame()
     sample.layout = {};
     for (int i = 0; i < 10; ++i) {
         QList<int> ids;
-        for (int bin = 0; bin < 32; ++bin)
+        for (int bin = 0; bin < holding::maxRows * holding::maxSlots; ++bin)
             ids.append(1 + (i + bin * 7 + bin / 4) % 5);
         QJsonObject daypart = samplefile::daypart(u"Part %1"_s.arg(i), ids);
         daypart.insert(u"inUse"_s, i % 3 == 0);
@@ -199,13 +195,12 @@ void TestDaypartConfiguration::fullMenusStayTheSame()
         selector.setCurrentIndex(i); // looking changes nothing
     QVERIFY(second.writeToFile(folder.path(u"second.json"_s)));
     QCOMPARE(contentOf(folder.path(u"second.json"_s)), bytes);
-    const holding::CabinetShape shape =
-        holding::cabinetShape(model.startsWith(u'Z') ? u"ZPV"_s : u"QHX"_s, model);
+    const cabinets::Model &cabinet = cabinets::model(model);
     for (int i = 0; i < 10; ++i) {
         QList<int> ids = samplefile::binsOf(samplefile::menuOf(first.filePath()), i);
-        QCOMPARE(ids.size(), shape.rows * shape.binsPerRow());
+        QCOMPARE(ids.size(), cabinet.rows * cabinet.places());
         for (int bin = 0; bin < ids.size(); ++bin) {
-            const bool missing = shape.singleBinSecondZone && bin % 4 == 3;
+            const bool missing = bin % cabinet.places() >= cabinet.row.size();
             QCOMPARE(ids[bin], missing ? 0 : 1 + (i + bin * 7 + bin / 4) % 5);
         }
     }

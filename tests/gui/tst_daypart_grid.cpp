@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/gui/openbins.h"
+#include "tests/support/cabinets.h"
+#include "tests/support/textlists.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -13,11 +15,11 @@ class TestDaypartGrid : public QObject
 
 private slots:
     void init() { failOnWarnings(); }
-    void models_data();
+    void models_data() { cabinets::addModelRows(); }
     void models();
     void fullRows_data();
     void fullRows();
-    void everyModelInEverySplit_data();
+    void everyModelInEverySplit_data() { cabinets::addModelRows(); }
     void everyModelInEverySplit();
     void buttonsFillTheirZone();
     void nothingMovesTheBins_data();
@@ -34,23 +36,6 @@ private slots:
 
 namespace {
 
-const QStringList &allButtons()
-{
-    static const QStringList names = [] {
-        QStringList all;
-        for (int row = 0; row < 8; ++row) {
-            for (int bin = 0; bin < (row < 6 ? 3 : 2); ++bin)
-                all.append(u"btnDaypartSelect%1_%2"_s.arg(row).arg(bin));
-        }
-        for (int row = 0; row < 5; ++row) {
-            for (int bin = 0; bin < 2; ++bin)
-                all.append(u"btnDaypartSelectB%1_%2"_s.arg(row).arg(bin));
-        }
-        return all;
-    }();
-    return names;
-}
-
 QPushButton &buttonNamed(OpenBins &editor, const QString &name)
 {
     return ui::get<QPushButton>(*editor, name.toLatin1().constData());
@@ -59,7 +44,7 @@ QPushButton &buttonNamed(OpenBins &editor, const QString &name)
 QStringList visibleButtons(OpenBins &editor)
 {
     QStringList names;
-    for (const QString &name : allButtons()) {
+    for (const QString &name : cabinets::binButtons()) {
         if (buttonNamed(editor, name).isVisible())
             names.append(name);
     }
@@ -77,53 +62,23 @@ QList<int> widthsInRow(OpenBins &editor, int row, int slots_)
     return widths;
 }
 
-void addModels()
-{
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("firstZone");
-    QTest::addColumn<int>("secondZone");
-    const auto add = [](const char *model, int rows, int firstZone, int secondZone) {
-        QTest::newRow(model) << QString::fromLatin1(model) << rows << firstZone << secondZone;
-    };
-    add("KTR22", 2, 2, 0);
-    add("KTR23", 2, 2, 1);
-    add("KTR24", 2, 2, 2);
-    add("KTR32", 3, 2, 0);
-    add("KTR33", 3, 3, 0);
-    add("KTR34", 3, 2, 2);
-    add("KTR42", 4, 2, 0);
-    add("KTR52", 5, 2, 0);
-    add("KTR54", 5, 2, 2);
-    add("KTR63", 6, 3, 0);
-    add("KTR82", 8, 2, 0);
-    add("ZPV43", 4, 3, 0);
-    add("ZPV23", 2, 3, 0);
-}
-
 } // namespace
-
-void TestDaypartGrid::models_data()
-{
-    addModels();
-}
 
 void TestDaypartGrid::models()
 {
     QFETCH(QString, model);
-    QFETCH(int, rows);
-    QFETCH(int, firstZone);
-    QFETCH(int, secondZone);
+    const cabinets::Model &cabinet = cabinets::model(model);
+    const int secondZone = cabinet.secondZone();
     OpenBins editor(bins::menuOf(model, {}));
     QStringList expected;
-    for (const QString &name : allButtons()) {
+    for (const QString &name : cabinets::binButtons()) {
         const QString place = name.sliced(16);
         const bool second = place.startsWith(u'B');
         const int row = place[second ? 1 : 0].digitValue();
-        if (row < rows && place.back().digitValue() < (second ? secondZone : firstZone))
+        if (row < cabinet.rows && place.back().digitValue() < (second ? secondZone : cabinet.firstZone()))
             expected.append(name);
     }
-    QCOMPARE(visibleButtons(editor), expected);
+    QCOMPARE(differenceOf(visibleButtons(editor), expected), QString());
     for (const QString &name : expected) {
         QPushButton &button = buttonNamed(editor, name);
         QCOMPARE(button.minimumWidth(), 112);
@@ -177,32 +132,26 @@ void TestDaypartGrid::fullRows()
     QCOMPARE(editor.savedBins(0).first(ids.size()), ids);
 }
 
-void TestDaypartGrid::everyModelInEverySplit_data()
-{
-    addModels();
-}
-
 // Each row of each cabinet in each split: the buttons stand side by side inside the zone, rows below one
 // another, the second zone beside the first with a gap that is wider than the one between bins.
 void TestDaypartGrid::everyModelInEverySplit()
 {
     QFETCH(QString, model);
-    QFETCH(int, rows);
-    QFETCH(int, firstZone);
-    QFETCH(int, secondZone);
-    const int perRow = secondZone > 0 ? 4 : firstZone;
+    const cabinets::Model &cabinet = cabinets::model(model);
+    const auto [rows, firstZone] = std::pair(cabinet.rows, cabinet.firstZone());
+    const int perRow = cabinet.places();
     for (const int id : {0, 1, 2, 3, 4}) {
         QList<int> ids(rows * perRow, 0);
         for (int row = 0; row < rows; ++row) {
             ids[row * perRow] = id;
-            if (secondZone > 0)
+            if (cabinet.secondZone() > 0)
                 ids[row * perRow + firstZone] = id; // in the one-bin zone too, as another cabinet left it
         }
         OpenBins editor(bins::menuOf(model, ids));
         int bottom = -1;
         for (int row = 0; row < rows; ++row) {
             int right = -1;
-            for (int slot = 0; slot < firstZone + secondZone; ++slot) {
+            for (int slot = 0; slot < cabinet.row.size(); ++slot) {
                 QPushButton &button = editor.button(row, slot);
                 if (button.isHidden())
                     continue;

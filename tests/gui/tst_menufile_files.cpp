@@ -9,6 +9,7 @@
 #include "holding/configuration.h"
 #include "holding/menufile.h"
 #include "tests/support/hardship.h"
+#include "tests/support/languages.h"
 #include "tests/support/program.h"
 #include "tests/support/samplefile.h"
 #include "tests/support/testfolder.h"
@@ -347,9 +348,9 @@ void TestMenuFileFiles::namesGoThroughTheSlots()
 {
     const TestFolder folder;
     MenuFile editor(folder.make(u"menu.json"_s, fullMenu().bytes()));
-    QCOMPARE(editor.setNameListToJson(QStringList(15, u"Ham"_s)), samplefile::names(u"Ham"_s));
-    QCOMPARE(editor.readNameTranslationsFromJson(samplefile::names(u"Ham"_s)), QStringList(15, u"Ham"_s));
-    QStringList onlyFirst(15);
+    QCOMPARE(editor.setNameListToJson(inEveryLanguage(u"Ham"_s)), samplefile::names(u"Ham"_s));
+    QCOMPARE(editor.readNameTranslationsFromJson(samplefile::names(u"Ham"_s)), inEveryLanguage(u"Ham"_s));
+    QStringList onlyFirst = inEveryLanguage({});
     onlyFirst[0] = u"Ham"_s;
     QCOMPARE(editor.readNameTranslationsFromJson({{u"eng_USA"_s, u"Ham"_s}}), onlyFirst);
 }

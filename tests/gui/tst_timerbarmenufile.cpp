@@ -5,6 +5,7 @@
 #include "tests/gui/timerbarbuttons.h"
 #include "tests/support/slotlist.h"
 #include "tests/support/testfolder.h"
+#include "tests/support/textlists.h"
 #include "tests/support/warnings.h"
 #include "timerbar/binbuttons.h"
 #include "timerbar/timerbarconfig.h"
@@ -101,7 +102,8 @@ void TestTimerBarMenuFile::slotsAreInOrder()
                             u"on_listWidgetProducts_itemDoubleClicked(QListWidgetItem* item)"_s,
                             u"on_comboDaypartSelect_currentIndexChanged(int index)"_s,
                             u"on_listWidgetProducts_itemChanged(QListWidgetItem* item)"_s};
-    QCOMPARE(ownSlots(TimerBarMenuFile::staticMetaObject), before + binButtonSlots() + after);
+    const QStringList expected = before + binButtonSlots() + after;
+    QCOMPARE(differenceOf(ownSlots(TimerBarMenuFile::staticMetaObject), expected), QString());
 }
 
 // A model's bins, the form's buttons and the editor's list of them belong together.
@@ -110,7 +112,8 @@ void TestTimerBarMenuFile::everyButtonIsABin()
 #define NAME_OF(button, row, column) QStringLiteral(#button),
     QStringList listed{FOR_EACH_TIMER_BAR_BIN_BUTTON(NAME_OF)};
 #undef NAME_OF
-    QCOMPARE(listed, timerbarbuttons::namesOf(timerbarbuttons::allBins()));
+    const QStringList expected = timerbarbuttons::namesOf(timerbarbuttons::allBins());
+    QCOMPARE(differenceOf(listed, expected), QString());
     OpenTimerBar editor(baconHamChili());
     QStringList inTheForm;
     for (const QPushButton *button : editor->findChildren<QPushButton *>()) {
@@ -119,7 +122,7 @@ void TestTimerBarMenuFile::everyButtonIsABin()
     }
     inTheForm.sort();
     listed.sort();
-    QCOMPARE(inTheForm, listed);
+    QCOMPARE(differenceOf(inTheForm, listed), QString());
 }
 
 void TestTimerBarMenuFile::newMenuAsksForTheCabinet()

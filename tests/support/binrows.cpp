@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+#include "tests/support/cabinets.h"
+
 using namespace Qt::StringLiterals;
 using namespace holding;
 
@@ -20,24 +22,8 @@ void addModels()
 {
     QTest::addColumn<CabinetShape>("shape");
     QTest::addColumn<QString>("layout");
-    const std::array<std::pair<const char *, const char *>, 13> models{{{"KTR22", "aa"},
-                                                                        {"KTR23", "aab"},
-                                                                        {"KTR24", "aabb"},
-                                                                        {"KTR32", "aa"},
-                                                                        {"KTR33", "aaa"},
-                                                                        {"KTR34", "aabb"},
-                                                                        {"KTR42", "aa"},
-                                                                        {"KTR52", "aa"},
-                                                                        {"KTR54", "aabb"},
-                                                                        {"KTR63", "aaa"},
-                                                                        {"KTR82", "aa"},
-                                                                        {"ZPV43", "aaa"},
-                                                                        {"ZPV23", "aaa"}}};
-    for (const auto &[model, layout] : models) {
-        const QString name = QString::fromLatin1(model);
-        QTest::newRow(model) << cabinetShape(name.first(1) == u'Z' ? u"ZPV"_s : u"QHX"_s, name)
-                             << QString::fromLatin1(layout);
-    }
+    for (const cabinets::Model &model : cabinets::models())
+        QTest::newRow(qPrintable(model.name)) << cabinetShape(model.type, model.name) << model.row;
 }
 
 void addShapes()
@@ -49,16 +35,17 @@ void addShapes()
 void forEachRow(const std::function<void(const QString &)> &look)
 {
     const QString fills = u".?"_s + entryFills;
-    for (const QChar first : fills) {
-        for (const QChar second : fills) {
-            for (const QChar third : fills) {
-                for (const QChar fourth : fills) {
-                    if (!QTest::currentTestFailed())
-                        look(QString(first) + second + third + fourth);
-                }
-            }
+    QStringList rows{QString()};
+    for (int slot = 0; slot < maxSlots; ++slot) {
+        QStringList longer;
+        for (const QString &row : std::as_const(rows)) {
+            for (const QChar fill : fills)
+                longer.append(row + fill);
         }
+        rows = longer;
     }
+    for (const QString &row : std::as_const(rows))
+        look(row);
 }
 
 QString zoneOf(const QString &fill, const QString &layout, int slot)
@@ -93,13 +80,13 @@ QString splitsOf(QChar fill)
 Entries::Entries()
 {
     for (int slot = 0; slot < maxSlots; ++slot) {
-        for (qsizetype i = 0; i < entryFills.size(); ++i) {
+        for (const QChar fill : entryFills) {
             auto entry = std::make_unique<ProductInfo>();
             entry->set_upperTemp(201 + slot);
             entry->set_lowerTemp(101 + slot);
             entry->set_fanSpeed(10 + 10 * slot);
-            entry->set_zoneSplits(splitsOf(entryFills[i]));
-            m_entries[slot][i] = std::move(entry);
+            entry->set_zoneSplits(splitsOf(fill));
+            m_entries[slot].push_back(std::move(entry));
         }
     }
 }
@@ -108,9 +95,9 @@ RowContent Entries::row(const QString &fill) const
 {
     RowContent row;
     for (int slot = 0; slot < row.size(); ++slot) {
-        const QChar content = fill[slot];
+        const QChar content = slot < fill.size() ? fill[slot] : u'.';
         const qsizetype entry = entryFills.indexOf(content);
-        row[slot] = {content != u'.', entry < 0 ? nullptr : m_entries[slot][entry].get()};
+        row[slot] = {content != u'.', entry < 0 ? nullptr : m_entries[slot].at(std::size_t(entry)).get()};
     }
     return row;
 }

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include <QMetaType>
 #include <QString>
@@ -24,7 +24,7 @@ void addModels();
 /// The same, and a shape with four bins a zone, which no model has.
 void addShapes();
 
-/// Calls `look` with every way to fill four slots.
+/// Calls `look` with every way to fill the slots of a row.
 void forEachRow(const std::function<void(const QString &)> &look);
 
 /// The slots of the slot's zone.
@@ -40,10 +40,11 @@ class Entries
 {
 public:
     Entries();
+    /// Slots that are not written are empty.
     [[nodiscard]] holding::RowContent row(const QString &fill) const;
 
 private:
-    FixedList<FixedList<std::unique_ptr<ProductInfo>, 4>, holding::maxSlots> m_entries;
+    FixedList<std::vector<std::unique_ptr<ProductInfo>>, holding::maxSlots> m_entries;
 };
 
 } // namespace binrows

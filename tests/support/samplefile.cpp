@@ -5,6 +5,7 @@
 
 #include <QJsonDocument>
 
+#include "tests/support/languages.h"
 #include "tests/support/testfolder.h"
 
 using namespace Qt::StringLiterals;
@@ -25,8 +26,7 @@ QJsonObject with(QJsonObject object, const QJsonObject &changes)
 QJsonObject names(const QString &name)
 {
     QJsonObject json;
-    for (const char *language : {"eng_USA", "spa", "fra", "spa_mx", "fra_ca", "deu", "ita", "nld", "pol",
-                                 "por", "rus", "ara", "kor", "zh_cn", "jpn"})
+    for (const char *language : languageKeys)
         json.insert(QLatin1StringView(language), name);
     return json;
 }

@@ -5,6 +5,8 @@
 
 #include <QDebug>
 
+#include "tests/support/languages.h"
+
 using namespace Qt::StringLiterals;
 using namespace holding;
 
@@ -27,7 +29,7 @@ struct Settings
 
 QStringList padded(QStringList names)
 {
-    names.resize(15);
+    names.resize(languageCount);
     return names;
 }
 
@@ -64,9 +66,9 @@ void addRichProducts(Menu &menu)
 {
     ProductInfo &locked =
         addProduct(menu, 12,
-                   {u"Käse-Spätzle"_s, u"Tocino \"extra\""_s, u"Crème brûlée"_s, u"Chile\\Lima"_s,
-                    u"Poutine/Frites"_s, u"Würstchen & Brötchen"_s, u"Caffè <corto>"_s, u"IJs"_s, u"Żurek"_s,
-                    u"Pão"_s, u"Борщ"_s, u"فول"_s, u"김치"_s, u"炒饭"_s, u"寿司🍣"_s},
+                   padded({u"Käse-Spätzle"_s, u"Tocino \"extra\""_s, u"Crème brûlée"_s, u"Chile\\Lima"_s,
+                           u"Poutine/Frites"_s, u"Würstchen & Brötchen"_s, u"Caffè <corto>"_s, u"IJs"_s,
+                           u"Żurek"_s, u"Pão"_s, u"Борщ"_s, u"فول"_s, u"김치"_s, u"炒饭"_s, u"寿司🍣"_s}),
                    {3600, 600, 200, 215, 60, 300, u"1/2"_s, u"Solid"_s, u"False"_s});
     locked.set_productLocked(true);
     locked.set_timerColor(u"#402100"_s);
@@ -76,16 +78,16 @@ void addRichProducts(Menu &menu)
         padded({u"Chicken "_s.repeated(25), u"tab\there"_s, u"line\nbreak\r\f\b"_s, u"\x01\x1f\x7f"_s}),
         {2147483647, 0, -40, -2147483647 - 1, 10000, 86399, u"1/1"_s, {}, {}})
         .set_timerColor(u"no colour"_s);
-    addProduct(menu, -5, QStringList(15, u"Negative"_s),
+    addProduct(menu, -5, inEveryLanguage(u"Negative"_s),
                {900, 300, 0, 0, 0, 0, u"7/9"_s, u"None"_s, u"Normal"_s});
-    addProduct(menu, 12, QStringList(15, u"Same id"_s),
+    addProduct(menu, 12, inEveryLanguage(u"Same id"_s),
                {360, 359, 190, 190, 3500, 3599, u"1/2"_s, u"Vented"_s, u"Normal"_s})
         .set_timerColor(u"#ffffff"_s);
 }
 
 void addRichGroups(Menu &menu)
 {
-    ProductInfo &group = addGroup(menu, 13, QStringList(15, u"Größe <M>"_s), {12, 3, 99});
+    ProductInfo &group = addGroup(menu, 13, inEveryLanguage(u"Größe <M>"_s), {12, 3, 99});
     group.set_zoneSplits(u"1/2"_s);
     group.set_lowerTemp(200);
     group.set_upperTemp(215);
@@ -101,7 +103,7 @@ void fillRichDayparts(Menu &menu)
     menu.daypartCount = maxDayparts;
     for (std::size_t i = 0; i < maxDayparts; ++i) {
         Daypart &daypart = menu.dayparts[i];
-        daypart.names = QStringList(15, u"Part %1"_s.arg(i + 1));
+        daypart.names = inEveryLanguage(u"Part %1"_s.arg(i + 1));
         daypart.inUse = i % 3 != 1;
         for (std::size_t row = 0; row < 2; ++row) {
             for (std::size_t slot = 0; slot < 3; ++slot)
@@ -144,8 +146,11 @@ void describeDaypart(const Daypart &daypart, QStringList &lines)
     QString text;
     QDebug debug(&text);
     debug << "day part" << daypart.names << daypart.inUse;
-    for (const auto &row : daypart.bins)
-        debug << row[0] << row[1] << row[2] << row[3] << ";";
+    for (const auto &row : daypart.bins) {
+        for (const int id : row)
+            debug << id;
+        debug << ";";
+    }
     lines.append(text);
 }
 
@@ -172,9 +177,9 @@ Menu plain()
     Menu menu;
     menu.configuration.type = u"ZPV"_s;
     menu.configuration.model = u"ZPV23"_s;
-    addProduct(menu, 1, QStringList(15, u"Chili"_s),
+    addProduct(menu, 1, inEveryLanguage(u"Chili"_s),
                {5400, 1500, 190, 190, 60, 300, u"1/3"_s, u"None"_s, u"Normal"_s});
-    ProductInfo &group = addGroup(menu, 2, QStringList(15, u"Stews"_s), {1});
+    ProductInfo &group = addGroup(menu, 2, inEveryLanguage(u"Stews"_s), {1});
     group.set_zoneSplits(u"1/3"_s);
     group.set_lowerTemp(190);
     group.set_upperTemp(190);
