@@ -11,6 +11,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+#include "app/productlines.h"
 #include "app/selectproductline.h"
 #include "tests/support/require.h"
 #include "tests/support/uidriver.h"
@@ -82,10 +83,7 @@ void Chapter::expectProductLine(Answers &answers, const QString &name)
 void Chapter::openFile(const QString &path)
 {
     Answers answers(*this);
-    answers.expectFileDialog(u"Open JSON Menu"_s,
-                             u"Varno Menu Files (*.json *.qhx *.txt *.cbr);;QHX Json Menu Files (*.json);;"
-                             "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"_s,
-                             path);
+    answers.expectFileDialog(u"Open JSON Menu"_s, openFilter(), path);
     ui::clickMenu(window(), "menuFile", "actionOpen");
     REQUIRE(activeWidget());
 }

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include "app/productlines.h"
 #include "tests/support/require.h"
 #include "tests/support/shownwidgets.h"
 
@@ -21,13 +22,16 @@ namespace {
 
 bool isData(const QString &text, const QStringList &names)
 {
-    static const QRegularExpression data(
-        u"^(QHX|ZPV|QHX/ZPV|Savorix|Timer Bar Cabinet|KTR\\d\\d|ZPV\\d\\d" // cabinets
-        u"|-?\\d+(°[FC])?|°[FC]|\\d/\\d|\\d\\d:\\d\\d(:\\d\\d)?"           // numbers
-        u"|#[0-9a-f]{6})$"_s);                                             // colours
+    static const QRegularExpression data(u"^(QHX|ZPV|KTR\\d\\d|ZPV\\d\\d"                         // cabinets
+                                         u"|-?\\d+(°[FC])?|°[FC]|\\d/\\d|\\d\\d:\\d\\d(:\\d\\d)?" // numbers
+                                         u"|#[0-9a-f]{6})$"_s);                                   // colours
     static const QRegularExpression rowNumber(u"^ *\\d+ "_s);
+    const QList<ProductLine> &lines = productLines();
+    const bool isLine =
+        std::any_of(lines.begin(), lines.end(), [&](const ProductLine &line) { return line.name == text; });
     QString name = text;
-    return names.contains(text) || names.contains(name.remove(rowNumber)) || data.match(text).hasMatch();
+    return isLine || names.contains(text) || names.contains(name.remove(rowNumber)) ||
+           data.match(text).hasMatch();
 }
 
 } // namespace

@@ -59,11 +59,14 @@ private slots:
     void formIsAmongThem();
     void editorIsAmongThem_data();
     void editorIsAmongThem();
+    void editorBelongsToALine_data();
+    void editorBelongsToALine();
 
 private:
-    QStringList m_windows; ///< class names
-    QStringList m_panes;   ///< of what is in the windows
-    QStringList m_lines;   ///< names of the product lines whose editors are among the windows
+    QStringList m_windows;         ///< class names
+    QStringList m_panes;           ///< of what is in the windows
+    QStringList m_lines;           ///< names of the product lines whose editors are among the windows
+    QMap<QString, bool> m_editors; ///< class names of the editors; true for those of a product line
 };
 
 void TestEveryWindow::initTestCase()
@@ -74,10 +77,13 @@ void TestEveryWindow::initTestCase()
         m_windows.append(className(open.window()));
         for (const QWidget *widget : open.window().findChildren<QWidget *>())
             m_panes.append(className(*widget));
+        const qsizetype before = m_lines.size();
         for (const ProductLine &line : productLines()) {
             if (line.editor.cast(&open.window()))
                 m_lines.append(line.name);
         }
+        if (qobject_cast<const MenuEditor *>(&open.window()))
+            m_editors.insert(className(open.window()), m_lines.size() > before);
     }
 }
 
@@ -110,6 +116,21 @@ void TestEveryWindow::editorIsAmongThem()
 {
     QFETCH(const QString, line);
     QVERIFY2(m_lines.contains(line), qPrintable(u"everyWindow() lacks the editor of "_s + line));
+}
+
+void TestEveryWindow::editorBelongsToALine_data()
+{
+    QTest::addColumn<bool>("belongs");
+    QVERIFY(!m_editors.isEmpty());
+    for (auto editor = m_editors.begin(); editor != m_editors.end(); ++editor)
+        QTest::newRow(qPrintable(editor.key())) << editor.value();
+}
+
+void TestEveryWindow::editorBelongsToALine()
+{
+    QFETCH(const bool, belongs);
+    QVERIFY2(belongs, qPrintable(u"productLines() lacks the line of "_s +
+                                 QString::fromLatin1(QTest::currentDataTag())));
 }
 
 QTEST_MAIN(TestEveryWindow)

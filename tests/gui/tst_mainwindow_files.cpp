@@ -172,7 +172,7 @@ void TestMainWindowFiles::otherEndingIsIgnored()
 void TestMainWindowFiles::openCancelledOpensNothing()
 {
     Program program;
-    program.answers().expectOpenDialog({});
+    program.expectOpenDialog({});
     QVERIFY(!program.openNow());
     QCOMPARE(program.menuCount(), 0);
 }

@@ -5,30 +5,15 @@
 
 #include "app/productlines.h"
 #include "app/selectproductline.h"
-#include "tests/support/cbrbuilder.h"
-#include "tests/support/lanefile.h"
 #include "tests/support/program.h"
-#include "tests/support/qhxbuilder.h"
 #include "tests/support/require.h"
-#include "tests/support/samplefile.h"
+#include "tests/support/textlists.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QByteArray laneText = lanefile::text("T1=350,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0");
-
-// A menu of the line whose files have the suffix.
-QByteArray bytesOf(const QString &suffix)
-{
-    if (suffix == "json"_L1)
-        return samplefile::Menu{}.bytes();
-    if (suffix == "qhx"_L1)
-        return qhx::sample().bytes();
-    return suffix == "txt"_L1 ? laneText : cbr::Menu{}.bytes();
-}
 
 void checkEditor(const QMdiSubWindow *subWindow, Line line)
 {
@@ -49,6 +34,8 @@ class TestProductLines : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void chooserOffersThemInOrder();
+    void everyLineIsKnownToTheTests_data();
+    void everyLineIsKnownToTheTests();
     void openFilterNamesThemInOrder();
     void newOpensTheEditor_data() { addLineRows(); }
     void newOpensTheEditor();
@@ -62,10 +49,38 @@ private slots:
 
 void TestProductLines::chooserOffersThemInOrder()
 {
+    QStringList names;
+    for (const Line line : allLines)
+        names.append(namesOf(line).chooser);
     const SelectProductLine dialog;
     const auto &combo = ui::get<QComboBox>(dialog, "comboProductLineSelect");
-    QCOMPARE(ui::textsOf(combo), (QStringList{u"QHX/ZPV"_s, u"Savorix"_s, u"Timer Bar Cabinet"_s}));
+    QCOMPARE(differenceOf(ui::textsOf(combo), names), QString());
     QCOMPARE(combo.currentIndex(), 0);
+}
+
+void TestProductLines::everyLineIsKnownToTheTests_data()
+{
+    QTest::addColumn<QStringList>("suffixes");
+    for (const ProductLine &line : productLines()) {
+        QStringList suffixes;
+        for (const QLatin1StringView suffix : line.suffixes)
+            suffixes.append(suffix);
+        QTest::newRow(qPrintable(line.name)) << suffixes;
+    }
+}
+
+void TestProductLines::everyLineIsKnownToTheTests()
+{
+    QFETCH(const QStringList, suffixes);
+    QStringList known;
+    for (const Line line : allLines) {
+        if (namesOf(line).chooser != QString::fromUtf8(QTest::currentDataTag()))
+            continue;
+        for (const LineFile &file : namesOf(line).files)
+            known.append(u'.' + file.suffix);
+    }
+    QVERIFY2(!known.isEmpty(), "tests/support/program.cpp lacks this line");
+    QCOMPARE(differenceOf(suffixes, known), QString());
 }
 
 void TestProductLines::openFilterNamesThemInOrder()
@@ -83,32 +98,38 @@ void TestProductLines::newOpensTheEditor()
     QCOMPARE(subWindow->windowTitle(), namesOf(line).newTitle);
 }
 
+namespace {
+
+QString otherSuffix(Line line)
+{
+    return namesOf(line == Line::Holding ? Line::Lanes : Line::Holding).files.constFirst().suffix;
+}
+
+} // namespace
+
 void TestProductLines::openGoesByTheSuffix_data()
 {
     QTest::addColumn<Line>("line");
-    QTest::addColumn<QString>("kind");
-    const auto row = [](const char *name, Line line, const QString &kind) {
-        QTest::newRow(name) << line << kind;
-    };
-    row("MENU.JSON", Line::Holding, u"json"_s);
-    row("menu.json", Line::Holding, u"json"_s);
-    row("menu.txt.json", Line::Holding, u"json"_s);
-    row("menu.qhx", Line::Holding, u"qhx"_s);
-    row("menu.QHX", Line::Holding, u"qhx"_s);
-    row("svrxconfig_a.txt", Line::Lanes, u"txt"_s);
-    row("conf.TXT", Line::Lanes, u"txt"_s);
-    row("menu.json.txt", Line::Lanes, u"txt"_s);
-    row("menu.cbr", Line::TimerBar, u"cbr"_s);
-    row("Menu.Cbr", Line::TimerBar, u"cbr"_s);
+    QTest::addColumn<QByteArray>("bytes");
+    for (const Line line : allLines) {
+        for (const LineFile &file : namesOf(line).files) {
+            const QStringList names{u"menu."_s + file.suffix, u"MENU."_s + file.suffix.toUpper(),
+                                    u"menu."_s + otherSuffix(line) + u'.' + file.suffix};
+            for (const QString &name : names)
+                QTest::newRow(qPrintable(name)) << line << file.sample();
+        }
+    }
+    QTest::newRow("svrxconfig_a.txt") << Line::Lanes << namesOf(Line::Lanes).files.constFirst().sample();
+    QTest::newRow("Menu.Cbr") << Line::TimerBar << namesOf(Line::TimerBar).files.constFirst().sample();
 }
 
 void TestProductLines::openGoesByTheSuffix()
 {
     QFETCH(const Line, line);
-    QFETCH(const QString, kind);
+    QFETCH(const QByteArray, bytes);
     const QString name = QString::fromLatin1(QTest::currentDataTag());
     Program program;
-    const QMdiSubWindow *subWindow = program.open(name, bytesOf(kind));
+    const QMdiSubWindow *subWindow = program.open(name, bytes);
     checkEditor(subWindow, line);
     QCOMPARE(subWindow->windowTitle(), u"Menu File - "_s + name);
 }
@@ -133,14 +154,23 @@ void TestProductLines::saveAsksForAName()
 
 namespace {
 
+// The names of the files of a menu with a name and of one that gets its name later.
+QString namedFile(Line line)
+{
+    return u"a."_s + namesOf(line).files.constFirst().suffix;
+}
+
+QString newFile(Line line)
+{
+    return u"svrxconfig_"_s + namesOf(line).files.constFirst().suffix;
+}
+
 // One menu of each line without a name, after one of each line with one, whose files are then emptied.
 void openAllLines(Program &program)
 {
     for (const Line line : allLines) {
-        const QString kind = QStringList{u"json"_s, u"txt"_s, u"cbr"_s}.at(static_cast<int>(line));
-        const QString name = u"a."_s + kind;
-        checkEditor(program.open(name, bytesOf(kind)), line);
-        program.folder().make(name, {});
+        checkEditor(program.open(namedFile(line), namesOf(line).files.constFirst().sample()), line);
+        program.folder().make(namedFile(line), {});
         checkEditor(program.newMenu(line), line);
     }
 }
@@ -160,12 +190,18 @@ void TestProductLines::exitSavesThemAll()
     Program program;
     openAllLines(program);
     const TestFolder &folder = program.folder();
-    expectNames(program, {folder.path(u"n.json"_s), folder.path(u"svrxconfig_n"_s), folder.path(u"n.cbr"_s)});
+    QStringList paths;
+    QStringList expected{u"svrxprod_txt"_s};
+    for (const Line line : allLines) {
+        paths.append(folder.path(newFile(line)));
+        expected += {namedFile(line), newFile(line)};
+    }
+    expected.sort();
+    expectNames(program, paths);
     QVERIFY(program.window().close());
-    QCOMPARE(folder.names(), QStringList({u"a.cbr"_s, u"a.json"_s, u"a.txt"_s, u"n.cbr"_s, u"n.json"_s,
-                                          u"svrxconfig_n"_s, u"svrxprod_n"_s}));
-    QCOMPARE(folder.content(u"a.cbr"_s), cbr::Menu{}.bytes());
-    QCOMPARE(folder.content(u"a.txt"_s), laneText);
+    QCOMPARE(differenceOf(folder.names(), expected), QString());
+    for (const Line line : {Line::Lanes, Line::TimerBar})
+        QCOMPARE(folder.content(namedFile(line)), namesOf(line).files.constFirst().sample());
     QVERIFY(folder.content(u"a.json"_s).contains("\"KTR22\""));
 }
 
@@ -174,11 +210,15 @@ void TestProductLines::exitStopsWhereANameIsCancelled()
     Program program;
     openAllLines(program);
     const TestFolder &folder = program.folder();
-    expectNames(program, {folder.path(u"n.json"_s), {}});
+    expectNames(program, {folder.path(newFile(Line::Holding)), {}});
     QVERIFY(!program.window().close());
     QVERIFY(program.window().isVisible());
-    QCOMPARE(folder.names(), QStringList({u"a.cbr"_s, u"a.json"_s, u"a.txt"_s, u"n.json"_s}));
-    QCOMPARE(folder.content(u"a.txt"_s), laneText);
+    QStringList expected{newFile(Line::Holding)};
+    for (const Line line : allLines)
+        expected.append(namedFile(line));
+    expected.sort();
+    QCOMPARE(differenceOf(folder.names(), expected), QString());
+    QCOMPARE(folder.content(u"a.txt"_s), namesOf(Line::Lanes).files.constFirst().sample());
     QCOMPARE(folder.content(u"a.cbr"_s), QByteArray());
     program.expectSaveQuestion(QMessageBox::No);
     QVERIFY(program.window().close());

@@ -181,11 +181,3 @@ void ModalAnswers::expectFileDialog(const QString &caption, const QString &filte
         QTest::mouseClick(buttons->button(accepting), Qt::LeftButton);
     });
 }
-
-void ModalAnswers::expectOpenDialog(const QString &path)
-{
-    expectFileDialog(u"Open JSON Menu"_s,
-                     u"Varno Menu Files (*.json *.qhx *.txt *.cbr);;QHX Json Menu Files (*.json);;"
-                     "Savorix Menu Files (*.txt);;TimerBar Menu Files (*.cbr)"_s,
-                     path);
-}

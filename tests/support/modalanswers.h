@@ -72,9 +72,6 @@ public:
     void expectFileDialog(const QString &caption, const QString &filter, const QString &path,
                           const QString &start = {});
 
-    /// The one of File, Open.
-    void expectOpenDialog(const QString &path);
-
     [[nodiscard]] bool allAnswered() const { return m_answers.empty(); }
 
 protected:

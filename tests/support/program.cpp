@@ -5,9 +5,14 @@
 
 #include <QTest>
 
+#include "app/productlines.h"
 #include "app/selectproductline.h"
 #include "holding/configuration.h"
+#include "tests/support/cbrbuilder.h"
+#include "tests/support/lanefile.h"
+#include "tests/support/qhxbuilder.h"
 #include "tests/support/require.h"
+#include "tests/support/samplefile.h"
 #include "tests/support/uidriver.h"
 #include "timerbar/timerbarconfig.h"
 
@@ -27,17 +32,30 @@ struct LineDialogs
 const LineDialogs &dialogsOf(Line line)
 {
     static const std::array<LineDialogs, allLines.size()> lines{
-        {{{u"QHX/ZPV"_s, u"MenuFile"_s, u"QhxMenuFile"_s, u"Menu File - "_s},
+        {{{u"QHX/ZPV"_s,
+           u"MenuFile"_s,
+           u"QhxMenuFile"_s,
+           u"Menu File - "_s,
+           {{u"json"_s, [] { return samplefile::Menu{}.bytes(); }},
+            {u"qhx"_s, [] { return qhx::sample().bytes(); }}}},
           {u"Save JSON Menu"_s, u"Save As JSON Menu"_s, u"Save JSON Menu"_s},
           u"JSON Menu Files (*.json)"_s,
           u""_s,
           &Configuration::staticMetaObject},
-         {{u"Savorix"_s, u"SvrxMenuFile"_s, u"SvrxMenuFile"_s, u"Menu File - "_s},
+         {{u"Savorix"_s,
+           u"SvrxMenuFile"_s,
+           u"SvrxMenuFile"_s,
+           u"Menu File - "_s,
+           {{u"txt"_s, [] { return lanefile::text("T1=350,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0"); }}}},
           {u"Save Savorix Menu"_s, u"Save Savorix Menu"_s, u"Save Savorix Menu"_s},
           u"Savorix Menu Files (*.txt)"_s,
           u"svrxconfig_"_s,
           nullptr},
-         {{u"Timer Bar Cabinet"_s, u"TimerBarMenuFile"_s, u"TimerBarMenuFile"_s, u"TimerBar Menu File - "_s},
+         {{u"Timer Bar Cabinet"_s,
+           u"TimerBarMenuFile"_s,
+           u"TimerBarMenuFile"_s,
+           u"TimerBar Menu File - "_s,
+           {{u"cbr"_s, [] { return cbr::Menu{}.bytes(); }}}},
           {u"Save TimerBar Menu"_s, u"Save TimerBar Menu"_s, u"TimerBar Menu"_s},
           u"TimerBar Menu Files (*.cbr)"_s,
           u""_s,
@@ -105,6 +123,11 @@ QMdiSubWindow *Program::open(const QString &name)
 {
     expectOpenDialog(name);
     return openNow();
+}
+
+void Program::expectOpenDialog(const QString &name)
+{
+    m_answers.expectFileDialog(u"Open JSON Menu"_s, openFilter(), name.isEmpty() ? QString() : path(name));
 }
 
 QMdiSubWindow *Program::openNow()

@@ -21,13 +21,21 @@ inline constexpr std::array allLines{Line::Holding, Line::Lanes, Line::TimerBar}
 /// What asks for the name of a file.
 enum class Asking { Save, SaveAs, Closing };
 
+/// A kind of file that a line opens.
+struct LineFile
+{
+    QString suffix;
+    QByteArray (*sample)(); ///< one that can be opened
+};
+
 /// What a line's menus are called in the main window.
 struct LineNames
 {
     QString chooser;
     QString editorClass;
-    QString subWindow; ///< the object name
-    QString newTitle;  ///< of a menu without a file
+    QString subWindow;     ///< the object name
+    QString newTitle;      ///< of a menu without a file
+    QList<LineFile> files; ///< the kind that it saves comes first
 };
 [[nodiscard]] const LineNames &namesOf(Line line);
 
@@ -55,7 +63,8 @@ public:
     /// and call openNow().
     QMdiSubWindow *open(const QString &name, const QByteArray &bytes);
     QMdiSubWindow *open(const QString &name);
-    void expectOpenDialog(const QString &name) { m_answers.expectOpenDialog(path(name)); }
+    /// Enters the name, or cancels for an empty one.
+    void expectOpenDialog(const QString &name);
     QMdiSubWindow *openNow();
 
     void save() { choose("action_Save"); }
