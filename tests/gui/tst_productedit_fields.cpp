@@ -6,7 +6,9 @@
 
 #include "holding/fields.h"
 #include "tests/gui/editproduct.h"
+#include "tests/support/languages.h"
 #include "tests/support/recordfields.h"
+#include "tests/support/textlists.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,7 @@ class TestProductEditFields : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void everyFieldCanBeChanged();
+    void everyFieldStaysWhatItWas();
     void everyDetailHasItsLabels();
 };
 
@@ -54,13 +57,47 @@ void TestProductEditFields::everyFieldCanBeChanged()
         save(dialog);
     });
     const recordfields::Values after = recordfields::valuesOf(*product);
-    QStringList unchanged;
-    for (auto field = before.begin(); field != before.end(); ++field) {
-        if (after.value(field.key()) == field.value())
-            unchanged.append(field.key());
-    }
-    QCOMPARE(unchanged, (QStringList{u"defaultIndex"_s, u"isGroup"_s, u"productId"_s, u"productList"_s,
-                                     u"productLocked"_s, u"productShortName"_s}));
+    QStringList unchanged = before.keys();
+    for (const QString &changed : recordfields::differences(before, after))
+        unchanged.removeOne(changed);
+    const QStringList others{u"defaultIndex"_s, u"isGroup"_s,       u"productId"_s,
+                             u"productList"_s,  u"productLocked"_s, u"productShortName"_s};
+    QCOMPARE(differenceOf(unchanged, others), QString());
+}
+
+namespace {
+
+/// A value in each field that the dialog can show and does not show by itself. A field that has no line here
+/// holds a number above 1000 or a text.
+void fillWithinLimits(ProductInfo &product)
+{
+    recordfields::fill(product);
+    product.set_productId(77);
+    product.set_isGroup(false);
+    product.set_productName(inEveryLanguage(u"Ham & Eggs"_s));
+    product.set_upperTemp(215);
+    product.set_lowerTemp(187);
+    product.set_holdTime(4321);
+    product.set_warningTime(1234);
+    product.set_resetTime(567);
+    product.set_fanSpeed(83);
+    product.set_zoneSplits(u"2/3"_s);
+    product.set_lidType(u"Vented"_s);
+    product.set_bottomType(u"Normal"_s);
+    product.set_timerColor(u"#402100"_s);
+}
+
+} // namespace
+
+void TestProductEditFields::everyFieldStaysWhatItWas()
+{
+    OpenEditor editor(menuWith(samplefile::headerWithAllSwitches({{u"cabinetModel"_s, u"KTR33"_s}})));
+    ProductInfo *product = editor->getMenuProducts().constFirst();
+    fillWithinLimits(*product);
+    const recordfields::Values before = recordfields::valuesOf(*product);
+    edit(editor, [](ProductEdit &dialog, ModalAnswers &) { save(dialog); });
+    const QStringList changed = recordfields::differences(before, recordfields::valuesOf(*product));
+    QCOMPARE(changed.join(u", "_s), QString());
 }
 
 void TestProductEditFields::everyDetailHasItsLabels()

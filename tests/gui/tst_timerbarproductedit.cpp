@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/gui/edittimerbarproduct.h"
+#include "tests/support/recordfields.h"
 #include "tests/support/slotlist.h"
 #include "tests/support/warnings.h"
 
@@ -14,6 +15,7 @@ class TestTimerBarProductEdit : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void slotsAreInOrder();
+    void everyFieldStaysWhatItWas();
     void formShowsItsTexts_data();
     void formShowsItsTexts();
     void fieldsShowTheProduct();
@@ -38,6 +40,24 @@ void TestTimerBarProductEdit::slotsAreInOrder()
              (QStringList{u"on_btnCancel_clicked()"_s, u"on_btnSave_clicked()"_s,
                           u"on_txtShortName_textChanged(QString arg1)"_s,
                           u"on_txtProductName_textChanged(QString arg1)"_s}));
+}
+
+// A value in each field, those of the dialog within its limits.
+void TestTimerBarProductEdit::everyFieldStaysWhatItWas()
+{
+    const Editing editing(0, [](ProductInfo &product) {
+        recordfields::fill(product);
+        product.set_productName({u"Ham & Eggs"_s});
+        product.set_productShortName(u"HAM"_s);
+        product.set_upperTemp(217);
+        product.set_lowerTemp(187);
+        product.set_holdTime(72 * 60);
+        product.set_warningTime(21 * 60);
+    });
+    const recordfields::Values before = recordfields::valuesOf(editing.product);
+    editing.saveAccepted();
+    const QStringList changed = recordfields::differences(before, recordfields::valuesOf(editing.product));
+    QCOMPARE(changed.join(u", "_s), QString());
 }
 
 void TestTimerBarProductEdit::formShowsItsTexts_data()

@@ -63,6 +63,16 @@ Values valuesOf(const ProductInfo &record)
     return values;
 }
 
+QStringList differences(const Values &left, const Values &right)
+{
+    QStringList names;
+    for (auto field = left.begin(); field != left.end(); ++field) {
+        if (field.value() != right.value(field.key()))
+            names.append(field.key());
+    }
+    return names;
+}
+
 void fill(ProductInfo &record)
 {
     const Values values = valuesOf(record);

@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 class ProductInfo;
@@ -16,6 +17,8 @@ namespace recordfields {
 using Values = QMap<QString, QVariant>;
 
 [[nodiscard]] Values valuesOf(const ProductInfo &record);
+/// The names of the fields that differ.
+[[nodiscard]] QStringList differences(const Values &left, const Values &right);
 /// Gives each field a value that no other field and no new record has; flags are turned over.
 void fill(ProductInfo &record);
 
