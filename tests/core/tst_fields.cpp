@@ -59,7 +59,10 @@ private slots:
     void groupsStoreTheirFields();
     void everyFieldIsFoundUnderItsKeyOnly();
     void detailsShowAllButTheLock();
-    void detailsNeedNoMoreThanARecord();
+    void detailsTellTheValues_data();
+    void detailsTellTheValues();
+    void detailsThatACabinetHas_data();
+    void detailsThatACabinetHas();
     void wholeNumbers_data();
     void wholeNumbers();
 };
@@ -108,16 +111,70 @@ void TestFields::detailsShowAllButTheLock()
     QCOMPARE(differenceOf(unseen, {u"productLocked"_s}), QString());
 }
 
-void TestFields::detailsNeedNoMoreThanARecord()
+void TestFields::detailsTellTheValues_data()
 {
-    const ProductInfo fresh;
+    QTest::addColumn<QString>("detail");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("id") << u"ProductId"_s << u"7"_s;
+    QTest::newRow("name") << u"Name"_s << u"Bacon"_s;
+    QTest::newRow("upper temperature") << u"Temp1"_s << u"102°C"_s;
+    QTest::newRow("lower temperature") << u"Temp2"_s << u"93°C"_s;
+    QTest::newRow("holding time") << u"HoldTime"_s << u"01:00:05"_s;
+    QTest::newRow("alert time") << u"WarningTime"_s << u"00:10:00"_s;
+    QTest::newRow("reset time") << u"ResetTime"_s << u"00:01:30"_s;
+    QTest::newRow("fan speed") << u"FanSpeed"_s << u"60 (RPM)"_s;
+    QTest::newRow("lid") << u"LidType"_s << u"Vented"_s;
+    QTest::newRow("bottom") << u"BottomType"_s << u"False"_s;
+    QTest::newRow("zone splits") << u"ZoneSplits"_s << u"2/3"_s;
+}
+
+void TestFields::detailsTellTheValues()
+{
+    QFETCH(QString, detail);
+    ProductInfo product;
+    product.set_productId(7);
+    product.set_productName({u"Bacon"_s, u"Tocino"_s});
+    product.set_upperTemp(215);
+    product.set_lowerTemp(200);
+    product.set_holdTime(3605);
+    product.set_warningTime(600);
+    product.set_resetTime(90);
+    product.set_fanSpeed(60);
+    product.set_lidType(u"Vented"_s);
+    product.set_bottomType(u"False"_s);
+    product.set_zoneSplits(u"2/3"_s);
+    CabinetConfiguration celsius = fullCabinet();
+    celsius.temperatureUnit = unitCelsius;
     for (const ProductField &field : productFields()) {
-        const FieldDetail &detail = field.detail;
-        QVERIFY2(detail.isShown(fullCabinet()), field.stored.key.data());
-        QVERIFY2(!detail.text || !detail.name.isEmpty(), field.stored.key.data());
-        if (detail.text)
-            QVERIFY2(detail.text(fresh, {}) == detail.text(ProductInfo(), {}), field.stored.key.data());
+        if (field.detail.name == detail)
+            QTEST(field.detail.text(product, celsius), "text");
     }
+}
+
+void TestFields::detailsThatACabinetHas_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<bool>("switchesOn");
+    QTest::addColumn<QString>("missing");
+    QTest::newRow("QHX, all on") << u"QHX"_s << true << QString();
+    QTest::newRow("QHX, all off") << u"QHX"_s << false << u"ProductId ResetTime FanSpeed TimerColor"_s;
+    QTest::newRow("ZPV, all on") << u"ZPV"_s << true << u"Temp2 LidType"_s;
+    QTest::newRow("ZPV, all off") << u"ZPV"_s << false
+                                  << u"ProductId Temp2 ResetTime FanSpeed LidType TimerColor"_s;
+}
+
+void TestFields::detailsThatACabinetHas()
+{
+    QFETCH(QString, type);
+    QFETCH(bool, switchesOn);
+    CabinetConfiguration configuration = switchesOn ? fullCabinet() : CabinetConfiguration();
+    configuration.type = type;
+    QStringList missing;
+    for (const ProductField &field : productFields()) {
+        if (!field.detail.isShown(configuration))
+            missing.append(field.detail.name);
+    }
+    QTEST(missing.join(u' '), "missing");
 }
 
 void TestFields::wholeNumbers_data()

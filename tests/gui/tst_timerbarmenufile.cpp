@@ -18,6 +18,7 @@ class TestTimerBarMenuFile : public QObject
 
 private slots:
     void init() { failOnWarnings(); }
+    void firstButtonsStayInOrder();
     void slotsAreInOrder();
     void everyButtonIsABin();
     void newMenuAsksForTheCabinet();
@@ -71,6 +72,22 @@ QStringList binButtonSlots()
 }
 
 } // namespace
+
+// The buttons in the order that callers by name know.
+void TestTimerBarMenuFile::firstButtonsStayInOrder()
+{
+    QStringList names = binButtonSlots();
+    names = names.filter(u"_pressed"_s);
+    const QStringList known{u"0_0"_s, u"0_1"_s,  u"1_0"_s,  u"1_1"_s,  u"2_0"_s,  u"2_1"_s,  u"3_0"_s,
+                            u"3_1"_s, u"B0_0"_s, u"B0_1"_s, u"B1_0"_s, u"B1_1"_s, u"B2_0"_s, u"B2_1"_s};
+    QStringList found;
+    for (const QString &name : std::as_const(names)) {
+        const QString place = QString(name).remove(u"on_btnDaypartSelect"_s).remove(u"_pressed()"_s);
+        if (known.contains(place))
+            found.append(place);
+    }
+    QCOMPARE(found.join(u' '), known.join(u' '));
+}
 
 void TestTimerBarMenuFile::slotsAreInOrder()
 {

@@ -7,6 +7,7 @@
 
 #include "app/productlines.h"
 #include "app/selectproductline.h"
+#include "app/startup.h"
 #include "holding/configuration.h"
 #include "tests/support/cbrbuilder.h"
 #include "tests/support/lanefile.h"
@@ -79,6 +80,7 @@ void addLineRows()
 
 Program::Program()
 {
+    prepareApplication();
     ui::show(m_window);
 }
 
