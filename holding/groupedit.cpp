@@ -9,7 +9,6 @@
 
 #include "holding/menufile.h"
 #include "holding/producttypes.h"
-#include "model/entries.h"
 #include "ui_groupedit.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
@@ -99,7 +98,7 @@ void GroupEdit::loadGroupProducts()
     list->clear();
     QList<int> listedPositions;
     for (int position = 0; position < m_draft.members().size(); ++position) {
-        const ProductInfo *member = m_productsById.value(m_draft.members()[position]);
+        const ProductInfo *member = findEntry(m_productsById, m_draft.members()[position]);
         if (!member)
             continue;
         appendMember(list, *member, position);

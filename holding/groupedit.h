@@ -5,10 +5,10 @@
 
 #include <memory>
 
-#include <QHash>
 #include <QList>
 
 #include "holding/groupdraft.h"
+#include "model/entries.h"
 #include "widgets/refusabledialog.h"
 
 class MenuFile;
@@ -53,6 +53,6 @@ private:
     ProductInfo &m_group;
     const holding::CabinetConfiguration m_configuration;
     const QList<ProductInfo *> m_products; ///< the menu's, in its order
-    const QHash<int, ProductInfo *> m_productsById;
+    const EntryIndex m_productsById;
     holding::GroupDraft m_draft;
 };

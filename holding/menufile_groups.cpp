@@ -62,11 +62,11 @@ void MenuFile::loadGroupMembers()
     const ProductInfo *group = currentGroup();
     if (!group)
         return;
-    const QHash<int, ProductInfo *> products = indexById(getMenuProducts());
+    const EntryIndex products = indexById(getMenuProducts());
     const QList<int> members = group->get_productList();
     int unlisted = 0;
     for (int position = 0; position < members.size(); ++position) {
-        const ProductInfo *member = products.value(members[position]);
+        const ProductInfo *member = findEntry(products, members[position]);
         if (member && list->count() < maxListedMembers)
             appendMember(list, *member, position, position == group->get_defaultIndex());
         else if (member)

@@ -15,15 +15,18 @@ ProductInfo *findEntry(const Entries &entries, int id)
     return found == entries.end() ? nullptr : found->get();
 }
 
-QHash<int, ProductInfo *> indexById(const QList<ProductInfo *> &entries)
+EntryIndex indexById(const QList<ProductInfo *> &entries)
 {
-    QHash<int, ProductInfo *> index;
-    index.reserve(entries.size());
-    for (ProductInfo *entry : entries) {
-        if (!index.contains(entry->get_productId()))
-            index.insert(entry->get_productId(), entry);
-    }
+    EntryIndex index;
+    for (ProductInfo *entry : entries)
+        index.emplace(entry->get_productId(), entry); // a repeated id changes nothing
     return index;
+}
+
+ProductInfo *findEntry(const EntryIndex &index, int id)
+{
+    const auto found = index.find(id);
+    return found == index.end() ? nullptr : found->second;
 }
 
 ProductInfo *entryAt(const Entries &entries, int row)

@@ -5,9 +5,9 @@
 
 #include <initializer_list>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
-#include <QHash>
 #include <QList>
 #include <QStringList>
 
@@ -18,8 +18,11 @@ using Entries = std::vector<std::unique_ptr<ProductInfo>>;
 
 /// The first entry with this id, or null.
 [[nodiscard]] ProductInfo *findEntry(const Entries &entries, int id);
-/// The first entry of each id, for who looks up many.
-[[nodiscard]] QHash<int, ProductInfo *> indexById(const QList<ProductInfo *> &entries);
+/// The first entry of each id, for looking up many.
+using EntryIndex = std::unordered_map<int, ProductInfo *>;
+[[nodiscard]] EntryIndex indexById(const QList<ProductInfo *> &entries);
+/// The entry with this id, or null.
+[[nodiscard]] ProductInfo *findEntry(const EntryIndex &index, int id);
 /// The entry of a row; null for a row that there is not, such as the -1 of a list without a current row.
 [[nodiscard]] ProductInfo *entryAt(const Entries &entries, int row);
 

@@ -46,16 +46,16 @@ void TestEntryLists::find()
     QCOMPARE(findEntry(entries, -1), entries[3].get());
     QCOMPARE(findEntry(entries, 0), entries[4].get());
     QCOMPARE(findEntry(entries, 6), nullptr);
-    QCOMPARE(findEntry({}, 5), nullptr);
+    QCOMPARE(findEntry(Entries(), 5), nullptr);
 }
 
 void TestEntryLists::index()
 {
     const Entries entries = entriesWith({5, 7, 5, -1});
-    const QHash<int, ProductInfo *> index = indexById(pointersTo(entries));
-    QCOMPARE(index.size(), 3);
+    const EntryIndex index = indexById(pointersTo(entries));
+    QCOMPARE(int(index.size()), 3);
     for (const int id : {5, 7, -1, 6})
-        QCOMPARE(index.value(id), findEntry(entries, id));
+        QCOMPARE(findEntry(index, id), findEntry(entries, id));
 }
 
 void TestEntryLists::rows()
