@@ -5,16 +5,15 @@
 // is their number. Enters the mode, selects one row and then all of them, shows the list anew, and leaves the
 // mode, in measured(); prints the milliseconds of the slowest of these acts.
 
-#include <algorithm>
 #include <cstdio>
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QListWidget>
 #include <QTemporaryDir>
 
 #include "benchmarks/measured.h"
+#include "benchmarks/slowest.h"
 #include "holding/menufile.h"
 #include "holding/menujson.h"
 #include "holding/newentries.h"
@@ -34,18 +33,6 @@ holding::Menu menuOf(int products)
         menu.products.back()->set_productName(sameNameInAllLanguages(u"Product %1"_s.arg(id)));
     }
     return menu;
-}
-
-double slowestAct(const QList<std::function<void()>> &acts)
-{
-    qint64 slowest = 0;
-    for (const auto &act : acts) {
-        QElapsedTimer timer;
-        timer.start();
-        act();
-        slowest = std::max(slowest, timer.nsecsElapsed());
-    }
-    return static_cast<double>(slowest) / 1e6;
 }
 
 } // namespace
