@@ -18,14 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString describe(const QDialog &dialog)
-{
-    QString text =
-        u"%1 \"%2\""_s.arg(QLatin1StringView(dialog.metaObject()->className()), dialog.windowTitle());
-    if (const auto *box = qobject_cast<const QMessageBox *>(&dialog))
-        text += u' ' + box->text() + u' ' + box->informativeText();
-    return text;
-}
+int listening = 0;
 
 void checkBox(const QMessageBox &box, const ModalAnswers::Box &expected)
 {
@@ -45,16 +38,32 @@ void checkBox(const QMessageBox &box, const ModalAnswers::Box &expected)
 
 ModalAnswers::ModalAnswers()
 {
+    ++listening;
     qApp->installEventFilter(this);
 }
 
 ModalAnswers::~ModalAnswers()
 {
+    --listening;
     // A test that has failed may well have left before its dialogs came.
     if (!m_answers.empty() && !QTest::currentTestFailed())
         require::fail(u"%1 expected dialog(s) did not come up, next a %2"_s.arg(m_answers.size())
                           .arg(QLatin1StringView(m_answers.front().type->className())),
                       {__FILE__, __LINE__});
+}
+
+bool ModalAnswers::areListening()
+{
+    return listening > 0;
+}
+
+QString ModalAnswers::describe(const QDialog &dialog)
+{
+    QString text =
+        u"%1 \"%2\""_s.arg(QLatin1StringView(dialog.metaObject()->className()), dialog.windowTitle());
+    if (const auto *box = qobject_cast<const QMessageBox *>(&dialog))
+        text += u' ' + box->text() + u' ' + box->informativeText();
+    return text;
 }
 
 bool ModalAnswers::eventFilter(QObject *watched, QEvent *event)

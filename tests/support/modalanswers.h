@@ -18,7 +18,7 @@ class QFileDialog;
 /// nobody expected, one of another kind, one that its answer left open, and an answer whose dialog never came
 /// each end the test program; one whose answer was left at a failed check is closed, so that no test hangs.
 /// Answers may open dialogs of their own: those take the following answers. One object at a time, as each
-/// answers every dialog.
+/// answers every dialog. In a test of windows, a dialog that comes up without any ends the test program too.
 class ModalAnswers : public QObject
 {
     Q_OBJECT
@@ -73,6 +73,11 @@ public:
                           const QString &start = {});
 
     [[nodiscard]] bool allAnswered() const { return m_answers.empty(); }
+
+    /// Whether there is an object to answer a dialog now.
+    [[nodiscard]] static bool areListening();
+    /// Class, title and texts.
+    [[nodiscard]] static QString describe(const QDialog &dialog);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
