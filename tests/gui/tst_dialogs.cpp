@@ -37,6 +37,10 @@ private slots:
     void tabOrderFollowsReading();
     void inputsAreNamed_data() { addWindowRows(); }
     void inputsAreNamed();
+    void namesAreDistinct_data() { addWindowRows(); }
+    void namesAreDistinct();
+    void labelsBelongToWhatIsBesideThem_data() { addWindowRows(); }
+    void labelsBelongToWhatIsBesideThem();
     void enterPressesTheAcceptingButton_data() { addWindowRows(); }
     void enterPressesTheAcceptingButton();
     void nothingIsClipped_data() { addWindowRows(); }
@@ -69,10 +73,14 @@ QRect placeIn(const QWidget &window, const QWidget &widget)
     return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
 }
 
+bool sharesLine(const QRect &first, const QRect &second)
+{
+    return first.top() <= second.bottom() && second.top() <= first.bottom();
+}
+
 bool readsBefore(const QRect &first, const QRect &second)
 {
-    const bool sameLine = first.top() <= second.bottom() && second.top() <= first.bottom();
-    return sameLine ? first.left() < second.left() : first.top() < second.top();
+    return sharesLine(first, second) ? first.left() < second.left() : first.top() < second.top();
 }
 
 void checkTabOrder(QWidget &window)
@@ -118,6 +126,73 @@ void TestDialogs::inputsAreNamed()
     QFETCH(const std::size_t, kind);
     const OpenWindow open(everyWindow()[kind]);
     shown::forEachPage(open.window(), [&open] { checkNames(open.window()); });
+}
+
+// So that who hears them knows which is which.
+void TestDialogs::namesAreDistinct()
+{
+    QFETCH(const std::size_t, kind);
+    const OpenWindow open(everyWindow()[kind]);
+    shown::forEachPage(open.window(), [&open] {
+        QMap<QString, QString> owners;
+        for (QWidget *widget : shown::tabOrder(open.window())) {
+            const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+            if (!needsName(widget))
+                continue;
+            REQUIRE(!owners.contains(name),
+                    name + u": "_s + owners.value(name) + u", "_s + shown::describe(*widget));
+            owners.insert(name, shown::describe(*widget));
+        }
+    });
+}
+
+namespace {
+
+bool sharesColumn(const QRect &first, const QRect &second)
+{
+    return first.left() <= second.right() && second.left() <= first.right();
+}
+
+// Also one that only shows what is entered elsewhere.
+bool isInput(const QWidget *widget)
+{
+    const bool takesKeys = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+    return (takesKeys && !widget->isWindow()) || qobject_cast<const QListWidget *>(widget);
+}
+
+// The input that is seen to belong to a label: the next one on its line, or else the first one below it.
+const QWidget *inputBeside(QWidget &window, const QWidget &label)
+{
+    const QRect place = placeIn(window, label);
+    const QWidget *beside = nullptr;
+    const QWidget *below = nullptr;
+    for (const QWidget *input : shown::widgets(window)) {
+        if (!isInput(input))
+            continue;
+        const QRect other = placeIn(window, *input);
+        if (sharesLine(place, other) && other.left() >= place.right() &&
+            (!beside || other.left() < placeIn(window, *beside).left()))
+            beside = input;
+        if (sharesColumn(place, other) && other.top() >= place.bottom() &&
+            (!below || other.top() < placeIn(window, *below).top()))
+            below = input;
+    }
+    return beside ? beside : below;
+}
+
+} // namespace
+
+void TestDialogs::labelsBelongToWhatIsBesideThem()
+{
+    QFETCH(const std::size_t, kind);
+    const OpenWindow open(everyWindow()[kind]);
+    shown::forEachPage(open.window(), [&open] {
+        for (const QWidget *widget : shown::widgets(open.window())) {
+            const auto *label = qobject_cast<const QLabel *>(widget);
+            if (label && label->buddy())
+                REQUIRE(label->buddy() == inputBeside(open.window(), *label), shown::describe(*label));
+        }
+    });
 }
 
 void TestDialogs::enterPressesTheAcceptingButton()

@@ -43,6 +43,7 @@ private slots:
     void init() { failOnWarnings(); }
     void slotsAreInOrder();
     void formShowsItsTexts();
+    void arrowsTellWhatTheyDo();
     void rowsAreNumberedAndKnowTheirIds();
     void rowsFollowTheCabinet();
     void fanSpeedFollowsItsSwitch();
@@ -94,15 +95,31 @@ void TestGroupEdit::formShowsItsTexts()
         QVERIFY(headings.contains(u"Group Products (Check default product)"_s));
         QCOMPARE(ui::get<QPushButton>(dialog, "btnCancel").text(), u"Cancel"_s);
         QCOMPARE(ui::get<QPushButton>(dialog, "btnSave").text(), u"Save"_s);
-        QVERIFY(!ui::get<QPushButton>(dialog, "btnAddProduct").icon().isNull());
-        QVERIFY(ui::get<QPushButton>(dialog, "btnAddProduct").isFlat());
-        QVERIFY(!ui::get<QPushButton>(dialog, "btnRemoveProduct").icon().isNull());
-        QVERIFY(ui::get<QPushButton>(dialog, "btnRemoveProduct").isFlat());
-        QVERIFY(!ui::get<QPushButton>(dialog, "btnAddProduct").isEnabled());
-        QVERIFY(!ui::get<QPushButton>(dialog, "btnRemoveProduct").isEnabled());
+        for (const char *name : {"btnAddProduct", "btnRemoveProduct"}) {
+            QVERIFY(ui::get<QPushButton>(dialog, name).isFlat());
+            QVERIFY(!ui::get<QPushButton>(dialog, name).isEnabled());
+        }
         QVERIFY(ui::get<QPushButton>(dialog, "btnSave").isDefault());
         QCOMPARE(ui::get<QLineEdit>(dialog, "txtName").text(), u"Meats"_s);
         QVERIFY(ui::get<QLineEdit>(dialog, "txtName").hasFocus());
+        cancel(dialog);
+    });
+}
+
+void TestGroupEdit::arrowsTellWhatTheyDo()
+{
+    const auto imageOf = [](const QIcon &icon) { return icon.pixmap(24, 24).toImage(); };
+    const QIcon down(u":/images/BtnDownGreenArrowU.gif"_s);
+    const QIcon up(u":/images/BtnUpRedArrowU.gif"_s);
+    QVERIFY(!imageOf(down).isNull() && !imageOf(up).isNull());
+    OpenEditor editor(menuWith(meats({1})));
+    edit(editor, [&](GroupEdit &dialog, ModalAnswers &) {
+        const auto &adding = ui::get<QPushButton>(dialog, "btnAddProduct");
+        const auto &removing = ui::get<QPushButton>(dialog, "btnRemoveProduct");
+        QCOMPARE(imageOf(adding.icon()), imageOf(down));
+        QCOMPARE(imageOf(removing.icon()), imageOf(up));
+        QCOMPARE(adding.toolTip(), u"Add to the group"_s);
+        QCOMPARE(removing.toolTip(), u"Remove from the group"_s);
         cancel(dialog);
     });
 }

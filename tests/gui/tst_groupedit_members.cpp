@@ -42,6 +42,7 @@ private slots:
     void nothingFixedFitsAnything();
     void zpvIgnoresLids();
     void memberIsAddedOnce();
+    void addedRowStaysSelected();
     void buttonsFollowTheSelection();
     void listsWorkByKeyboard();
     void removedLastMemberFreesEverything();
@@ -177,6 +178,19 @@ void TestGroupEditMembers::memberIsAddedOnce()
         save(dialog);
     });
     QCOMPARE(savedMembers(editor), (QList<int>{2, 1, 4}));
+}
+
+void TestGroupEditMembers::addedRowStaysSelected()
+{
+    OpenEditor editor(menuWith(meats({2})));
+    edit(editor, [](GroupEdit &dialog, ModalAnswers &) {
+        add(dialog, 3);
+        const QListWidget &list = allProducts(dialog);
+        QCOMPARE(list.selectedItems(), QList<QListWidgetItem *>{list.item(3)});
+        QCOMPARE(list.currentRow(), 3);
+        QVERIFY(canAdd(dialog));
+        cancel(dialog);
+    });
 }
 
 void TestGroupEditMembers::buttonsFollowTheSelection()

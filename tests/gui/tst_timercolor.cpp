@@ -85,6 +85,7 @@ private slots:
     void pickedNoColorIsShownAndSaved();
     void cancelledPickerChangesNothing();
     void cancelledEditorKeepsTheColor();
+    void colorIsPickedByKeyboard_data();
     void colorIsPickedByKeyboard();
 };
 
@@ -188,13 +189,22 @@ void TestTimerColor::cancelledEditorKeepsTheColor()
     QCOMPARE(savedColor(editor), u"#123456"_s);
 }
 
+void TestTimerColor::colorIsPickedByKeyboard_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Space") << Qt::Key_Space;
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter of the number pad") << Qt::Key_Enter;
+}
+
 void TestTimerColor::colorIsPickedByKeyboard()
 {
+    QFETCH(const Qt::Key, key);
     OpenEditor editor(menuWithColor(u"#fffffd"_s));
-    edit(editor, [](ProductEdit &dialog, ModalAnswers &answers) {
-        answers.expect<TimerColorPicker>([](TimerColorPicker &picker) {
+    edit(editor, [key](ProductEdit &dialog, ModalAnswers &answers) {
+        answers.expect<TimerColorPicker>([key](TimerColorPicker &picker) {
             QTest::keyClick(&picker, Qt::Key_Tab);
-            QTest::keyClick(picker.focusWidget(), Qt::Key_Space);
+            QTest::keyClick(picker.focusWidget(), key);
         });
         sampleOf(dialog).setFocus();
         QTest::keyClick(&sampleOf(dialog), Qt::Key_Space);
