@@ -101,6 +101,7 @@ private slots:
     void buttonsAreBins();
     void contentIsShown_data();
     void contentIsShown();
+    void emptyBinIsNamed();
     void clickAssignsItsBin();
     void unknownButtonIsNoBin();
     void heldForItsTime();
@@ -152,6 +153,15 @@ void TestBinGrid::contentIsShown()
     QVERIFY(form.button({1, 2}).shortcut().isEmpty());
     QCOMPARE(form.button({1, 2}).accessibleName(), told);
     QCOMPARE(form.button({1, 1}).text(), QString());
+}
+
+void TestBinGrid::emptyBinIsNamed()
+{
+    Form form;
+    form.grid.showContent({0, 1}, {});
+    QCOMPARE(form.button({0, 1}).accessibleName(), u"Row 1, Bin 2: Empty"_s);
+    form.grid.showContent({0, 1}, u"Id 7"_s, u"no name"_s);
+    QCOMPARE(form.button({0, 1}).accessibleName(), u"Row 1, Bin 2: Id 7, no name"_s);
 }
 
 void TestBinGrid::clickAssignsItsBin()

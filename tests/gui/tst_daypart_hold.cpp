@@ -38,6 +38,7 @@ private slots:
     void nothingMovesUnderThePointer();
     void afterAnEmptyHoldTheBinWorksAsEver();
     void holdWithoutADaypart();
+    void reloadEndsAPress();
 
 private:
     static void addReleases();
@@ -256,6 +257,21 @@ void TestDaypartHold::holdWithoutADaypart()
     QTRY_VERIFY(!editor.button(0, 0).isDown());
     editor.release();
     QVERIFY(!editor.isRemoving());
+}
+
+// The bins that were there are others after the menu was read again.
+void TestDaypartHold::reloadEndsAPress()
+{
+    HoldBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    editor.press(0, 0);
+    QVERIFY(editor->readMenuFile());
+    waitForAHold();
+    QVERIFY(!editor.isRemoving());
+    editor->dayPartPressHoldDetected(); // nor by a detection that was under way
+    QVERIFY(!editor.isRemoving());
+    editor.moveAndRelease({{0, 200}});
+    QVERIFY(!editor.isRemoving());
+    QVERIFY(editor.button(0, 0).isEnabled() && !editor.button(0, 0).isDown());
 }
 
 QTEST_MAIN(TestDaypartHold)

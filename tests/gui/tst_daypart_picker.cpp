@@ -130,6 +130,8 @@ void TestDaypartPicker::numbersAHundredEntries()
     QCOMPARE(picker.list().item(9)->text(), u" 10 P10"_s);
     QCOMPARE(picker.list().item(98)->text(), u" 99 A"_s);
     QCOMPARE(picker.list().item(99)->text(), u"100 B"_s);
+    for (const auto &[row, id] : {std::pair{0, 1}, {97, 98}, {98, 200}, {99, 201}})
+        QCOMPARE(picker.list().item(row)->data(Qt::DecorationRole).toInt(), id);
     ui::clickRow(picker.list(), 99);
     ui::click(*picker, "btnSelect");
     QCOMPARE(picker->resultId(), 201);

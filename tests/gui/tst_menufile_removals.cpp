@@ -141,7 +141,17 @@ void TestMenuFileRemovals::otherValuesOfAProductDoNotCount()
     };
     editProduct(editor, 0, change, {});
     const QJsonObject after = editor.saved();
-    QVERIFY(after.value(u"products"_s) != before.value(u"products"_s));
+    QJsonArray products = before.value(u"products"_s).toArray();
+    QJsonObject other = products.at(0).toObject();
+    for (const auto &[key, value] : std::initializer_list<std::pair<QString, QJsonValue>>{
+             {u"productName"_s, samplefile::names(u"Other"_s)},
+             {u"holdingTime"_s, 7200},
+             {u"warningTime"_s, 3600},
+             {u"resetTime"_s, 60},
+             {u"bottomType"_s, u"False"_s}})
+        other.insert(key, value);
+    products[0] = other;
+    QCOMPARE(after.value(u"products"_s).toArray(), products);
     QCOMPARE(after.value(u"productGroups"_s), before.value(u"productGroups"_s));
     QCOMPARE(after.value(u"layout"_s), before.value(u"layout"_s));
 }
