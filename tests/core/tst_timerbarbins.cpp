@@ -3,9 +3,9 @@
 
 #include <QTest>
 
+#include "tests/support/sampletimerbar.h"
 #include "tests/support/warnings.h"
 #include "timerbar/bins.h"
-#include "timerbar/newentries.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,18 +22,6 @@ private slots:
     void fitting_data();
     void fitting();
 };
-
-namespace {
-
-timerbar::Menu menuWithIds(const QList<int> &ids)
-{
-    timerbar::Menu menu;
-    for (const int id : ids)
-        menu.products.push_back(timerbar::newProduct(id));
-    return menu;
-}
-
-} // namespace
 
 void TestTimerBarBins::daypartsAreNamed()
 {
@@ -60,6 +48,8 @@ void TestTimerBarBins::neighbours_data()
     QTest::newRow("second pair, right") << u"KTR24"_s << Row{1, 1, 3, 2} << 3 << 103 << 203;
     QTest::newRow("pairs are apart") << u"KTR34"_s << Row{1, 1, 100, 100} << 2 << 0 << 0;
     QTest::newRow("first pair is apart too") << u"KTR34"_s << Row{100, 100, 2, 3} << 1 << 0 << 0;
+    QTest::newRow("beside a bin that the model does not show")
+        << u"KTR23"_s << Row{100, 100, 100, 3} << 2 << 103 << 203;
     QTest::newRow("single bin of a pair") << u"KTR23"_s << Row{1, 1, 100, 100} << 2 << 0 << 0;
 }
 
@@ -70,7 +60,7 @@ void TestTimerBarBins::neighbours()
     QFETCH(int, column);
     QFETCH(int, upper);
     QFETCH(int, lower);
-    timerbar::Menu menu = menuWithIds({1, 2, 3});
+    timerbar::Menu menu = sample::menuWithIds({1, 2, 3});
     menu.model = model;
     for (const auto &product : menu.products) {
         product->set_upperTemp(100 + product->get_productId());
@@ -83,7 +73,7 @@ void TestTimerBarBins::neighbours()
 
 void TestTimerBarBins::neighbourOfTheSelectedDaypart()
 {
-    timerbar::Menu menu = menuWithIds({1});
+    timerbar::Menu menu = sample::menuWithIds({1});
     menu.dayparts[0][0][1] = 1;
     QCOMPARE(timerbar::neighbourTemperatures(menu, 0, {0, 0}), (timerbar::ReferenceTemperatures{200, 200}));
     QCOMPARE(timerbar::neighbourTemperatures(menu, 1, {0, 0}), timerbar::ReferenceTemperatures());

@@ -29,18 +29,6 @@ private slots:
     void removalEmptiesEveryCell();
 };
 
-namespace {
-
-timerbar::Menu menuWithIds(const QList<int> &ids)
-{
-    timerbar::Menu menu;
-    for (const int id : ids)
-        menu.products.push_back(timerbar::newProduct(id));
-    return menu;
-}
-
-} // namespace
-
 void TestTimerBarMenu::newMenuIsEmpty()
 {
     const timerbar::Menu menu;
@@ -157,12 +145,12 @@ void TestTimerBarMenu::smallestFreeId()
 {
     QFETCH(QList<int>, ids);
     QFETCH(int, free);
-    QCOMPARE(menuWithIds(ids).nextFreeId(), free);
+    QCOMPARE(sample::menuWithIds(ids).nextFreeId(), free);
 }
 
 void TestTimerBarMenu::fullWithHundred()
 {
-    timerbar::Menu menu = menuWithIds(QList<int>(98, 0));
+    timerbar::Menu menu = sample::menuWithIds(QList<int>(98, 0));
     QVERIFY(!menu.isFull());
     menu.products.push_back(timerbar::newProduct(1));
     QVERIFY(!menu.isFull());
@@ -172,7 +160,7 @@ void TestTimerBarMenu::fullWithHundred()
 
 void TestTimerBarMenu::idsOfDeletedProductsAreGivenAgain()
 {
-    timerbar::Menu menu = menuWithIds({0, 1, 2});
+    timerbar::Menu menu = sample::menuWithIds({0, 1, 2});
     menu.products.erase(menu.products.begin() + 1);
     QCOMPARE(menu.nextFreeId(), 1);
     QCOMPARE(menu.products[1]->get_productId(), 2);
@@ -180,7 +168,7 @@ void TestTimerBarMenu::idsOfDeletedProductsAreGivenAgain()
 
 void TestTimerBarMenu::productById()
 {
-    const timerbar::Menu menu = menuWithIds({4, 0, 7, 4});
+    const timerbar::Menu menu = sample::menuWithIds({4, 0, 7, 4});
     QCOMPARE(menu.product(4), menu.products[0].get()); // the first in the list's order
     QCOMPARE(menu.product(7), menu.products[2].get());
     QVERIFY(!menu.product(1));
@@ -189,7 +177,7 @@ void TestTimerBarMenu::productById()
 
 void TestTimerBarMenu::removalEmptiesEveryCell()
 {
-    timerbar::Menu menu = menuWithIds({1, 2});
+    timerbar::Menu menu = sample::menuWithIds({1, 2});
     menu.dayparts[0][0] = {1, 2, 1, 100};
     menu.dayparts[2][3] = {1, 100, 100, 1}; // beyond the model
     menu.dayparts[5][1] = {2, 2, 1, 2};

@@ -27,6 +27,8 @@ private slots:
     void toolTipsFollowTheConfiguredUnit();
     void neighbourDecidesWhatFits_data();
     void neighbourDecidesWhatFits();
+    void hiddenNeighbourCountsToo();
+    void configurationShowsTheFirstDaypart();
     void otherDaypartsStayAsTheyAre();
     void cancelledAssignmentChangesNothing();
     void withoutProductsNothingOpens();
@@ -217,6 +219,35 @@ void TestTimerBarGrid::neighbourDecidesWhatFits()
     OpenTimerBar editor(menu);
     editor.showTab(1);
     QCOMPARE(fittingRows(editor, bin), fits);
+}
+
+// A KTR23 shows three columns; a fourth one of another model stays where it was.
+void TestTimerBarGrid::hiddenNeighbourCountsToo()
+{
+    cbr::Menu menu = baconHamChili(u"KTR24"_s);
+    menu.dayparts[0] = {100, 100, 100, 0};
+    OpenTimerBar editor(menu);
+    editor.showTab(1);
+    QCOMPARE(binButton(editor, "13").text(), u"BACN"_s);
+    configure(editor, u"KTR23"_s);
+    QVERIFY(!binButton(editor, "13").isVisible());
+    QCOMPARE(fittingRows(editor, "12"), (QList<bool>{true, true, false}));
+    QCOMPARE(fittingRows(editor, "11"), (QList<bool>{true, true, true}));
+}
+
+void TestTimerBarGrid::configurationShowsTheFirstDaypart()
+{
+    cbr::Menu menu = baconHamChili();
+    menu.dayparts[0] = {0};
+    menu.dayparts[2] = {2};
+    OpenTimerBar editor(menu);
+    editor.showDaypart(u"Lunch"_s);
+    QCOMPARE(binButton(editor, "10").text(), u"CHIL"_s);
+    configure(editor, u"KTR22"_s);
+    const auto &dayparts = ui::get<QComboBox>(*editor, "comboDaypartSelect");
+    QCOMPARE(dayparts.count(), 6);
+    QCOMPARE(dayparts.currentText(), u"Breakfast"_s);
+    QCOMPARE(binButton(editor, "10").text(), u"BACN"_s);
 }
 
 void TestTimerBarGrid::otherDaypartsStayAsTheyAre()

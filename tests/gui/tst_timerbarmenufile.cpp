@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QRadioButton>
+
 #include "tests/gui/opentimerbar.h"
 #include "tests/gui/timerbarbuttons.h"
 #include "tests/support/slotlist.h"
@@ -28,6 +30,8 @@ private slots:
     void openedMenuIsShown();
     void saveWithoutAPathDoesNothing();
     void configurationChangesTheMenu();
+    void oddUnitThroughTheConfiguration_data();
+    void oddUnitThroughTheConfiguration();
     void cancelledConfigurationChangesNothing();
     void unknownModelHasNoBins();
     void productsAreFoundById();
@@ -253,6 +257,37 @@ void TestTimerBarMenuFile::configurationChangesTheMenu()
     QCOMPARE(editor.detail("Name"), QString());
     QVERIFY(!editor.button("btnEditProduct").isEnabled());
     QCOMPARE(editor.saved(), hex(baconHamChili(u"KTR24"_s, 0)));
+}
+
+// A file may hold any byte as its unit. All but 1 are shown as °F; Save in the dialog writes what is shown.
+void TestTimerBarMenuFile::oddUnitThroughTheConfiguration_data()
+{
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<int>("after");
+    for (const int unit : {2, 128, 255}) {
+        QTest::addRow("%d, cancelled", unit) << unit << QByteArray("btnCancel") << unit;
+        QTest::addRow("%d, saved", unit) << unit << QByteArray("btnAccept") << 0;
+    }
+}
+
+void TestTimerBarMenuFile::oddUnitThroughTheConfiguration()
+{
+    QFETCH(const int, unit);
+    QFETCH(const QByteArray, button);
+    QFETCH(const int, after);
+    OpenTimerBar editor(baconHamChili(u"KTR32"_s, unit));
+    QCOMPARE(editor->temperatureUnit(), unit);
+    ModalAnswers answers;
+    answers.expect<TimerBarConfig>([&](TimerBarConfig &dialog) {
+        QCOMPARE(int(dialog.getTempUnit()), unit);
+        QVERIFY(ui::get<QRadioButton>(dialog, "rbTempUnitF").isChecked());
+        ui::click(dialog, button.constData());
+    });
+    ui::click(*editor, "btnConfig");
+    QCOMPARE(editor->temperatureUnit(), after);
+    QCOMPARE(shownCabinet(*editor), u"Cabinet: Timer Bar KTR32, °F"_s);
+    QCOMPARE(editor.saved(), hex(baconHamChili(u"KTR32"_s, after)));
 }
 
 void TestTimerBarMenuFile::cancelledConfigurationChangesNothing()

@@ -3,6 +3,8 @@
 
 #include "tests/support/sampletimerbar.h"
 
+#include "timerbar/newentries.h"
+
 using namespace Qt::StringLiterals;
 
 namespace sample {
@@ -32,6 +34,14 @@ timerbar::Menu timerBarMenu(const cbr::Menu &file)
         for (qsizetype bin = 0; bin < file.dayparts[index].size(); ++bin)
             menu.dayparts[index][bins[bin][0] - '0'][bins[bin][1] - '0'] = file.dayparts[index][bin];
     }
+    return menu;
+}
+
+timerbar::Menu menuWithIds(const QList<int> &ids)
+{
+    timerbar::Menu menu;
+    for (const int id : ids)
+        menu.products.push_back(timerbar::newProduct(id));
     return menu;
 }
 
