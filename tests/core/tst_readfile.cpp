@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -32,6 +33,7 @@ private slots:
     void wholeContent();
     void throughLink();
     void ofUnknownSize();
+    void unknownSizeIsLimited();
     void largestSize();
     void refused_data();
     void refused();
@@ -93,6 +95,23 @@ void TestReadFile::ofUnknownSize()
     QVERIFY(status.has_value());
     QVERIFY(status->startsWith("Name:"));
     QVERIFY(status->endsWith('\n'));
+}
+
+// The list of this process's mappings, in which each one of a file is told with its path.
+void TestReadFile::unknownSizeIsLimited()
+{
+    const QString longName = QString(250, u'n') + u'/';
+    const QString folder = m_folder->path(longName.repeated(15));
+    QVERIFY(QDir().mkpath(folder));
+    QFile mapped(folder + u"file"_s);
+    QVERIFY(mapped.open(QIODevice::ReadWrite) && mapped.resize(1));
+    for (int i = 0; i < 18'000; ++i)
+        QVERIFY(mapped.map(0, 1));
+    QFile list(u"/proc/self/maps"_s);
+    QCOMPARE(list.size(), 0);
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    QVERIFY(list.read(limit + 1).size() > limit);
+    QVERIFY(!readFile(list.fileName()));
 }
 
 void TestReadFile::largestSize()

@@ -41,6 +41,7 @@ private slots:
     void brokenFileOpensNothing();
     void oneFileTwiceGivesTwoEditors();
     void saveWritesToTheCurrentPath();
+    void saveActsOnTheActiveMenu_data();
     void saveActsOnTheActiveMenu();
     void saveAsksForAMissingName();
     void saveCancelledWritesNothing();
@@ -216,16 +217,34 @@ void TestMainWindowFiles::saveWritesToTheCurrentPath()
     QVERIFY(isChanged(program, u"menu.json"_s));
 }
 
+namespace {
+
+const QStringList names{u"a.json"_s, u"b.json"_s, u"c.json"_s};
+
+} // namespace
+
+void TestMainWindowFiles::saveActsOnTheActiveMenu_data()
+{
+    QTest::addColumn<QString>("active");
+    for (const QString &name : names)
+        QTest::newRow(qPrintable(name)) << name;
+}
+
 void TestMainWindowFiles::saveActsOnTheActiveMenu()
 {
+    QFETCH(const QString, active);
     Program program;
-    QMdiSubWindow *first = openSample(program, u"first.json"_s);
-    QMdiSubWindow *second = openSample(program, u"second.json"_s);
-    change(program, *second);
-    change(program, *first);
+    for (const QString &name : names)
+        openChanged(program, name);
+    const QByteArray before = program.content(active);
+    program.area().setActiveSubWindow(program.area().subWindowList().at(names.indexOf(active)));
     program.save();
-    QVERIFY(isChanged(program, u"first.json"_s));
-    QVERIFY(!isChanged(program, u"second.json"_s));
+    for (const QString &name : names) {
+        if (name != active)
+            QCOMPARE(program.content(name), before);
+    }
+    QVERIFY(isChanged(program, active));
+    QCOMPARE(program.folder().names(), names);
 }
 
 void TestMainWindowFiles::saveAsksForAMissingName()

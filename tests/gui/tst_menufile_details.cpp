@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "holding/configuration.h"
 #include "tests/gui/openeditor.h"
+#include "tests/support/modalanswers.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -57,6 +59,9 @@ private slots:
     void timerColors();
     void rowsFollowTheConfiguration_data();
     void rowsFollowTheConfiguration();
+    void labelsNameTheRows();
+    void labelFollowsAnotherCabinet();
+    void timerColorKeepsItsSize();
     void groupShowsWhatItStores();
     void deselectingEmptiesEveryRow();
     void oddNumbersAreShown();
@@ -179,6 +184,79 @@ void TestMenuFileDetails::rowsFollowTheConfiguration()
     ui::clickRow(editor.groups(), 0);
     QCOMPARE(visibleRows(ui::get<QWidget>(*editor, "detailsGroup")), expected);
     QCOMPARE(editor.groupDetail("lblTemp1").text(), label);
+}
+
+void TestMenuFileDetails::labelsNameTheRows()
+{
+    OpenEditor editor(oneProduct(samplefile::headerWithAllSwitches()));
+    const QStringList labels{u"Id:"_s,
+                             u"Name:"_s,
+                             u"Upper Temperature:"_s,
+                             u"Lower Temperature:"_s,
+                             u"Holding Time:"_s,
+                             u"Cook More Alert Time:"_s,
+                             u"Reset Time:"_s,
+                             u"Fan Speed:"_s,
+                             u"Lid Type:"_s,
+                             u"Bottom Type:"_s,
+                             u"Zone Splits:"_s,
+                             u"Timer Color:"_s};
+    QStringList ofProduct;
+    QStringList ofGroup;
+    for (const char *row : rows) {
+        const QByteArray label = QByteArray("lbl") + row;
+        ofProduct.append(editor.productDetail(label.constData()).text());
+        ofGroup.append(editor.groupDetail(label.constData()).text());
+    }
+    QCOMPARE(ofProduct, labels);
+    QCOMPARE(ofGroup, labels);
+}
+
+namespace {
+
+void configure(OpenEditor &editor, const QString &type)
+{
+    ModalAnswers answers;
+    answers.expect<Configuration>([&type](Configuration &dialog) {
+        ui::choose(dialog, "comboUnitType", type);
+        ui::click(dialog, "btnAccept");
+    });
+    answers.expect<QMessageBox>([](QMessageBox &box) { ui::click(*box.button(QMessageBox::Ok)); });
+    ui::click(*editor, "btnConfig");
+}
+
+} // namespace
+
+void TestMenuFileDetails::labelFollowsAnotherCabinet()
+{
+    OpenEditor editor(oneProduct(samplefile::header()));
+    for (const auto &[type, label] :
+         {std::pair{u"ZPV"_s, u"Temperature:"_s}, std::pair{u"QHX"_s, u"Upper Temperature:"_s}}) {
+        configure(editor, type);
+        QCOMPARE(editor->getCabinetType(), type);
+        QCOMPARE(editor.productDetail("lblTemp1").text(), label);
+        QCOMPARE(editor.groupDetail("lblTemp1").text(), label);
+    }
+}
+
+// Whatever it shows; also while the pane is still empty, which no row of the form takes into account.
+void TestMenuFileDetails::timerColorKeepsItsSize()
+{
+    samplefile::Menu menu =
+        oneProduct(samplefile::headerWithAllSwitches(), {{u"timerColor"_s, u"#ff0000"_s}});
+    menu.products.append(samplefile::product(14, u"Bare"_s));
+    OpenEditor editor(menu);
+    const QLabel &sample = editor.productDetail("txtTimerColor");
+    const QSize size = sample.size();
+    QVERIFY(sample.text().isEmpty());
+    for (int row = 0; row < 2; ++row) {
+        ui::clickRow(editor.products(), row);
+        QCoreApplication::sendPostedEvents(); // the layout follows
+        QCOMPARE(sample.text().isEmpty(), row == 1);
+        QCOMPARE(sample.size(), size);
+        const QSize text = sample.fontMetrics().size(Qt::TextSingleLine, u"SampleText"_s);
+        QVERIFY(size.width() >= text.width() + 16 && size.height() >= text.height() + 4);
+    }
 }
 
 void TestMenuFileDetails::groupShowsWhatItStores()

@@ -104,6 +104,7 @@ private slots:
     void saveAsAsksFromTheCurrentPath();
     void cancelledSaveAsChangesNothing();
     void failedSaveKeepsTheGoodFile();
+    void menuThatWouldNotOpenAgainIsNotWritten();
     void pathAndTitleComeBeforeTheWrite_data();
     void pathAndTitleComeBeforeTheWrite();
     void namesGoThroughTheSlots();
@@ -329,6 +330,28 @@ void TestMenuFileFiles::pathAndTitleComeBeforeTheWrite_data()
     QTest::newRow("missing folder") << u"/missing folder/menu.json"_s;
     QTest::newRow("folder") << u"/tmp"_s;
     QTest::newRow("full device") << u"/dev/full"_s;
+}
+
+// A member takes two bytes of this file and a whole line of what is written.
+void TestMenuFileFiles::menuThatWouldNotOpenAgainIsNotWritten()
+{
+    samplefile::Menu menu;
+    menu.products = {samplefile::product(1, u"Bacon"_s)};
+    menu.groups = {samplefile::group(2, u"Many"_s, {1})};
+    QByteArray bytes = QJsonDocument(menu.root()).toJson(QJsonDocument::Compact);
+    QCOMPARE(bytes.count("\"products\":[1]"), 1);
+    const QByteArray members = QByteArray(",2").repeated(3'200'000);
+    bytes.replace("\"products\":[1]", QByteArray("\"products\":[1" + members + ']'));
+    const TestFolder folder;
+    const QString path = folder.make(u"menu.json"_s, bytes);
+    MenuFile editor(path);
+    QVERIFY(editor.isMenuValid());
+    ModalAnswers answers;
+    answers.expectBox(ModalAnswers::writeFault(path), QMessageBox::Ok);
+    QVERIFY(!editor.save());
+    QVERIFY(answers.allAnswered());
+    QVERIFY(contentOf(path) == bytes);
+    QCOMPARE(folder.names(), QStringList{u"menu.json"_s});
 }
 
 void TestMenuFileFiles::pathAndTitleComeBeforeTheWrite()

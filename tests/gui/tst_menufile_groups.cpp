@@ -75,6 +75,7 @@ private slots:
     void addedGroupTakesTheFreeIdAndIsCurrent();
     void cancelledAddChangesNothing();
     void editedGroupStaysCurrent();
+    void doubleClickEdits_data();
     void doubleClickEdits();
     void duplicateCopiesEverything();
     void cancelledDuplicateChangesNothing();
@@ -183,13 +184,23 @@ void TestMenuFileGroups::editedGroupStaysCurrent()
     QCOMPARE(editor.groupDetail("txtName").text(), u"Toppings"_s);
 }
 
+// Ctrl takes the selection off the row again; the row is meant all the same.
+void TestMenuFileGroups::doubleClickEdits_data()
+{
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("plain") << Qt::KeyboardModifiers();
+    QTest::newRow("with Ctrl") << Qt::KeyboardModifiers(Qt::ControlModifier);
+}
+
 void TestMenuFileGroups::doubleClickEdits()
 {
+    QFETCH(const Qt::KeyboardModifiers, modifiers);
     OpenEditor editor(twoGroups());
     editor.showTab(1);
     ModalAnswers answers;
     answers.expect<GroupEdit>([](GroupEdit &dialog) { ui::click(dialog, "btnCancel"); });
-    ui::doubleClickRow(editor.groups(), 1);
+    ui::clickRow(editor.groups(), 0);
+    ui::doubleClickRow(editor.groups(), 1, modifiers);
     QVERIFY(answers.allAnswered());
     QCOMPARE(editor.groups().currentRow(), 1);
 }

@@ -38,6 +38,8 @@ private slots:
     void init() { failOnWarnings(); }
     void configurationComesUpOverTheWindow_data();
     void configurationComesUpOverTheWindow();
+    void opensOnTheFirstTab_data() { addLineRows(); }
+    void opensOnTheFirstTab();
     void readAgainShowsTheNewMenu();
     void readAgainWithAFaultKeepsTheMenu();
 };
@@ -74,6 +76,25 @@ void TestMenuFileOpening::configurationComesUpOverTheWindow()
                           QMessageBox::Ok);
     program.choose(unknownCabinet ? "actionOpen" : "actionNew");
     QVERIFY(answers.allAnswered());
+}
+
+void TestMenuFileOpening::opensOnTheFirstTab()
+{
+    QFETCH(const Line, line);
+    Program program;
+    for (const LineFile &file : namesOf(line).files) {
+        const QMdiSubWindow *opened = program.open(u"menu."_s + file.suffix, file.sample());
+        for (const QMdiSubWindow *subWindow :
+             {opened, static_cast<const QMdiSubWindow *>(program.newMenu(line))}) {
+            QVERIFY(subWindow);
+            const auto *tabs = subWindow->findChild<QTabWidget *>();
+            QCOMPARE(tabs == nullptr, line == Line::Lanes);
+            if (!tabs)
+                continue;
+            QCOMPARE(tabs->currentIndex(), 0);
+            QVERIFY(ui::get<QListWidget>(*subWindow, "listWidgetProducts").isVisible());
+        }
+    }
 }
 
 void TestMenuFileOpening::readAgainShowsTheNewMenu()

@@ -71,6 +71,7 @@ private slots:
     void cancelledAddChangesNothing();
     void editedProductStaysCurrent();
     void doubleClickEdits();
+    void doubleClickWithCtrlEdits();
     void duplicateCopiesAllButTheLock();
     void cancelledDuplicateChangesNothing();
     void deleteAsksAndCleansUp();
@@ -190,6 +191,19 @@ void TestMenuFileProducts::doubleClickEdits()
     QTest::mouseClick(viewport, Qt::LeftButton, {}, below);
     QTest::mouseDClick(viewport, Qt::LeftButton, {}, below); // an unexpected dialog would fail
     QCOMPARE(enabledButtons(editor), u"A..."_s);
+}
+
+// Ctrl takes the selection off the row again; the row is meant all the same.
+void TestMenuFileProducts::doubleClickWithCtrlEdits()
+{
+    OpenEditor editor(threeProducts());
+    ui::clickRow(editor.products(), 0);
+    ModalAnswers answers;
+    answers.expect<ProductEdit>([](ProductEdit &dialog) { saveAs(dialog, u"Ham"_s); });
+    ui::doubleClickRow(editor.products(), 2, Qt::ControlModifier);
+    QVERIFY(answers.allAnswered());
+    QCOMPARE(ui::textsOf(editor.products()), (QStringList{u"  1 Bacon"_s, u"  2 Chili"_s, u"  3 Ham"_s}));
+    QCOMPARE(editor.products().currentRow(), 2);
 }
 
 void TestMenuFileProducts::duplicateCopiesAllButTheLock()

@@ -36,6 +36,7 @@ private slots:
     void halfTypedNumberIsNotSaved();
     void typedLimitIsSaved();
     void unitIsChosenByKeys();
+    void deletedWhileTypedIn();
 };
 
 void TestSvrxMenuFileEntry::wheelPassesOverBoxes()
@@ -116,6 +117,19 @@ void TestSvrxMenuFileEntry::unitIsChosenByKeys()
     QCOMPARE(temperatureBox(editor, 1).value(), 300);
     program.save();
     QCOMPARE(program.content(u"a.txt"_s), lanefile::text(contents));
+}
+
+// The box that has the focus loses it in the middle of the destruction, and reports what was typed.
+void TestSvrxMenuFileEntry::deletedWhileTypedIn()
+{
+    for (const auto box : {temperatureBox, fanSpeedBox}) {
+        auto editor = std::make_unique<SvrxMenuFile>(QString());
+        ui::show(*editor);
+        ui::type(box(*editor, 1), u"201"_s);
+        QVERIFY(box(*editor, 1).hasFocus());
+        editor.reset();
+        QCoreApplication::processEvents();
+    }
 }
 
 QTEST_MAIN(TestSvrxMenuFileEntry)

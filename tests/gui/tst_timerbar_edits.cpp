@@ -21,6 +21,7 @@ private slots:
     void newTemperatureOfAProductInNoBin();
     void lowTemperatureIsNoticedBeforeTheBins();
     void timesOfADayAndMoreStay();
+    void doubleClickEdits_data();
     void doubleClickEdits();
     void cancelledEditChangesNothing();
     void deleteAsks_data();
@@ -174,12 +175,22 @@ void TestTimerBarEdits::timesOfADayAndMoreStay()
     QCOMPARE(editor.saved(), hex(menu));
 }
 
+// Ctrl takes the selection off the row again; the row is meant all the same.
+void TestTimerBarEdits::doubleClickEdits_data()
+{
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("plain") << Qt::KeyboardModifiers();
+    QTest::newRow("with Ctrl") << Qt::KeyboardModifiers(Qt::ControlModifier);
+}
+
 void TestTimerBarEdits::doubleClickEdits()
 {
+    QFETCH(const Qt::KeyboardModifiers, modifiers);
     OpenTimerBar editor(baconHamChili());
     ModalAnswers answers;
     answers.expect<TimerBarProductEdit>(saveAsSoup);
-    ui::doubleClickRow(editor.products(), 2);
+    ui::clickRow(editor.products(), 0);
+    ui::doubleClickRow(editor.products(), 2, modifiers);
     QVERIFY(answers.allAnswered());
     QCOMPARE(ui::textsOf(editor.products()).constLast(), u"  3 Soup"_s);
     QCOMPARE(editor.products().currentRow(), 2);

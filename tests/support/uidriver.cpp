@@ -117,10 +117,10 @@ void clickRowBox(QListWidget &list, int row)
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, box.center());
 }
 
-void doubleClickRow(QListWidget &list, int row)
+void doubleClickRow(QListWidget &list, int row, Qt::KeyboardModifiers modifiers)
 {
-    clickRow(list, row);
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, rowRect(list, row).center());
+    clickRow(list, row, modifiers);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, modifiers, rowRect(list, row).center());
 }
 
 void clickMenu(QMainWindow &window, const char *menu, const char *action)

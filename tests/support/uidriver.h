@@ -50,7 +50,7 @@ void choose(const QObject &parent, const char *comboBox, const QString &text);
 void clickRow(QListWidget &list, int row, Qt::KeyboardModifiers modifiers = {});
 /// Clicks the check box of a row.
 void clickRowBox(QListWidget &list, int row);
-void doubleClickRow(QListWidget &list, int row);
+void doubleClickRow(QListWidget &list, int row, Qt::KeyboardModifiers modifiers = {});
 
 /// Opens a menu of the menu bar and clicks one of its entries.
 void clickMenu(QMainWindow &window, const char *menu, const char *action);
