@@ -62,6 +62,7 @@ private slots:
     void labelsNameTheRows();
     void labelFollowsAnotherCabinet();
     void timerColorKeepsItsSize();
+    void timerColorGrowsWithTheFont();
     void groupShowsWhatItStores();
     void deselectingEmptiesEveryRow();
     void oddNumbersAreShown();
@@ -239,7 +240,7 @@ void TestMenuFileDetails::labelFollowsAnotherCabinet()
     }
 }
 
-// Whatever it shows; also while the pane is still empty, which no row of the form takes into account.
+// Whatever it shows, and with nothing to show.
 void TestMenuFileDetails::timerColorKeepsItsSize()
 {
     samplefile::Menu menu =
@@ -247,16 +248,29 @@ void TestMenuFileDetails::timerColorKeepsItsSize()
     menu.products.append(samplefile::product(14, u"Bare"_s));
     OpenEditor editor(menu);
     const QLabel &sample = editor.productDetail("txtTimerColor");
-    const QSize size = sample.size();
+    const QSize size = QLabel(u"SampleText"_s).sizeHint().expandedTo({100, 25}) + QSize(16, 4);
     QVERIFY(sample.text().isEmpty());
+    QCOMPARE(sample.size(), size);
     for (int row = 0; row < 2; ++row) {
         ui::clickRow(editor.products(), row);
         QCoreApplication::sendPostedEvents(); // the layout follows
         QCOMPARE(sample.text().isEmpty(), row == 1);
         QCOMPARE(sample.size(), size);
-        const QSize text = sample.fontMetrics().size(Qt::TextSingleLine, u"SampleText"_s);
-        QVERIFY(size.width() >= text.width() + 16 && size.height() >= text.height() + 4);
     }
+}
+
+// The sample's text has room in any font.
+void TestMenuFileDetails::timerColorGrowsWithTheFont()
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(3 * before.pointSizeF());
+    QApplication::setFont(large);
+    OpenEditor editor(oneProduct(samplefile::headerWithAllSwitches()));
+    const QSize size = QLabel(u"SampleText"_s).sizeHint() + QSize(16, 4);
+    QApplication::setFont(before);
+    QVERIFY(size.width() > 100 && size.height() > 25);
+    QCOMPARE(editor.productDetail("txtTimerColor").size(), size);
 }
 
 void TestMenuFileDetails::groupShowsWhatItStores()

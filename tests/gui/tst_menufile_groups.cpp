@@ -184,7 +184,7 @@ void TestMenuFileGroups::editedGroupStaysCurrent()
     QCOMPARE(editor.groupDetail("txtName").text(), u"Toppings"_s);
 }
 
-// Ctrl takes the selection off the row again; the row is meant all the same.
+// Ctrl takes the selection off a selected row; the row is meant all the same.
 void TestMenuFileGroups::doubleClickEdits_data()
 {
     QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
@@ -199,7 +199,7 @@ void TestMenuFileGroups::doubleClickEdits()
     editor.showTab(1);
     ModalAnswers answers;
     answers.expect<GroupEdit>([](GroupEdit &dialog) { ui::click(dialog, "btnCancel"); });
-    ui::clickRow(editor.groups(), 0);
+    ui::clickRow(editor.groups(), 1);
     ui::doubleClickRow(editor.groups(), 1, modifiers);
     QVERIFY(answers.allAnswered());
     QCOMPARE(editor.groups().currentRow(), 1);

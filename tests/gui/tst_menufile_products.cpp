@@ -193,11 +193,11 @@ void TestMenuFileProducts::doubleClickEdits()
     QCOMPARE(enabledButtons(editor), u"A..."_s);
 }
 
-// Ctrl takes the selection off the row again; the row is meant all the same.
+// Ctrl takes the selection off a selected row; the row is meant all the same.
 void TestMenuFileProducts::doubleClickWithCtrlEdits()
 {
     OpenEditor editor(threeProducts());
-    ui::clickRow(editor.products(), 0);
+    ui::clickRow(editor.products(), 2);
     ModalAnswers answers;
     answers.expect<ProductEdit>([](ProductEdit &dialog) { saveAs(dialog, u"Ham"_s); });
     ui::doubleClickRow(editor.products(), 2, Qt::ControlModifier);

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QPushButton>
 #include <QTest>
 
@@ -195,7 +198,13 @@ void TestPseudoTranslation::workingIsTranslatedAndFilesStayTheSame()
     const QList<QByteArray> translated = Work(true, m_names).run();
     QCOMPARE(translated, plain);
     QVERIFY(plain[0].contains("\"Soup\"") && plain[0].contains("\"Vented\""));
-    QVERIFY(plain[1] != plain[2]);
+    const QJsonObject edited = QJsonDocument::fromJson(plain[1]).object();
+    const QJsonObject last = QJsonDocument::fromJson(plain[2]).object();
+    QCOMPARE(edited[u"menu"_s][u"productGroups"_s].toArray().size(), 1);
+    QCOMPARE(last[u"menu"_s][u"productGroups"_s].toArray().size(), 0);
+    QCOMPARE(last[u"menu"_s][u"products"_s].toArray().size(),
+             edited[u"menu"_s][u"products"_s].toArray().size() - 1);
+    QCOMPARE(last[u"header"_s][u"cabinetModel"_s].toString(), u"KTR33"_s);
 }
 
 QTEST_MAIN(TestPseudoTranslation)

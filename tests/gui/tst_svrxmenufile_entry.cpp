@@ -119,16 +119,27 @@ void TestSvrxMenuFileEntry::unitIsChosenByKeys()
     QCOMPARE(program.content(u"a.txt"_s), lanefile::text(contents));
 }
 
-// The box that has the focus loses it in the middle of the destruction, and reports what was typed.
+// The box that has the focus loses it in the middle of the destruction and reports what was typed. By then
+// nothing may be stored or shown any more.
 void TestSvrxMenuFileEntry::deletedWhileTypedIn()
 {
-    for (const auto box : {temperatureBox, fanSpeedBox}) {
-        auto editor = std::make_unique<SvrxMenuFile>(QString());
+    const TestFolder folder;
+    const QString path =
+        folder.make(u"a.txt"_s, lanefile::text("T1=9999,T2=0,T3=0,T4=0,F1=99999,F2=0,F3=0,F4=0"));
+    for (const auto &[box, note] :
+         {std::pair{&temperatureBox, "lblTemperatureNote1"}, std::pair{&fanSpeedBox, "lblFanSpeedNote1"}}) {
+        auto editor = std::make_unique<SvrxMenuFile>(path);
         ui::show(*editor);
-        ui::type(box(*editor, 1), u"201"_s);
-        QVERIFY(box(*editor, 1).hasFocus());
+        QSpinBox &typedIn = box(*editor, 1);
+        ui::type(typedIn, u"1"_s); // too low, so that it counts only when the box is left
+        QVERIFY(typedIn.hasFocus());
+        const auto &label = ui::get<QLabel>(*editor, note);
+        const QString before = label.text();
+        QVERIFY(before.startsWith(u"file holds"_s));
+        QStringList shown;
+        connect(&typedIn, &QSpinBox::editingFinished, this, [&] { shown.append(label.text()); });
         editor.reset();
-        QCoreApplication::processEvents();
+        QCOMPARE(shown, QStringList{before});
     }
 }
 

@@ -175,7 +175,7 @@ void TestTimerBarEdits::timesOfADayAndMoreStay()
     QCOMPARE(editor.saved(), hex(menu));
 }
 
-// Ctrl takes the selection off the row again; the row is meant all the same.
+// Ctrl takes the selection off a selected row; the row is meant all the same.
 void TestTimerBarEdits::doubleClickEdits_data()
 {
     QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
@@ -189,7 +189,7 @@ void TestTimerBarEdits::doubleClickEdits()
     OpenTimerBar editor(baconHamChili());
     ModalAnswers answers;
     answers.expect<TimerBarProductEdit>(saveAsSoup);
-    ui::clickRow(editor.products(), 0);
+    ui::clickRow(editor.products(), 2);
     ui::doubleClickRow(editor.products(), 2, modifiers);
     QVERIFY(answers.allAnswered());
     QCOMPARE(ui::textsOf(editor.products()).constLast(), u"  3 Soup"_s);

@@ -21,6 +21,7 @@ private slots:
     void openedMenuHasNoCurrentProduct();
     void detailsShowTheProduct_data();
     void detailsShowTheProduct();
+    void labelsNameTheDetails();
     void deselectingEmptiesTheDetails();
     void namesAreShownAsTheyAre();
     void newProductStartsWithDefaults();
@@ -95,6 +96,17 @@ void TestTimerBarProducts::detailsShowTheProduct()
     QCOMPARE(enabledButtons(editor), u"AEDX"_s);
     QTest::keyClick(&editor.products(), Qt::Key_Down);
     QCOMPARE(editor.detail("Name"), u"Chili"_s);
+}
+
+void TestTimerBarProducts::labelsNameTheDetails()
+{
+    OpenTimerBar editor(baconHamChili());
+    QStringList labels;
+    for (const char *name :
+         {"lblName", "lblShortName", "lblTempUpper", "lblTempLower", "lblHoldTime", "lblWarningTime"})
+        labels.append(ui::get<QLabel>(*editor, name).text());
+    QCOMPARE(labels, (QStringList{u"Product Name:"_s, u"Short Name:"_s, u"Upper Temperature:"_s,
+                                  u"Lower Temperature:"_s, u"Holding Time:"_s, u"Cook More Alert Time:"_s}));
 }
 
 void TestTimerBarProducts::deselectingEmptiesTheDetails()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "tests/gui/holdtime.h"
 #include "tests/gui/opentimerbar.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/warnings.h"
@@ -18,6 +19,7 @@ private slots:
     void readingAgainReplacesTheMenu();
     void readingAgainShowsTheMenu();
     void readingAgainEndsTheModes();
+    void readingAgainEndsAPress();
     void errorsKeepTheMenu_data();
     void errorsKeepTheMenu();
     void laterReadMakesTheMenuValid();
@@ -114,6 +116,23 @@ void TestTimerBarMenuFileReload::readingAgainEndsTheModes()
     QVERIFY(ui::get<QPushButton>(editor, "btnDaypartRemove").isHidden());
     QVERIFY(ui::get<QComboBox>(editor, "comboDaypartSelect").isEnabled());
     QCOMPARE(ui::get<QPushButton>(editor, "btnSelectMultiProduct").text(), u"Multiple Selection"_s);
+}
+
+// The bins that were there are others after the menu was read again.
+void TestTimerBarMenuFileReload::readingAgainEndsAPress()
+{
+    cbr::Menu menu = baconHamChili();
+    menu.dayparts[0] = {0};
+    OpenTimerBar editor(menu);
+    editor.showTab(1);
+    QPushButton &bin = editor.button("btnDaypartSelect1_0");
+    QTest::mousePress(&bin, Qt::LeftButton);
+    QVERIFY(editor->readMenuFile());
+    waitForAHold();
+    QVERIFY(!bin.isCheckable());
+    QVERIFY(editor.button("btnDaypartRemove").isHidden());
+    QTest::mouseRelease(&bin, Qt::LeftButton, {}, {0, -50});
+    QVERIFY(bin.isEnabled() && !bin.isCheckable());
 }
 
 void TestTimerBarMenuFileReload::errorsKeepTheMenu_data()
