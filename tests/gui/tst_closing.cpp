@@ -127,6 +127,13 @@ QString pathOf(const QPointer<QWidget> &editor)
     return qobject_cast<MenuEditor *>(editor)->filePath();
 }
 
+// The dialogs of closing a menu without a file: saved under this path, or under none.
+void expectSaveUnder(Program &program, Line line, const QString &path)
+{
+    program.expectSaveQuestion(QMessageBox::Yes);
+    program.expectSaveDialog(line, Asking::Closing, path);
+}
+
 } // namespace
 
 /// Closing an editor of any line by itself.
@@ -243,8 +250,7 @@ void TestClosing::yesAsksForAName()
     QFETCH_GLOBAL(const Line, line);
     Program program;
     const QPointer<QWidget> closed = openNew(program, line);
-    program.expectSaveQuestion(QMessageBox::Yes);
-    program.expectSaveDialog(line, Asking::Closing, program.path(u"svrxconfig_typed"_s));
+    expectSaveUnder(program, line, program.path(u"svrxconfig_typed"_s));
     close(program);
     requireGone(program, closed);
     QCOMPARE(program.folder().names(), QStringList{u"svrxconfig_typed"_s});
@@ -256,8 +262,7 @@ void TestClosing::cancelledNameKeepsItOpen()
     QFETCH_GLOBAL(const Line, line);
     Program program;
     const QPointer<QWidget> closed = openNew(program, line);
-    program.expectSaveQuestion(QMessageBox::Yes);
-    program.expectSaveDialog(line, Asking::Closing, {});
+    expectSaveUnder(program, line, {});
     close(program, Way::CtrlW);
     QVERIFY(program.answers().allAnswered());
     requireOpen(program, closed);
@@ -274,8 +279,7 @@ void TestClosing::failedWriteUnderANameKeepsItOpen()
     Program program;
     const QPointer<QWidget> closed = openNew(program, line);
     const QString path = program.path(u"later/svrxconfig_typed"_s);
-    program.expectSaveQuestion(QMessageBox::Yes);
-    program.expectSaveDialog(line, Asking::Closing, path);
+    expectSaveUnder(program, line, path);
     program.answers().expectBox(ModalAnswers::fileFault(sample.writeFault + path), QMessageBox::Ok);
     close(program);
     QVERIFY(program.answers().allAnswered());

@@ -5,13 +5,18 @@
 #include <QListWidget>
 #include <QTabWidget>
 
+#include "holding/configuration.h"
+#include "holding/daypartedit.h"
+#include "holding/groupedit.h"
 #include "holding/menufile.h"
+#include "holding/productedit.h"
 #include "tests/support/cbrbuilder.h"
 #include "tests/support/program.h"
+#include "tests/support/require.h"
 #include "tests/support/samplefile.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/warnings.h"
-#include "widgets/menueditor.h"
+#include "timerbar/timerbarproductedit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +41,7 @@ public:
                 [](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     }
     [[nodiscard]] QStringList shown() const { return m_shown; }
+    [[nodiscard]] QStringList boxes() const { return m_shown.filter(u"QMessageBox"_s); }
 
 private:
     static QString describe(const QDialog &dialog)
@@ -89,6 +95,8 @@ private slots:
     void ofAHoldingMenu();
     void ofAHoldingProduct();
     void ofATimerBarMenu();
+    void boxesOfAHoldingMenu();
+    void boxesOfATimerBarMenu();
     void ofClosing_data() { addLineRows(); }
     void ofClosing();
     void ofSaving_data() { addLineRows(); }
@@ -186,6 +194,95 @@ void TestOwners::ofATimerBarMenu()
     for (QString &dialog : expected)
         dialog += u", of TimerBarMenuFile"_s;
     QCOMPARE(escaped.shown(), expected);
+}
+
+namespace {
+
+// Presses a button of the dialog that opens a box.
+template <typename Dialog>
+void expectRefusedSave(Program &program, Escaped &escaped, const char *emptied)
+{
+    program.answers().expect<Dialog>([&escaped, emptied](Dialog &dialog) {
+        ui::type(dialog, emptied, {});
+        escaped.expect();
+        ui::click(dialog, "btnSave");
+        if (!dialog.isVisible())
+            return;
+        ui::activate(dialog);
+        ui::click(dialog, "btnCancel");
+    });
+}
+
+template <typename Dialog>
+void expectSave(Program &program, const char *input, const QString &text)
+{
+    program.answers().expect<Dialog>([input, text](Dialog &dialog) {
+        ui::type(dialog, input, text);
+        ui::click(dialog, "btnSave");
+    });
+}
+
+void clickAlone(Program &program, const char *button)
+{
+    ui::click(*program.subWindow(), button);
+    ui::activate(program.window());
+    REQUIRE(program.answers().allAnswered());
+}
+
+} // namespace
+
+// Of a menu that has no room for more.
+void TestOwners::boxesOfAHoldingMenu()
+{
+    samplefile::Menu menu = holdingMenu();
+    for (int id = 3; id <= 100; ++id)
+        menu.products.append(samplefile::product(id, u"More"_s));
+    while (menu.layout.size() < 10)
+        menu.layout.append(samplefile::daypart(u"Later"_s, {}));
+    Program program;
+    program.open(u"menu.json"_s, menu.bytes());
+    Escaped escaped(program);
+    clickEach(program, escaped, {"btnAddProduct"});
+    ui::clickRow(ui::get<QListWidget>(*program.subWindow(), "listWidgetProducts"), 0);
+    expectSave<ProductEdit>(program, "numTemp1", u"210"_s);
+    escaped.expect();
+    clickAlone(program, "btnEditProduct");
+    showTab(program, 1);
+    ui::clickRow(ui::get<QListWidget>(*program.subWindow(), "listWidgetGroups"), 0);
+    expectRefusedSave<GroupEdit>(program, escaped, "txtName");
+    clickAlone(program, "btnEditGroup");
+    showTab(program, 2);
+    clickEach(program, escaped, {"btnAddDaypart"});
+    expectRefusedSave<DaypartEdit>(program, escaped, "txtName");
+    clickAlone(program, "btnEditDaypart");
+    program.answers().expect<Configuration>([](Configuration &dialog) {
+        ui::choose(dialog, "comboUnitModel", u"KTR33"_s);
+        ui::click(dialog, "btnAccept");
+    });
+    escaped.expect();
+    clickAlone(program, "btnConfig");
+    QCOMPARE(escaped.boxes(),
+             (QStringList{u"QMessageBox, Error, of MenuFile"_s, u"QMessageBox, Warning, of MenuFile"_s,
+                          u"QMessageBox, Error, of GroupEdit"_s, u"QMessageBox, Error, of MenuFile"_s,
+                          u"QMessageBox, Error, of DaypartEdit"_s, u"QMessageBox, Warning, of MenuFile"_s}));
+}
+
+void TestOwners::boxesOfATimerBarMenu()
+{
+    Program program;
+    program.open(u"menu.cbr"_s, cbr::manyInBins(u"KTR22"_s, 100).bytes());
+    Escaped escaped(program);
+    clickEach(program, escaped, {"btnAddProduct"});
+    ui::clickRow(ui::get<QListWidget>(*program.subWindow(), "listWidgetProducts"), 0);
+    expectRefusedSave<TimerBarProductEdit>(program, escaped, "txtProductName");
+    clickAlone(program, "btnEditProduct");
+    expectSave<TimerBarProductEdit>(program, "numTempUpper", u"150"_s);
+    escaped.expect(2); // the notice, then what was removed
+    clickAlone(program, "btnEditProduct");
+    QCOMPARE(escaped.boxes(), (QStringList{u"QMessageBox, Error, of TimerBarMenuFile"_s,
+                                           u"QMessageBox, Error, of TimerBarProductEdit"_s,
+                                           u"QMessageBox, Warning, of TimerBarProductEdit"_s,
+                                           u"QMessageBox, Warning, of TimerBarMenuFile"_s}));
 }
 
 // The question belongs to no window; the file dialog to the editor that is closed.
