@@ -15,7 +15,7 @@ target_compile_definitions(conventions INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAS
 # run of the build takes an edited form over.
 function(varno_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;SOURCES;FORMS")
-    add_library(${name} STATIC ${arg_SOURCES})
+    add_library(${name} ${arg_SOURCES})
     if(arg_FORMS)
         list(TRANSFORM arg_FORMS REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/forms/\\1.ui")
         qt_wrap_ui(form_headers ${arg_FORMS})
