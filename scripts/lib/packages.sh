@@ -16,6 +16,7 @@
     packages_lint=(appstream clang-14 clang-format-14 clang-tidy-14 clazy desktop-file-utils libxml2-utils
                    shellcheck)
     packages_bench=(valgrind)
+    packages_mutate=(python3)
     # The sanitizers and the runner, and what names the functions in their reports.
     packages_fuzz=(clang-14 libclang-rt-14-dev llvm-14)
 }
