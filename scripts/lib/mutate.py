@@ -4,7 +4,9 @@
 """Puts faults into a copy of the program, one at a time. To be run by scripts/mutate, in the top folder."""
 
 import argparse
+import collections
 import concurrent.futures
+import hashlib
 import json
 import os
 import pathlib
@@ -21,6 +23,7 @@ WORK = pathlib.Path("build/mutate")
 COPY = WORK / "program"
 BUILD = COPY / "build/dev"
 RESULTS = WORK / "results.tsv"
+CONTENT = WORK / "content.json"
 LIBRARY_OF_FORMS = re.compile(r"FORMS\s([^)]*)\)")
 LINES_AFTER_ANCHOR = 30
 MEMORY_LIMIT = 6 * 1024**3
@@ -116,16 +119,22 @@ def all_faults(patterns):
 
 
 def refresh_copy():
-    """Makes the copy equal to the tracked files; what did not change keeps its time."""
-    tracked = subprocess.run(["git", "ls-files", "-z"], check=True, capture_output=True).stdout
-    names = {name for name in tracked.decode().split("\0") if name and os.path.isfile(name)}
+    """Makes the copy equal to the tracked files and returns a checksum of them. What did not change keeps its
+    time."""
+    tracked = subprocess.run(["git", "ls-files", "-z", "--", ".", ":!scripts", f":!{LISTS}"], check=True,
+                             capture_output=True).stdout
+    names = [name for name in tracked.decode().split("\0") if name and os.path.isfile(name)]
     for folder, folders, files in os.walk(COPY):
         folders[:] = [name for name in folders if name != "build"]
         for path in (pathlib.Path(folder, file) for file in files):
             if str(path.relative_to(COPY)) not in names:
                 path.unlink()
+    checksum = hashlib.sha256()
     for name in names:
-        write(COPY / name, pathlib.Path(name).read_bytes())
+        content = pathlib.Path(name).read_bytes()
+        write(COPY / name, content)
+        checksum.update(b"%s\0%d\0" % (name.encode(), len(content)) + content)
+    return checksum.hexdigest()
 
 
 def write(path, content):
@@ -210,10 +219,18 @@ def run_until_one_fails(tests, jobs, limit_of):
     return failed[0] if failed else ""
 
 
-def check_unchanged(tests, jobs):
+def check_unchanged(tests, jobs, checksum):
+    """Sees that all tests are content without a fault, unless they were with this very program."""
+    known = json.loads(CONTENT.read_text()) if CONTENT.exists() else {}
+    if known.get("checksum") == checksum:
+        for test in tests:
+            test.seconds = known["seconds"][test.name]
+        return
     failed = run_until_one_fails(tests, jobs, lambda _: 300)
     if failed:
         sys.exit(f"{failed} fails without any fault in the program")
+    seconds = {test.name: test.seconds for test in tests}
+    CONTENT.write_text(json.dumps({"checksum": checksum, "seconds": seconds}))
 
 
 class Results:
@@ -233,13 +250,10 @@ class Results:
     def survived(self, fault):
         return self.of.get(fault.key, ("survived", ""))[0] != "killed"
 
-    def killers(self, file):
-        """The tests that noticed faults of a file, with how many of them."""
-        count = {}
-        for key, (verdict, killer) in self.of.items():
-            if verdict == "killed" and key.startswith(file + "\t"):
-                count[killer] = count.get(killer, 0) + 1
-        return count
+    def killers(self, beginning):
+        """The tests that noticed faults of a file or a folder, with how many of them."""
+        return collections.Counter(killer for key, (verdict, killer) in self.of.items()
+                                   if verdict == "killed" and key.startswith(beginning))
 
 
 def words(name):
@@ -265,11 +279,15 @@ def libraries_seeing(file):
 def tests_for(fault, tests, results):
     """The tests that can see a fault, those that are likely to notice it first."""
     libraries = libraries_seeing(fault.file)
-    killers = results.killers(fault.file)
+    of_file = results.killers(fault.file + "\t")
+    of_folder = results.killers(fault.file.split("/")[0] + "/")
     before = results.of.get(fault.key, ("", ""))[1]
     seeing = [test for test in tests if test.libraries & libraries]
-    return sorted(seeing, key=lambda t: (t.name != before, -likeness(t, fault.file) - killers.get(t.name, 0),
-                                         not t.is_core, t.seconds))
+
+    def promise(test):
+        return likeness(test, fault.file) + of_file[test.name] + 2 * of_folder[test.name] / max(1, of_folder.total())
+
+    return sorted(seeing, key=lambda t: (t.name != before, -promise(t), not t.is_core, t.seconds))
 
 
 def judge(fault, tests, results, jobs):
@@ -281,7 +299,7 @@ def judge(fault, tests, results, jobs):
         some = seeing[first : first + size]
         if not build(jobs, "VarnoPlexora", *(test.name for test in some if is_header(fault))):
             return "broken", "does not compile"
-        failed = run_until_one_fails(some, jobs, lambda test: 20 + 8 * test.seconds)
+        failed = run_until_one_fails(some, jobs, lambda test: 30 + 8 * test.seconds)
         if failed:
             return "killed", failed
     return "survived", ""
@@ -319,12 +337,12 @@ def main():
         print(f"{len(faults)} faults fit the program")
         return
     WORK.mkdir(parents=True, exist_ok=True)
-    refresh_copy()
+    checksum = refresh_copy()
     configure()
     if not build(options.jobs, "VarnoPlexora", "core_tests", "gui_tests"):
         sys.exit(f"The program does not build: see {WORK}/build.log")
     tests = all_tests()
-    check_unchanged(tests, options.jobs)
+    check_unchanged(tests, options.jobs, checksum)
     results = Results()
     chosen = [fault for fault in faults if not options.survivors or results.survived(fault)]
     for number, fault in enumerate(chosen, 1):
