@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include <QLabel>
 #include <QPushButton>
 #include <QToolTip>
 
@@ -44,7 +45,7 @@ QWidget *shownToolTip()
 
 } // namespace
 
-/// The colours of the group editor, whatever the palette.
+/// How the group editor shows what a menu holds, whatever the palette.
 class TestGroupEditLook : public QObject
 {
     Q_OBJECT
@@ -54,6 +55,7 @@ private slots:
     void listsLookAsDefined();
     void selectedRowIsBlackOnDarkCyan();
     void toolTipsHaveTheirOwnColour();
+    void zoneSplitsAreNoMarkup();
 };
 
 void TestGroupEditLook::listsLookAsDefined()
@@ -104,6 +106,18 @@ void TestGroupEditLook::toolTipsHaveTheirOwnColour()
             QVERIFY(tip);
             QCOMPARE(tip->grab().toImage().pixelColor(2, tip->height() / 2), QColor(Qt::black));
         }
+        cancel(dialog);
+    });
+}
+
+void TestGroupEditLook::zoneSplitsAreNoMarkup()
+{
+    const QString markup = u"<b>1/2</b>"_s;
+    OpenEditor editor(menuWith(meats({1}, {{u"zoneSplits"_s, markup}})));
+    edit(editor, [&markup](GroupEdit &dialog, ModalAnswers &) {
+        const auto &label = ui::get<QLabel>(dialog, "txtZoneSplits");
+        QCOMPARE(label.text(), markup);
+        QCOMPARE(label.textFormat(), Qt::PlainText);
         cancel(dialog);
     });
 }
