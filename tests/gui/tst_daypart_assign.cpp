@@ -313,6 +313,11 @@ void TestDaypartAssign::nothingForABinThatIsNotThere()
     for (const auto &[row, slot] : {std::pair(0, 3), {2, 0}, {-1, 0}, {0, -1}, {8, 0}, {0, 4}})
         editor->assignProductToBin(row, slot);
     QCOMPARE(editor.savedBins(0), QList<int>(8, 0));
+
+    OpenBins oneZone(bins::menuOf(u"KTR22"_s, {}));
+    for (const int slot : {2, 3})
+        oneZone->assignProductToBin(0, slot);
+    QCOMPARE(oneZone.savedBins(0), QList<int>(4, 0));
 }
 
 QTEST_MAIN(TestDaypartAssign)
