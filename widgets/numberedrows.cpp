@@ -5,6 +5,7 @@
 
 #include <QBrush>
 #include <QFont>
+#include <QFontInfo>
 #include <QListWidget>
 #include <QStyledItemDelegate>
 
@@ -18,6 +19,8 @@ namespace numberedrows {
 namespace {
 
 constexpr QSize rowSize(100, 32);
+constexpr int rowMargin = 4;         // above and below the text together, in pixels
+constexpr qreal leastPointSize = 11; // of the lists that follow the application's font
 // Dark enough to be read on the light grey stripe, light enough to tell it from black.
 constexpr QColor unfittingText(0x60, 0x60, 0x60);
 constexpr QColor unfittingStripe(0xd3, 0xd3, 0xd3);
@@ -32,7 +35,19 @@ public:
     {
         return QStyledItemDelegate::displayText(beginningOf(value.toString()), locale);
     }
+
+    // Rows of a font that needs more than their height grow with it.
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+        return hint.expandedTo({0, option.fontMetrics.height() + rowMargin});
+    }
 };
+
+qreal pointSizeOf(const QFont &font)
+{
+    return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+}
 
 void prepare(QListWidget *list)
 {
@@ -79,7 +94,8 @@ void prepareColouredList(QListWidget *list)
 void preparePlainList(QListWidget *list)
 {
     prepare(list);
-    QFont font(u"Courier New"_s, 11);
+    QFont font(u"Courier New"_s);
+    font.setPointSizeF(qMax(leastPointSize, pointSizeOf(list->font())));
     font.setKerning(false); // a fixed pitch has none, and shaping rows in vain is most of painting them
     font.setStyleStrategy(QFont::PreferNoShaping);
     list->setFont(font);

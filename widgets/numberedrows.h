@@ -19,7 +19,8 @@ inline constexpr int idRole = Qt::DecorationRole;
 /// Sets up a list that colours its own rows: fixed-pitch font, a selected row in black on dark cyan, no drag
 /// and drop. For dialogs; its style sheet costs more than an editor should pay when it opens.
 void prepareColouredList(QListWidget *list);
-/// The same arrangement in the palette's own colours, with every other row in the alternate one.
+/// The same arrangement in the application's font size, where that is larger, and in the palette's own
+/// colours, with every other row in the alternate one.
 void preparePlainList(QListWidget *list);
 
 /// "  1 Bacon": the number right-aligned in three characters, a blank, the name.
