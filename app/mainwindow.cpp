@@ -11,6 +11,7 @@
 #include <QMdiSubWindow>
 
 #include "app/aboutapp.h"
+#include "app/emptyarea.h"
 #include "app/selectproductline.h"
 #include "ui_mainwindow.h"
 #include "widgets/messages.h"
@@ -24,6 +25,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_ui->setupUi(this);
     setCentralWidget(m_ui->mdiArea);
     setWindowIcon(QIcon(u":/myapp.ico"_s));
+    showHowToBegin(m_ui->mdiArea);
     connect(m_ui->menuFile, &QMenu::aboutToShow, this, &MainWindow::updateMenuItems);
 }
 
