@@ -13,7 +13,7 @@ AboutApp::AboutApp(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->lblVersion->setText(tr("Version %1").arg(QLatin1StringView(VARNO_VERSION)));
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
 }
 
 AboutApp::~AboutApp() = default;

@@ -16,7 +16,7 @@ SelectProductLine::SelectProductLine(QWidget *parent)
     for (const ProductLine &line : productLines())
         m_ui->comboProductLineSelect->addItem(line.name, line.resultCode);
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
 }
 
 SelectProductLine::~SelectProductLine() = default;

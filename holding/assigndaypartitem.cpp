@@ -9,6 +9,7 @@
 
 #include "holding/menufile.h"
 #include "ui_assigndaypartitem.h"
+#include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/numberedrows.h"
@@ -25,11 +26,14 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
 {
     m_ui->setupUi(this);
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
+    showWhenEmpty(m_ui->listWidgetProducts,
+                  tr("This menu has no products yet. Cancel, and add some on the Products tab."));
+    m_ui->details->setEmptyHint(tr("Select a product or group"));
     letEnterPressFocusedButton(this);
     // Room for a name of three lines below the other details, in any font.
     m_ui->spacerDetails->changeSize(0, 2 * fontMetrics().lineSpacing(), QSizePolicy::Minimum,
                                     QSizePolicy::Expanding);
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
     setWindowTitle(tr("Assign Product/Group"));
     loadProducts();
     loadProductInfo();

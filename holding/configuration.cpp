@@ -15,7 +15,7 @@ Configuration::Configuration(QWidget *parent)
 {
     m_ui->setupUi(this);
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
     // The slots are connected by now: the first type shown fills the models and the stored values.
     m_ui->comboUnitType->addItems(holding::cabinetTypes());
     m_ui->comboUnitType->setCurrentText(u"ZPV"_s);

@@ -16,7 +16,7 @@ DaypartEdit::DaypartEdit(const QStringList &names, QWidget *parent)
 {
     m_ui->setupUi(this);
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
     setWindowTitle(tr("Edit Day Part"));
     m_ui->txtName->setText(shownName(names));
 }

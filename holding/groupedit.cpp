@@ -10,6 +10,7 @@
 #include "holding/menufile.h"
 #include "holding/producttypes.h"
 #include "ui_groupedit.h"
+#include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/messages.h"
@@ -25,6 +26,15 @@ constexpr int positionRole = Qt::UserRole;
 int positionOf(const QListWidgetItem *item)
 {
     return item->data(positionRole).toInt();
+}
+
+// The pictures point down and up, the lists stand side by side.
+QIcon turnedToTheLists(const QIcon &icon, const QSize &size)
+{
+    QIcon turned;
+    for (const qreal ratio : {1.0, 2.0})
+        turned.addPixmap(icon.pixmap(size, ratio).transformed(QTransform().rotate(-90)));
+    return turned;
 }
 
 void appendMember(QListWidget *list, const ProductInfo &member, int position)
@@ -48,14 +58,20 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     , m_draft(group, m_configuration)
 {
     m_ui->setupUi(this);
-    for (QWidget *button : {m_ui->btnAddProduct, m_ui->btnRemoveProduct})
+    for (QPushButton *button : {m_ui->btnAddProduct, m_ui->btnRemoveProduct}) {
         button->setAttribute(Qt::WA_StyledBackground); // else a flat button does not paint it
+        button->setIcon(turnedToTheLists(button->icon(), button->iconSize()));
+    }
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     numberedrows::prepareColouredList(m_ui->listWidgetGroupProducts);
+    showWhenEmpty(m_ui->listWidgetProducts,
+                  tr("This menu has no products yet. Cancel, and add some on the Products tab."));
+    showWhenEmpty(m_ui->listWidgetGroupProducts,
+                  tr("Choose a product on the left and add it with the green arrow."));
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
     setWindowTitle(tr("Group Edit"));
     applyConfiguration();
+    fixSizeOnScreen(this);
     m_ui->txtName->setText(shownName(group.get_productName()));
     m_ui->txtName->setFocus();
     loadProducts();

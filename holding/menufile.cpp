@@ -9,7 +9,7 @@
 #include "holding/qhximport.h"
 #include "model/files.h"
 #include "ui_menufile.h"
-#include "widgets/fixedsize.h"
+#include "widgets/emptyhint.h"
 #include "widgets/messages.h"
 #include "widgets/numberedrows.h"
 
@@ -40,13 +40,18 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
                 m_ui->btnSelectMultiGroup})
 {
     numberedrows::preparePlainList(m_ui->listWidgetMembers);
+    showWhenEmpty(m_ui->listWidgetProducts, tr("No products yet. Add makes one."));
+    showWhenEmpty(m_ui->listWidgetGroups,
+                  tr("No groups yet. Add makes one of products that hold at the same settings."));
+    m_ui->detailsGroup->setEmptyHint(tr("Select a group"));
     setMenuValid(load(filePath));
     if (!isMenuValid())
         return;
     m_ui->tabWidget->setCurrentIndex(0);
     prepareGrid();
-    fixDesignedSize(this); // with all rows of the details, as another configuration may show them later
-    m_ui->listWidgetMembers->setMinimumHeight(0); // it scrolls, so that a long name finds its room here
+    // Room for a name of three lines among the details, in any font.
+    for (QSpacerItem *spacer : {m_ui->spacerDetailsProducts, m_ui->spacerDetailsGroups})
+        spacer->changeSize(0, 2 * fontMetrics().lineSpacing(), QSizePolicy::Minimum, QSizePolicy::Expanding);
     loadMenuFile();
 }
 
@@ -172,6 +177,7 @@ void MenuFile::loadMenuFile()
     loadGroups();
     loadGroupInfo();
     loadDayparts();
+    fitContent();
 }
 
 int MenuFile::getBinsPerZone()

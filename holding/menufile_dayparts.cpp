@@ -97,6 +97,16 @@ QString settingsText(const QString &title, const ProductInfo &entry,
         .arg(title, temperatures, timeText(entry.get_holdTime()));
 }
 
+// What is painted in a bin below the name.
+QString binDetails(const ProductInfo *entry, const holding::CabinetConfiguration &configuration)
+{
+    if (!entry)
+        return {};
+    const int lower = holding::isZpv(configuration.type) ? entry->get_upperTemp() : entry->get_lowerTemp();
+    return shortTemperatures(entry->get_upperTemp(), lower, configuration.temperatureUnit) + u"  "_s +
+           timeText(entry->get_holdTime());
+}
+
 QString binToolTip(const BinLabel &label, const ProductInfo *entry,
                    const holding::CabinetConfiguration &configuration)
 {
@@ -116,9 +126,6 @@ void MenuFile::prepareGrid()
         if (m_ui->tabWidget->currentWidget() == m_ui->tabDayparts && m_ui->frameGrid->styleSheet().isEmpty())
             m_ui->frameGrid->setStyleSheet(binButtonStyle());
     });
-    for (QWidget *widget : {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDeleteDaypart,
-                            m_ui->btnDaypartRemove, m_ui->btnCancelDaypartRemove})
-        keepRoomWhenHidden(widget);
     showRemovalMode(false);
     connect(&m_grid, &BinGrid::holdDetected, this, &MenuFile::dayPartPressHoldDetected);
     connect(&m_grid, &BinGrid::removalModeChanged, this,
@@ -193,12 +200,13 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
         holding::fitIntoZone(looks, m_shape.zone(zone), holding::zoneWidth(m_shape, zone));
     for (int slot = 0; slot < holding::maxSlots; ++slot) {
         const Bin bin{row, slot};
-        QPushButton *button = m_grid.button(bin);
+        auto *button = qobject_cast<BinButton *>(m_grid.button(bin));
         if (!button)
             continue;
         button->setMinimumWidth(looks[slot].minimumWidth);
         const BinLabel label = binLabel(content[slot], daypart.bins[bin]);
         m_grid.showContent(bin, label.name, label.remark);
+        button->setDetails(binDetails(content[slot].entry, m_menu.configuration));
         button->setToolTip(asPlainText(binToolTip(label, content[slot].entry, m_menu.configuration)));
         button->setVisible(looks[slot].visible);
     }

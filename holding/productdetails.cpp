@@ -5,9 +5,12 @@
 
 #include <utility>
 
+#include <QPainter>
+
 #include "holding/fields.h"
 #include "holding/timercolorsample.h"
 #include "ui_productdetails.h"
+#include "widgets/emptyhint.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +23,7 @@ constexpr QSize samplePadding(16, 4);
 ProductDetails::ProductDetails(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::ProductDetails>())
+    , m_emptyHint(tr("Select a product"))
 {
     m_ui->setupUi(this);
     for (const holding::ProductField &field : holding::productFields()) {
@@ -58,6 +62,17 @@ void ProductDetails::showEntry(const ProductInfo *entry, const holding::CabinetC
         row.value->setText(entry && row.detail->text ? row.detail->text(*entry, configuration) : QString());
     }
     showTimerColor(entry);
+    if (m_empty == static_cast<bool>(entry))
+        update();
+    m_empty = !entry;
+}
+
+void ProductDetails::paintEvent([[maybe_unused]] QPaintEvent *event)
+{
+    if (!m_empty)
+        return;
+    QPainter painter(this);
+    paintEmptyHint(painter, *this, rect().adjusted(m_ui->txtName->x(), 0, 0, 0), m_emptyHint);
 }
 
 void ProductDetails::showTimerColor(const ProductInfo *entry)

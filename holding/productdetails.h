@@ -32,6 +32,11 @@ public:
     /// Shows an entry, or empties every value for null. The configuration decides the temperature unit and
     /// which rows there are.
     void showEntry(const ProductInfo *entry, const holding::CabinetConfiguration &configuration);
+    /// What to do is painted beside the row names while no entry is shown.
+    void setEmptyHint(const QString &hint) { m_emptyHint = hint; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     struct Row
@@ -47,4 +52,6 @@ private:
 
     std::unique_ptr<Ui::ProductDetails> m_ui;
     QList<Row> m_rows;
+    QString m_emptyHint;
+    bool m_empty = true;
 };

@@ -48,10 +48,10 @@ ProductEdit::ProductEdit(ProductInfo &product, int productIndex, MenuFile *menuF
 {
     m_ui->btnTimerColor->setAttribute(Qt::WA_StyledBackground); // else a flat button does not paint it
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
     setWindowTitle(tr("Product Edit"));
     fillChoices(menuFile->getBinsPerZone());
     applyConfiguration();
+    fixSizeOnScreen(this);
     loadRecord();
     loadTypes();
     loadTimerColor();

@@ -54,7 +54,7 @@ TimerColorPicker::TimerColorPicker(QWidget *parent)
         }
     }
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
 }
 
 TimerColorPicker::~TimerColorPicker() = default;

@@ -9,7 +9,6 @@
 #include "model/files.h"
 #include "model/temperature.h"
 #include "ui_svrxmenufile.h"
-#include "widgets/fixedsize.h"
 #include "widgets/messages.h"
 #include "widgets/wheelfocus.h"
 
@@ -26,7 +25,7 @@ SvrxMenuFile::SvrxMenuFile(const QString &filePath, QWidget *parent)
     if (isNew)
         showTitle({});
     setMenuValid(isNew || readMenuFile());
-    fixDesignedSize(this);
+    fitContent();
 }
 
 // Qt hides the editor while it is destroyed, which takes the focus from a box. What that box then reports

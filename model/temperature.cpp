@@ -59,3 +59,9 @@ QString temperatureText(int fahrenheit, int unit)
 {
     return QString::number(shownTemperature(fahrenheit, unit)) + unitText(unit);
 }
+
+QString shortTemperatures(int upper, int lower, int unit)
+{
+    const QString lowest = temperatureText(lower, unit);
+    return upper == lower ? lowest : QString::number(shownTemperature(upper, unit)) + u'/' + lowest;
+}

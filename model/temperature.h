@@ -35,3 +35,5 @@ struct TemperatureRange
 [[nodiscard]] QString unitText(int unit);
 /// A stored temperature (°F) with its unit, for example "215°F".
 [[nodiscard]] QString temperatureText(int fahrenheit, int unit);
+/// An entry's stored temperatures (°F) where room is short: "225/215°F", or "215°F" where they are equal.
+[[nodiscard]] QString shortTemperatures(int upper, int lower, int unit);

@@ -15,7 +15,7 @@ TimerBarConfig::TimerBarConfig(QWidget *parent)
     m_ui->setupUi(this);
     m_ui->comboUnitModel->addItems(timerbar::cabinetModels());
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
 }
 
 TimerBarConfig::~TimerBarConfig() = default;

@@ -10,6 +10,7 @@
 #include "model/names.h"
 #include "timerbar/timerbarmenufile.h"
 #include "ui_timerbardaypartassignitem.h"
+#include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/numberedrows.h"
@@ -25,8 +26,10 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
     m_ui->setupUi(this);
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     m_ui->details->setShortNameLabel(tr("Shor Name:"));
+    showWhenEmpty(m_ui->listWidgetProducts,
+                  tr("This menu has no products yet. Cancel, and add some on the Products tab."));
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
     loadProducts();
     loadProductInfo();
     connect(m_ui->listWidgetProducts, &QListWidget::itemDoubleClicked, this,

@@ -12,7 +12,7 @@
 #include "timerbar/defaultproducts.h"
 #include "timerbar/timerbarconfig.h"
 #include "ui_timerbarmenufile.h"
-#include "widgets/fixedsize.h"
+#include "widgets/emptyhint.h"
 #include "widgets/messages.h"
 
 namespace {
@@ -42,6 +42,7 @@ TimerBarMenuFile::TimerBarMenuFile(const QString &filePath, QWidget *parent)
     , m_products({m_ui->listWidgetProducts, m_ui->btnEditProduct, m_ui->btnDuplicateProduct,
                   m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct})
 {
+    showWhenEmpty(m_ui->listWidgetProducts, tr("No products yet. Add makes one."));
     m_ui->btnExportFile->hide(); // there is nothing to export to yet
     setMenuValid(filePath.isEmpty() ? createMenu() : readInto(m_menu));
     if (!isMenuValid())
@@ -50,7 +51,6 @@ TimerBarMenuFile::TimerBarMenuFile(const QString &filePath, QWidget *parent)
     m_ui->tabWidget->setCurrentIndex(0);
     prepareGrid();
     loadMenuFile();
-    fixDesignedSize(this);
 }
 
 TimerBarMenuFile::~TimerBarMenuFile() = default;
@@ -128,6 +128,7 @@ void TimerBarMenuFile::loadMenuFile()
     loadProducts();
     loadProductInfo();
     loadDayparts();
+    fitContent();
 }
 
 void TimerBarMenuFile::loadCabinetInfo()

@@ -9,6 +9,8 @@
 #include <QSignalBlocker>
 
 #include "model/names.h"
+#include "model/temperature.h"
+#include "model/times.h"
 #include "timerbar/binbuttons.h"
 #include "timerbar/bins.h"
 #include "timerbar/timerbardaypartassignitem.h"
@@ -16,6 +18,8 @@
 #include "widgets/binbutton.h"
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -62,6 +66,15 @@ QString toolTipOf(const ProductInfo *product, int unit)
     return TimerBarMenuFile::tr("%1\nTemperature: %2 / %3")
         .arg(shownName(product->get_productName()), temperatureText(product->get_upperTemp(), unit),
              temperatureText(product->get_lowerTemp(), unit));
+}
+
+// What is painted in a bin below the name.
+QString detailsOf(const ProductInfo *product, int unit)
+{
+    if (!product)
+        return {};
+    return shortTemperatures(product->get_upperTemp(), product->get_lowerTemp(), unit) + u"  "_s +
+           timeText(product->get_holdTime(), u"HH:mm");
 }
 
 } // namespace
@@ -130,7 +143,9 @@ void TimerBarMenuFile::loadCurrentDaypart()
         const int id = (*cells)[bin];
         const ProductInfo *product = id == timerbar::emptyCell ? nullptr : getProductObject(id);
         m_grid.showContent(bin, product ? product->get_productShortName() : QString());
-        m_grid.button(bin)->setToolTip(asPlainText(toolTipOf(product, m_menu.temperatureUnit)));
+        auto *button = qobject_cast<BinButton *>(m_grid.button(bin));
+        button->setDetails(detailsOf(product, m_menu.temperatureUnit));
+        button->setToolTip(asPlainText(toolTipOf(product, m_menu.temperatureUnit)));
     }
 }
 

@@ -3,11 +3,14 @@
 
 #include "timerbar/timerbarproductdetails.h"
 
+#include <QPainter>
+
 #include "model/names.h"
 #include "model/productinfo.h"
 #include "model/temperature.h"
 #include "model/times.h"
 #include "ui_timerbarproductdetails.h"
+#include "widgets/emptyhint.h"
 
 namespace {
 
@@ -37,6 +40,17 @@ void TimerBarProductDetails::showProduct(const ProductInfo *product, int tempera
     show(m_ui->txtTempLower, [&](const ProductInfo &shown) { return temperature(shown.get_lowerTemp()); });
     show(m_ui->txtHoldTime, [&](const ProductInfo &shown) { return time(shown.get_holdTime()); });
     show(m_ui->txtWarningTime, [&](const ProductInfo &shown) { return time(shown.get_warningTime()); });
+    if (m_empty == static_cast<bool>(product))
+        update();
+    m_empty = !product;
+}
+
+void TimerBarProductDetails::paintEvent([[maybe_unused]] QPaintEvent *event)
+{
+    if (!m_empty)
+        return;
+    QPainter painter(this);
+    paintEmptyHint(painter, *this, rect().adjusted(m_ui->txtName->x(), 0, 0, 0), tr("Select a product"));
 }
 
 void TimerBarProductDetails::setShortNameLabel(const QString &label)

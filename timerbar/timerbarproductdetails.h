@@ -26,6 +26,11 @@ public:
     void showProduct(const ProductInfo *product, int temperatureUnit);
     void setShortNameLabel(const QString &label);
 
+protected:
+    /// What to do is painted beside the row names while no product is shown.
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     std::unique_ptr<Ui::TimerBarProductDetails> m_ui;
+    bool m_empty = true;
 };

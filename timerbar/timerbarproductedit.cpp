@@ -48,7 +48,7 @@ TimerBarProductEdit::TimerBarProductEdit(ProductInfo &product, TimerBarMenuFile 
     m_alertTime.show(m_product.get_warningTime());
     m_ui->txtProductName->setFocus();
     letEnterPressFocusedButton(this);
-    fixDesignedSize(this);
+    fixSizeOnScreen(this);
 }
 
 TimerBarProductEdit::~TimerBarProductEdit() = default;

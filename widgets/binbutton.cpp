@@ -5,6 +5,7 @@
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QTextLayout>
 
 #include "widgets/longtext.h"
 
@@ -12,10 +13,125 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int leastHeight = 44;
-constexpr int textMargin = 8; // on each side, the border of a checked button included
+constexpr int textMargin = 6;    // on each side, the border of a checked button included
+constexpr int outlineMargin = 8; // of an empty bin's outline
+constexpr int focusMargin = 5;   // inside the border of a checked bin
+constexpr int focusWidth = 2;    // all in pixels
+constexpr int gapAboveDetails = 2;
+constexpr qreal smallType = 0.85; // of the name's size
+constexpr QColor emptyBinColor(0x80, 0x80, 0x80);
+constexpr QColor hatchColor(0x90, 0x90, 0x90);
+
+// Lines of a bin stand closer than those of running text.
+int lineStep(const QFontMetrics &metrics)
+{
+    return metrics.ascent() + metrics.descent() / 4;
+}
+
+QFont smaller(QFont font)
+{
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(smallType * font.pointSizeF());
+    else
+        font.setPixelSize(qRound(smallType * font.pixelSize()));
+    return font;
+}
+
+// The measure of a first line that breaks at a word if it can.
+qsizetype firstLineLength(const QString &text, const QFont &font, int width)
+{
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(width);
+    layout.endLayout();
+    return line.textLength();
+}
+
+/// The lines of a bin from top to bottom.
+struct BinLines
+{
+    QStringList name;
+    QString details;
+
+    [[nodiscard]] int height(int nameStep, int detailsStep) const
+    {
+        return static_cast<int>(name.size()) * nameStep +
+               (details.isEmpty() ? 0 : gapAboveDetails + detailsStep);
+    }
+};
+
+QStringList nameLines(const QString &text, const QWidget &bin, int width, int mostLines)
+{
+    const QString name = beginningOf(text);
+    const QFontMetrics metrics = bin.fontMetrics();
+    const bool fits = metrics.horizontalAdvance(name) <= width;
+    if (fits || mostLines < 2)
+        return {fits ? name : metrics.elidedText(name, Qt::ElideRight, width)};
+    const qsizetype first = firstLineLength(name, bin.font(), width);
+    return {name.first(first).trimmed(),
+            metrics.elidedText(name.sliced(first).trimmed(), Qt::ElideRight, width)};
+}
+
+void paintOutline(QPainter &painter, const QRect &bin)
+{
+    QPen pen(emptyBinColor, 1, Qt::DashLine);
+    painter.setPen(pen);
+    const int margin = outlineMargin;
+    painter.drawRect(bin.adjusted(margin, margin, -margin - 1, -margin - 1));
+}
+
+void paintFocus(QPainter &painter, const QRect &bin)
+{
+    for (int i = 0; i < focusWidth; ++i) {
+        const int margin = focusMargin + i;
+        painter.setPen(Qt::black);
+        painter.drawRect(bin.adjusted(margin, margin, -margin - 1, -margin - 1));
+    }
+}
+
+void paintLines(QPainter &painter, const QWidget &bin, const QString &name, const QString &details)
+{
+    constexpr int flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip;
+    const QFont small = smaller(bin.font());
+    const QFontMetrics smallMetrics(small);
+    const int step = lineStep(bin.fontMetrics());
+    const int smallStep = lineStep(smallMetrics);
+    const int width = bin.width() - 2 * textMargin;
+    const int mostLines =
+        bin.height() >= 2 * step + (details.isEmpty() ? 0 : gapAboveDetails + smallStep) ? 2 : 1;
+    const BinLines lines{nameLines(name, bin, width, mostLines), details};
+    QRect place(textMargin, (bin.height() - lines.height(step, smallStep)) / 2, width, step);
+    for (const QString &line : lines.name) {
+        painter.drawText(place, flags, line);
+        place.translate(0, step);
+    }
+    if (details.isEmpty())
+        return;
+    place.translate(0, gapAboveDetails);
+    place.setHeight(smallStep);
+    painter.setFont(small);
+    painter.drawText(place, flags, smallMetrics.elidedText(details, Qt::ElideRight, width));
+}
 
 } // namespace
+
+BinButton::BinButton(QWidget *parent)
+    : QPushButton(parent)
+{
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
+}
+
+void BinButton::setDetails(const QString &details)
+{
+    if (details == m_details)
+        return;
+    m_details = details;
+    update();
+}
 
 QSize BinButton::sizeHint() const
 {
@@ -24,27 +140,39 @@ QSize BinButton::sizeHint() const
 
 QSize BinButton::minimumSizeHint() const
 {
-    return {minimumWidth(), qMax(leastHeight, 2 * fontMetrics().height())};
+    // Room for a name on two lines and its details.
+    return {minimumWidth(),
+            2 * lineStep(fontMetrics()) + gapAboveDetails + lineStep(QFontMetrics(smaller(font())))};
 }
 
 void BinButton::paintEvent([[maybe_unused]] QPaintEvent *event)
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    option.text = fontMetrics().elidedText(beginningOf(text()), Qt::ElideRight, width() - 2 * textMargin);
-    option.text.replace(u'&', u"&&"_s); // styles draw one ampersand as an underline
-    QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
+    option.text.clear();
+    QStylePainter painter(this);
+    painter.drawControl(QStyle::CE_PushButton, option);
+    if (!isEnabled())
+        painter.fillRect(rect().adjusted(2, 0, -2, 0), QBrush(hatchColor, Qt::BDiagPattern));
+    if (text().isEmpty())
+        paintOutline(painter, rect());
+    if (hasFocus())
+        paintFocus(painter, rect());
+    if (text().isEmpty())
+        return;
+    painter.setPen(palette().color(QPalette::ButtonText));
+    paintLines(painter, *this, text(), m_details);
 }
 
 QString binButtonStyle()
 {
     // The texts are black in every palette, as the greys are the same in every palette.
     // The margin makes the gaps between bins that their layout has no room for.
-    return u"QPushButton { background-color: LightGray; border: none; color: black; margin: 0 2px; }"
+    return u"#frameGrid { background-color: #454d55; border-radius: 6px; }"
+           "QLabel { color: white; }"
+           "QPushButton { background-color: LightGray; border: none; color: black; margin: 0 2px; }"
            "QPushButton:disabled { color: #505050; }"
-           "QPushButton:focus { border: 1px dotted black; }"
            "QPushButton:pressed { background-color: DarkGrey; }"
            "QPushButton:checked { background-color: DarkGrey; border: 2px outset black; }"
-           "QPushButton:checked:focus { text-decoration: underline; }"
            "QPushButton:hover:!pressed:!checked { background-color: Silver; }"_s;
 }

@@ -3,9 +3,15 @@
 
 #pragma once
 
-class QWidget;
+#include <QSize>
 
-/// Fixes a dialog's or an editor's size to its designed geometry, grown to what its layout needs where the
-/// running font is larger than the designer's. Call it after the form is built, and again where rows were
-/// shown that the design does not count.
-void fixDesignedSize(QWidget *window);
+class QDialog;
+
+/// Fixes a dialog's size to its designed geometry, grown to what its layout needs where the running font is
+/// larger than the designer's. Where the screen of its opener has no room for that, all but the last row of
+/// the dialog scrolls: the buttons stay on the screen. The dialog's layout is a vertical box with the buttons
+/// as its last row. Call it after the form is built, and before rows are hidden that the design counts.
+void fixSizeOnScreen(QDialog *dialog);
+
+/// The same for a size of the screen without what the desktop keeps for itself, in logical pixels.
+void fixSizeOnScreen(QDialog *dialog, const QSize &available);

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QLayout>
 #include <QMdiSubWindow>
 
 #include "model/files.h"
@@ -46,6 +47,34 @@ void MenuEditor::showTitle(const QString &fileName)
 {
     // A title has "[*]" as the place of the mark of a changed document; doubled it stands for itself.
     setWindowTitle(tr("Menu File - %1").arg(QString(fileName).replace("[*]"_L1, "[*][*]"_L1)));
+}
+
+namespace {
+
+// Layouts learn of rows that came or went on a page that is not in front only when it is shown.
+void activateLayouts(QWidget *editor)
+{
+    const QList<QWidget *> widgets = editor->findChildren<QWidget *>();
+    for (auto widget = widgets.rbegin(); widget != widgets.rend(); ++widget) {
+        if (QLayout *layout = (*widget)->layout())
+            layout->activate();
+        (*widget)->updateGeometry();
+    }
+    editor->layout()->activate();
+}
+
+} // namespace
+
+void MenuEditor::fitContent()
+{
+    if (m_designedSize.isValid())
+        activateLayouts(this);
+    else
+        m_designedSize = size();
+    const QSize before = size();
+    setFixedSize(m_designedSize.expandedTo(layout()->totalSizeHint()));
+    if (auto *subWindow = qobject_cast<QMdiSubWindow *>(parentWidget()))
+        subWindow->resize(subWindow->size() + size() - before);
 }
 
 namespace {

@@ -56,6 +56,11 @@ protected:
     /// Shows a name in the title; empty for a new menu.
     void showTitle(const QString &fileName);
 
+    /// Fixes the editor's size to its designed geometry, grown to what its content needs, and its
+    /// sub-window's with it. To be called again where the content has changed. An area that is smaller
+    /// scrolls.
+    void fitContent();
+
     /// Asks whether to save first; ignored while a modal dialog is open. The editor schedules its own
     /// deletion, except after a save in place.
     void closeEvent(QCloseEvent *event) override;
@@ -66,5 +71,6 @@ private:
     [[nodiscard]] bool saveUnderNewName();
 
     QString m_filePath;
+    QSize m_designedSize; ///< invalid before the first fitContent()
     bool m_menuValid = false;
 };

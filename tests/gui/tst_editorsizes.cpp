@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QApplication>
+#include <QLayout>
+#include <QListWidget>
+#include <QMdiSubWindow>
+
+#include "tests/gui/openbins.h"
+#include "tests/gui/opentimerbar.h"
+#include "tests/support/program.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+
+/// How the editors' sizes follow the cabinet and the font.
+class TestEditorSizes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void cleanup() { QApplication::setFont(m_font); }
+    void editorIsAsHighAsItsRows();
+    void subWindowFollowsTheCabinet();
+    void timerBarIsNeverNarrowerThanItsHint();
+    void listsFollowALargeFont_data();
+    void listsFollowALargeFont();
+
+private:
+    const QFont m_font = QApplication::font();
+};
+
+namespace {
+
+void setFontSize(qreal points)
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(points);
+    QApplication::setFont(font);
+}
+
+void chooseModel(ModalAnswers &answers, QWidget &editor, const QString &model)
+{
+    answers.expect<QDialog>([model](QDialog &dialog) {
+        ui::choose(dialog, "comboUnitModel", model);
+        ui::click(dialog, "btnAccept");
+    });
+    ui::click(editor, "btnConfig");
+}
+
+} // namespace
+
+void TestEditorSizes::editorIsAsHighAsItsRows()
+{
+    OpenBins two(bins::menuOf(u"KTR22"_s, {}));
+    OpenBins eight(bins::menuOf(u"KTR82"_s, {}));
+    QVERIFY(two->height() < eight->height());
+    ModalAnswers answers;
+    const QSize before = two->size();
+    chooseModel(answers, *two, u"KTR82"_s);
+    QCOMPARE(two->size(), eight->size());
+    chooseModel(answers, *two, u"KTR22"_s);
+    QCOMPARE(two->size(), before);
+}
+
+void TestEditorSizes::subWindowFollowsTheCabinet()
+{
+    Program program;
+    QMdiSubWindow *subWindow = program.open(u"menu.json"_s, bins::menuOf(u"KTR22"_s, {}).bytes());
+    QVERIFY(subWindow);
+    QWidget &editor = *subWindow->widget();
+    const QSize around = subWindow->size() - editor.size();
+    const int before = editor.height();
+    chooseModel(program.answers(), editor, u"KTR82"_s);
+    QVERIFY(editor.height() > before);
+    QCOMPARE(subWindow->size() - editor.size(), around);
+    QVERIFY(subWindow->rect().contains(editor.geometry()));
+}
+
+void TestEditorSizes::timerBarIsNeverNarrowerThanItsHint()
+{
+    setFontSize(20);
+    OpenTimerBar editor(cbr::Menu{.model = u"KTR22"_s});
+    ModalAnswers answers;
+    for (const QString &model : {u"KTR34"_s, u"KTR42"_s, u"KTR23"_s, u"KTR24"_s}) {
+        chooseModel(answers, *editor, model);
+        QVERIFY(editor->width() >= editor->layout()->totalSizeHint().width());
+        QVERIFY(editor->height() >= editor->layout()->totalSizeHint().height());
+    }
+}
+
+void TestEditorSizes::listsFollowALargeFont_data()
+{
+    QTest::addColumn<qreal>("application");
+    QTest::addColumn<qreal>("list");
+    QTest::newRow("9 pt") << 9.0 << 11.0;
+    QTest::newRow("11 pt") << 11.0 << 11.0;
+    QTest::newRow("14 pt") << 14.0 << 14.0;
+    QTest::newRow("28 pt") << 28.0 << 28.0;
+}
+
+// The rows grow with it where they have to.
+void TestEditorSizes::listsFollowALargeFont()
+{
+    QFETCH(const qreal, application);
+    QFETCH(const qreal, list);
+    setFontSize(application);
+    OpenBins editor(bins::menuOf(u"KTR22"_s, {}));
+    for (const char *name : {"listWidgetProducts", "listWidgetGroups"}) {
+        auto &rows = ui::get<QListWidget>(*editor, name);
+        QCOMPARE(rows.font().pointSizeF(), list);
+        const int height = rows.visualItemRect(rows.item(0)).height();
+        QVERIFY(height >= 32 && height >= rows.fontMetrics().height());
+        QCOMPARE(rows.item(0)->sizeHint(), QSize(100, 32));
+    }
+}
+
+QTEST_MAIN(TestEditorSizes)
+#include "tst_editorsizes.moc"
