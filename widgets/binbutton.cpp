@@ -28,6 +28,15 @@ int lineStep(const QFontMetrics &metrics)
     return metrics.ascent() + metrics.descent() / 4;
 }
 
+// A font that is not kerned needs no shaping, which is most of painting a bin; scripts that need it are still
+// shaped.
+QFont plain(QFont font)
+{
+    font.setKerning(false);
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    return font;
+}
+
 QFont smaller(QFont font)
 {
     if (font.pointSizeF() > 0)
@@ -64,14 +73,14 @@ struct BinLines
     }
 };
 
-QStringList nameLines(const QString &text, const QWidget &bin, int width, int mostLines)
+QStringList nameLines(const QString &text, const QFont &font, int width, int mostLines)
 {
     const QString name = beginningOf(text);
-    const QFontMetrics metrics = bin.fontMetrics();
+    const QFontMetrics metrics(font);
     const bool fits = metrics.horizontalAdvance(name) <= width;
     if (fits || mostLines < 2)
         return {fits ? name : metrics.elidedText(name, Qt::ElideRight, width)};
-    const qsizetype first = firstLineLength(name, bin.font(), width);
+    const qsizetype first = firstLineLength(name, font, width);
     return {name.first(first).trimmed(),
             metrics.elidedText(name.sliced(first).trimmed(), Qt::ElideRight, width)};
 }
@@ -96,15 +105,17 @@ void paintFocus(QPainter &painter, const QRect &bin)
 void paintLines(QPainter &painter, const QWidget &bin, const QString &name, const QString &details)
 {
     constexpr int flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip;
-    const QFont small = smaller(bin.font());
+    const QFont font = plain(bin.font());
+    const QFont small = smaller(font);
     const QFontMetrics smallMetrics(small);
     const int step = lineStep(bin.fontMetrics());
     const int smallStep = lineStep(smallMetrics);
     const int width = bin.width() - 2 * textMargin;
     const int mostLines =
         bin.height() >= 2 * step + (details.isEmpty() ? 0 : gapAboveDetails + smallStep) ? 2 : 1;
-    const BinLines lines{nameLines(name, bin, width, mostLines), details};
+    const BinLines lines{nameLines(name, font, width, mostLines), details};
     QRect place(textMargin, (bin.height() - lines.height(step, smallStep)) / 2, width, step);
+    painter.setFont(font);
     for (const QString &line : lines.name) {
         painter.drawText(place, flags, line);
         place.translate(0, step);
