@@ -125,7 +125,9 @@ void paintLines(QPainter &painter, const QWidget &bin, const QString &name, cons
     place.translate(0, gapAboveDetails);
     place.setHeight(smallStep);
     painter.setFont(small);
-    painter.drawText(place, flags, smallMetrics.elidedText(details, Qt::ElideRight, width));
+    // Measuring costs as much as painting, and digits are of average width.
+    const bool fits = (details.size() + 2) * smallMetrics.averageCharWidth() <= width;
+    painter.drawText(place, flags, fits ? details : smallMetrics.elidedText(details, Qt::ElideRight, width));
 }
 
 } // namespace
