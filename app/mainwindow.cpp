@@ -8,13 +8,16 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMdiSubWindow>
 
 #include "app/aboutapp.h"
 #include "app/emptyarea.h"
 #include "app/selectproductline.h"
 #include "ui_mainwindow.h"
+#include "widgets/longtext.h"
 #include "widgets/messages.h"
+#include "widgets/plaintext.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,9 +30,44 @@ MainWindow::MainWindow(QWidget *parent)
     setWindowIcon(QIcon(u":/myapp.ico"_s));
     showHowToBegin(m_ui->mdiArea);
     connect(m_ui->menuFile, &QMenu::aboutToShow, this, &MainWindow::updateMenuItems);
+    prepareStatusBar();
 }
 
 MainWindow::~MainWindow() = default;
+
+// Tips of what the pointer is on cover the line of the last act and give it back; the note stays in sight.
+void MainWindow::prepareStatusBar()
+{
+    m_told = new QLabel(this);
+    m_told->setObjectName(u"lblTold"_s);
+    m_told->setTextFormat(Qt::PlainText);
+    m_told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a path never widens the window
+    m_ui->statusbar->addWidget(m_told, 1);
+    m_suffixNote = new QLabel(this);
+    m_suffixNote->setObjectName(u"lblSuffixNote"_s);
+    m_suffixNote->hide();
+    m_ui->statusbar->addPermanentWidget(m_suffixNote);
+    connect(m_ui->mdiArea, &QMdiArea::subWindowActivated, this, [this] { showSuffixNote(); });
+}
+
+void MainWindow::tell(const QString &message)
+{
+    const QString shown = beginningOf(message);
+    m_told->setText(shown);
+    m_told->setToolTip(asPlainText(shown)); // the whole path, where the bar is too short for it
+    showSuffixNote();
+}
+
+void MainWindow::showSuffixNote()
+{
+    const QMdiSubWindow *subWindow = m_ui->mdiArea->activeSubWindow();
+    const ProductLine *line = subWindow ? productLineOf(*subWindow) : nullptr;
+    const MenuEditor *editor = line ? menuEditorIn(*subWindow) : nullptr;
+    const QString path = editor ? editor->filePath() : QString();
+    m_suffixNote->setHidden(path.isEmpty() || productLineOfFile(path) == line);
+    if (!m_suffixNote->isHidden())
+        m_suffixNote->setText(tr("Without %1 this program will not open it.").arg(line->suffixes.first()));
+}
 
 void MainWindow::updateMenuItems()
 {
@@ -87,6 +125,7 @@ void MainWindow::openEditor(const ProductLine &line, const QString &path)
     std::unique_ptr<MenuEditor> editor = line.editor.create(path, this);
     if (!editor->isMenuValid())
         return;
+    connect(editor.get(), &MenuEditor::told, this, [this](const QString &message) { tell(message); });
     QMdiSubWindow *subWindow = m_ui->mdiArea->addSubWindow(editor.release());
     subWindow->setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowMinimizeButtonHint |
                               Qt::MSWindowsFixedSizeDialogHint);
@@ -94,6 +133,7 @@ void MainWindow::openEditor(const ProductLine &line, const QString &path)
     subWindow->overrideWindowFlags(subWindow->windowFlags() & ~Qt::WindowSystemMenuHint);
     subWindow->show();
     subWindow->setObjectName(line.subWindowName);
+    tell(path.isEmpty() ? QString() : tr("Opened %1").arg(path));
 }
 
 MenuEditor *MainWindow::activeEditor() const

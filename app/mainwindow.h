@@ -13,6 +13,8 @@ namespace Ui {
 class MainWindow;
 }
 
+class QLabel;
+
 /// The main window: each open menu is a sub-window of its document area, and the File menu acts on the
 /// active one. It knows the editors only as MenuEditor.
 class MainWindow final : public QMainWindow
@@ -39,6 +41,10 @@ public slots:
     void on_actionSaveAs_triggered();
 
 private:
+    void prepareStatusBar();
+    void tell(const QString &message);
+    /// Says for as long as it is so that the active menu's file would not be found again.
+    void showSuffixNote();
     [[nodiscard]] MenuEditor *activeEditor() const; ///< null for none
     void saveUnderChosenName(MenuEditor &editor, SaveKind kind);
     /// False when the program is to stay open: a menu could not be saved, or the user gave it no name.
@@ -46,4 +52,6 @@ private:
     [[nodiscard]] bool saveBeforeExit(QMdiSubWindow &subWindow, MenuEditor &editor);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
+    QLabel *m_told = nullptr; ///< what the last act came to
+    QLabel *m_suffixNote = nullptr;
 };

@@ -90,10 +90,14 @@ QString openFilter()
     return filters.join(";;"_L1);
 }
 
+const ProductLine *productLineOf(const QMdiSubWindow &subWindow)
+{
+    return find(
+        [&subWindow](const ProductLine &line) { return subWindow.objectName() == line.subWindowName; });
+}
+
 MenuEditor *menuEditorIn(const QMdiSubWindow &subWindow)
 {
-    const ProductLine *line = find([&subWindow](const ProductLine &candidate) {
-        return subWindow.objectName() == candidate.subWindowName;
-    });
+    const ProductLine *line = productLineOf(subWindow);
     return line ? line->editor.cast(subWindow.widget()) : nullptr;
 }

@@ -42,6 +42,9 @@ struct ProductLine
 /// The filter of the open dialog: the files of all lines, then an entry for each line.
 [[nodiscard]] QString openFilter();
 
+/// Which line a sub-window is of, by its name; null for none.
+[[nodiscard]] const ProductLine *productLineOf(const QMdiSubWindow &subWindow);
+
 /// The editor in a sub-window: both the sub-window's name and the editor's class have to be those of a line.
 /// Null for none.
 [[nodiscard]] MenuEditor *menuEditorIn(const QMdiSubWindow &subWindow);

@@ -11,6 +11,8 @@
 #include "app/mainwindow.h"
 #include "app/translation.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Whenever a menu becomes active, Qt measures the titles of all open menus. Without kerning that takes a
@@ -37,6 +39,8 @@ void surviveFileSizeLimit()
 
 void prepareApplication()
 {
+    // Under this name desktops find the icon and the name of a window that brings none.
+    QGuiApplication::setDesktopFileName(u"varnoplexora"_s);
     layOutTitlesPlainly();
     surviveFileSizeLimit();
 }

@@ -39,6 +39,7 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
     , m_groups({m_ui->listWidgetGroups, m_ui->btnEditGroup, m_ui->btnDuplicateGroup, m_ui->btnDeleteGroup,
                 m_ui->btnSelectMultiGroup})
 {
+    takeFrame(m_ui->lblSaved, m_ui->btnClose);
     numberedrows::preparePlainList(m_ui->listWidgetMembers);
     showWhenEmpty(m_ui->listWidgetProducts, tr("No products yet. Add makes one."));
     showWhenEmpty(m_ui->listWidgetGroups,
@@ -78,6 +79,8 @@ bool MenuFile::readMenuFile()
 {
     const bool read = readIntoMenu();
     loadMenuFile(); // else the lists would go on showing entries that are gone
+    if (!read)
+        noteChange();
     return read;
 }
 
@@ -85,8 +88,10 @@ bool MenuFile::readIntoMenu()
 {
     const QString path = filePath();
     const std::optional<QByteArray> bytes = readFile(path);
-    const auto ask = [this](holding::CabinetConfiguration &configuration) {
+    bool asked = false;
+    const auto ask = [&](holding::CabinetConfiguration &configuration) {
         const bool accepted = askConfiguration(configuration);
+        asked = true;
         setMenuValid(accepted);
         if (accepted)
             showTitle({});
@@ -101,6 +106,9 @@ bool MenuFile::readIntoMenu()
         return false;
     }
     setFilePath(path);
+    noteRead(*bytes);
+    if (asked)
+        noteChange();
     return true;
 }
 
@@ -125,6 +133,7 @@ bool MenuFile::importIntoMenu(const QString &fileName)
     holding::addImportedMenu(std::move(imported), m_menu);
     loadCabinetInfo();
     showTitle(lastPathPart(fileName));
+    noteImported(lastPathPart(fileName));
     return true;
 }
 
@@ -147,10 +156,19 @@ QStringList MenuFile::readNameTranslationsFromJson(const QJsonObject &nameObj)
 bool MenuFile::writeToFile(const QString &path)
 {
     setFilePath(path);
-    if (writeFile(path, holding::writeMenu(m_menu)))
+    const QByteArray bytes = contents();
+    if (writeFile(path, bytes)) {
+        noteSaved(bytes, tr("Saved %1").arg(path));
         return true;
+    }
+    noteChange();
     messages::fileFault(tr("Failed to create/open the file:") + path);
     return false;
+}
+
+QByteArray MenuFile::contents() const
+{
+    return holding::writeMenu(m_menu);
 }
 
 void MenuFile::saveAs()
@@ -259,4 +277,5 @@ void MenuFile::on_btnConfig_clicked()
             this, tr("Bins per zone configuration is changed. All daypart assignments are removed."));
     }
     loadMenuFile();
+    noteChange();
 }

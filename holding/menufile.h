@@ -117,6 +117,9 @@ public slots: // old menus
     /// is never written: a new menu has no path of its own yet. An error has been shown and changes nothing.
     bool importQhxMenuFile(const QString &fileName);
 
+protected:
+    [[nodiscard]] QByteArray contents() const override;
+
 private:
     [[nodiscard]] bool load(const QString &path);
     [[nodiscard]] bool readIntoMenu();

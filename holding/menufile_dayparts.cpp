@@ -238,6 +238,7 @@ void MenuFile::assignProductToBin(int rowIndex, int binIndex)
         return;
     daypart->bins[Bin{rowIndex, binIndex}] = dialog.resultId();
     loadCurrentDaypart();
+    noteChange();
 }
 
 void MenuFile::dayPartPressHoldDetected()
@@ -258,6 +259,7 @@ void MenuFile::on_btnDaypartRemove_clicked()
             daypart->bins[bin] = holding::emptyBin;
     }
     loadCurrentDaypart();
+    noteChange();
 }
 
 void MenuFile::on_btnCancelDaypartRemove_clicked()
@@ -277,6 +279,7 @@ void MenuFile::on_btnDeleteDaypart_clicked()
         return;
     m_menu.removeDaypart(index);
     loadDayparts();
+    noteChange();
 }
 
 void MenuFile::on_btnEditDaypart_clicked()
@@ -291,6 +294,7 @@ void MenuFile::on_btnEditDaypart_clicked()
     m_ui->comboDaypartSelect->setItemText(m_ui->comboDaypartSelect->currentIndex(),
                                           beginningOf(shownName(daypart->names)));
     loadCurrentDaypart();
+    noteChange();
 }
 
 void MenuFile::on_btnAddDaypart_clicked()
@@ -307,10 +311,12 @@ void MenuFile::on_btnAddDaypart_clicked()
     const QSignalBlocker blocker(m_ui->comboDaypartSelect);
     m_ui->comboDaypartSelect->setCurrentIndex(m_menu.daypartCount - 1);
     loadCurrentDaypart();
+    noteChange();
 }
 
 void MenuFile::on_checkBoxDaypartInUse_stateChanged(int arg1)
 {
     if (holding::Daypart *daypart = currentDaypart())
         daypart->inUse = arg1 == Qt::Checked;
+    noteChange();
 }

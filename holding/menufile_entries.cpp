@@ -56,4 +56,5 @@ void MenuFile::deleteEntries(EntryPane &pane, Entries &entries, const QString &q
         entries.erase(place);
     });
     reloadEntries();
+    noteChange();
 }

@@ -86,6 +86,7 @@ void MenuFile::addGroup(std::unique_ptr<ProductInfo> group)
     loadGroups();
     loadGroupInfo();
     loadCurrentDaypart();
+    noteChange();
 }
 
 void MenuFile::on_btnAddGroup_clicked()
@@ -115,6 +116,7 @@ void MenuFile::on_btnEditGroup_clicked()
     loadGroups();
     loadGroupInfo();
     loadCurrentDaypart();
+    noteChange();
     if (leftDayparts)
         messages::warning(this, tr("Group has been removed from daypart(s) assignemnts"));
 }

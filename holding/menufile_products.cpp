@@ -38,6 +38,7 @@ void MenuFile::addProduct(std::unique_ptr<ProductInfo> product)
     m_menu.products.push_back(std::move(product));
     m_products.setCurrentRow(row);
     reloadEntries();
+    noteChange();
 }
 
 void MenuFile::on_btnAddProduct_clicked()
@@ -67,6 +68,7 @@ void MenuFile::on_btnEditProduct_clicked()
     const bool leftGroups = changed && removeIdFromAllGroups(product->get_productId());
     const bool leftDayparts = changed && removeIdFromAllDayparts(product->get_productId());
     reloadEntries();
+    noteChange();
     if (leftGroups && leftDayparts)
         messages::warning(this, tr("Product has been removed from group(s) and daypart(s) assignemnts"));
     else if (leftDayparts)

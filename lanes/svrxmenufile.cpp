@@ -17,6 +17,7 @@ SvrxMenuFile::SvrxMenuFile(const QString &filePath, QWidget *parent)
     , m_ui(std::make_unique<Ui::SvrxMenuFile>())
 {
     m_ui->setupUi(this);
+    takeFrame(m_ui->lblSaved, m_ui->btnClose);
     m_rows = rowsOf(*m_ui);
     prepareBoxes();
     needFocusForWheel(this);
@@ -101,6 +102,7 @@ bool SvrxMenuFile::readMenuFile()
         return false;
     }
     setFilePath(path);
+    noteRead(*text);
     showConfiguration();
     return true;
 }
@@ -112,8 +114,13 @@ bool SvrxMenuFile::save()
 
 bool SvrxMenuFile::writeToFile(const QString &path)
 {
-    return checkName(path) && writeConfigurationFile(path) &&
-           writeEolProdMenuFile(lanes::productionPath(path));
+    if (!checkName(path))
+        return false;
+    const QString production = lanes::productionPath(path);
+    const bool saved = writeConfigurationFile(path) && writeEolProdMenuFile(production);
+    if (saved)
+        emit told(tr("Saved %1 and %2").arg(path, production));
+    return saved;
 }
 
 // Closing leaves the production file as it is: only a name that is chosen in the main window writes both.
@@ -130,12 +137,21 @@ bool SvrxMenuFile::checkName(const QString &path)
     return loadable;
 }
 
+QByteArray SvrxMenuFile::contents() const
+{
+    return lanes::writeConfiguration(m_configuration);
+}
+
 bool SvrxMenuFile::writeConfigurationFile(const QString &path)
 {
     if (path != filePath())
         setFilePath(path);
-    if (writeFile(path, lanes::writeConfiguration(m_configuration)))
+    const QByteArray text = contents();
+    if (writeFile(path, text)) {
+        noteSaved(text, tr("Saved %1. The production file was not written.").arg(path));
         return true;
+    }
+    noteChange();
     messages::fileFault(tr("Failed to create/open the file:") + path);
     return false;
 }
@@ -222,6 +238,7 @@ void SvrxMenuFile::on_comboModelSelect_currentIndexChanged(int index)
     m_configuration.laneCount = index + 1;
     enableRows();
     showNotes();
+    noteChange();
 }
 
 void SvrxMenuFile::on_rbTempUnitF_clicked()
@@ -252,6 +269,7 @@ void SvrxMenuFile::storeFanSpeed(int lane, int value)
         return;
     stored = value;
     showNotes();
+    noteChange();
 }
 
 void SvrxMenuFile::storeTemperature(int lane, int value)
@@ -262,6 +280,7 @@ void SvrxMenuFile::storeTemperature(int lane, int value)
         return;
     stored = storedTemperature(value, unit);
     showNotes();
+    noteChange();
 }
 
 void SvrxMenuFile::on_numFanSpeed1_valueChanged(int arg1)

@@ -54,6 +54,7 @@ public slots:
     void on_numTemperature4_valueChanged(int arg1);
 
 protected:
+    [[nodiscard]] QByteArray contents() const override;
     bool writeOnClosing(const QString &path) override;
 
 private:

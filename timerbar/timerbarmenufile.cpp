@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include <QBuffer>
 #include <QFile>
 
 #include "model/files.h"
@@ -43,6 +44,7 @@ TimerBarMenuFile::TimerBarMenuFile(const QString &filePath, QWidget *parent)
                   m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct})
 {
     showWhenEmpty(m_ui->listWidgetProducts, tr("No products yet. Add makes one."));
+    takeFrame(m_ui->lblSaved, m_ui->btnClose);
     m_ui->btnExportFile->hide(); // there is nothing to export to yet
     setMenuValid(filePath.isEmpty() ? createMenu() : readInto(m_menu));
     if (!isMenuValid())
@@ -99,11 +101,13 @@ bool TimerBarMenuFile::readInto(timerbar::Menu &menu)
     const std::optional<QByteArray> bytes = readFile(path);
     const QString fault = bytes ? timerbar::readMenu(*bytes, menu) : tr("Failed to open the file:") + path;
     setMenuValid(fault.isEmpty());
-    if (fault.isEmpty())
-        setFilePath(path);
-    else
+    if (!fault.isEmpty()) {
         messages::fileFault(fault);
-    return fault.isEmpty();
+        return false;
+    }
+    setFilePath(path);
+    noteRead(*bytes);
+    return true;
 }
 
 bool TimerBarMenuFile::writeMenuFile(const QString &fileName)
@@ -112,9 +116,22 @@ bool TimerBarMenuFile::writeMenuFile(const QString &fileName)
         setFilePath(fileName);
     const QString fault = writeFaultOf(fileName, m_menu);
     setMenuValid(fault.isEmpty());
-    if (!fault.isEmpty())
-        messages::fileFault(fault);
-    return fault.isEmpty();
+    if (fault.isEmpty()) {
+        noteSaved(contents(), tr("Saved %1").arg(fileName));
+        return true;
+    }
+    noteBroken();
+    messages::fileFault(fault);
+    return false;
+}
+
+QByteArray TimerBarMenuFile::contents() const
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    // What cannot be stored stops the writing at the same place each time.
+    [[maybe_unused]] const QString fault = timerbar::writeMenu(buffer, m_menu);
+    return buffer.data();
 }
 
 void TimerBarMenuFile::loadDefaultMenu()
@@ -147,6 +164,7 @@ void TimerBarMenuFile::on_btnConfig_clicked()
     m_menu.model = dialog.getCabinetModel();
     loadCabinetInfo();
     loadMenuFile();
+    noteChange();
 }
 
 void TimerBarMenuFile::on_btnExportFile_clicked() {}

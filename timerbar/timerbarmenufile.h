@@ -78,6 +78,9 @@ public slots:
     void on_comboDaypartSelect_currentIndexChanged(int index);
     void on_listWidgetProducts_itemChanged(QListWidgetItem *item);
 
+protected:
+    [[nodiscard]] QByteArray contents() const override;
+
 private:
     [[nodiscard]] bool createMenu();
     [[nodiscard]] bool readInto(timerbar::Menu &menu);

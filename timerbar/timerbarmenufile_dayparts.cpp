@@ -162,6 +162,7 @@ void TimerBarMenuFile::assignProductToBin(int rowIndex, int binIndex)
         return;
     (*cells)[bin] = dialog.chosenId();
     loadCurrentDaypart();
+    noteChange();
 }
 
 void TimerBarMenuFile::dayPartPressHoldDetected()
@@ -187,6 +188,7 @@ void TimerBarMenuFile::on_btnDaypartRemove_clicked()
             (*cells)[bin] = timerbar::emptyCell;
     }
     loadCurrentDaypart();
+    noteChange();
 }
 
 void TimerBarMenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]] int index)

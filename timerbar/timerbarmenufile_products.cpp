@@ -67,6 +67,7 @@ void TimerBarMenuFile::addProduct(std::unique_ptr<ProductInfo> product)
     m_products.setCurrentRow(static_cast<int>(m_menu.products.size()) - 1);
     loadProducts();
     loadProductInfo();
+    noteChange();
 }
 
 void TimerBarMenuFile::on_btnAddProduct_clicked()
@@ -96,6 +97,7 @@ void TimerBarMenuFile::on_btnEditProduct_clicked()
     loadProducts();
     loadProductInfo();
     loadCurrentDaypart();
+    noteChange();
     if (leftDayparts)
         messages::warning(this, tr("Product has been removed from daypart(s) assignemnts"),
                           QMessageBox::Close);
@@ -117,6 +119,7 @@ void TimerBarMenuFile::on_btnDeleteProduct_clicked()
     loadProducts();
     loadProductInfo();
     loadCurrentDaypart();
+    noteChange();
 }
 
 void TimerBarMenuFile::on_btnSelectMultiProduct_clicked()

@@ -3,10 +3,12 @@
 
 #include "widgets/menueditor.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QLayout>
+#include <QLabel>
 #include <QMdiSubWindow>
 
 #include "model/files.h"
@@ -31,14 +33,69 @@ bool MenuEditor::save()
 
 void MenuEditor::reject()
 {
+    closeWindow();
+}
+
+void MenuEditor::closeWindow()
+{
     if (auto *subWindow = qobject_cast<QMdiSubWindow *>(parentWidget()))
         subWindow->close();
     else
         close();
 }
 
+void MenuEditor::takeFrame(QLabel *saved, QAbstractButton *close)
+{
+    m_savedLabel = saved;
+    showSaved(tr("Not saved yet"));
+    connect(close, &QAbstractButton::clicked, this, &MenuEditor::closeWindow);
+}
+
+void MenuEditor::showSaved(const QString &text)
+{
+    m_savedLabel->setText(text);
+}
+
+void MenuEditor::noteRead(const QByteArray &bytes)
+{
+    m_saved = SaveMark(bytes);
+    m_importedFrom.clear();
+    showSaved(tr("Saved"));
+}
+
+void MenuEditor::noteSaved(const QByteArray &bytes, const QString &message)
+{
+    noteRead(bytes);
+    emit told(message);
+}
+
+void MenuEditor::noteBroken()
+{
+    m_saved = SaveMark({});
+    showSaved(tr("Changed since the last save"));
+}
+
+void MenuEditor::noteImported(const QString &fileName)
+{
+    m_importedFrom = fileName;
+    noteChange();
+}
+
+void MenuEditor::noteChange()
+{
+    if (m_saved)
+        showSaved(SaveMark(contents()) == m_saved ? tr("Saved") : tr("Changed since the last save"));
+    else if (m_importedFrom.isEmpty())
+        showSaved(tr("Not saved yet"));
+    else
+        showSaved(tr("Imported from %1. Check Configuration before you save.").arg(m_importedFrom));
+    emit told({});
+}
+
 void MenuEditor::setFilePath(const QString &path)
 {
+    if (path != m_filePath)
+        m_saved.reset();
     m_filePath = path;
     showTitle(lastPathPart(path));
 }

@@ -3,8 +3,15 @@
 
 #pragma once
 
+#include <optional>
+
 #include <QDialog>
 #include <QString>
+
+#include "widgets/savemark.h"
+
+class QAbstractButton;
+class QLabel;
 
 /// What a name to save under is asked for.
 enum class SaveKind { Save, SaveAs, Closing };
@@ -49,9 +56,29 @@ public:
     /// editor and leave its frame behind.
     void reject() override;
 
+signals:
+    /// What an act came to, for a line of status; empty where it only ends what was told before.
+    void told(const QString &message);
+
 protected:
     void setMenuValid(bool valid) { m_menuValid = valid; }
-    /// Makes the path current and shows its file name in the title.
+
+    /// The form's label that says whether the menu is saved, and its button that closes the editor.
+    void takeFrame(QLabel *saved, QAbstractButton *close);
+    /// What a save would write now.
+    [[nodiscard]] virtual QByteArray contents() const = 0;
+    /// To be called when the menu has been read from its current path, or written to it.
+    void noteRead(const QByteArray &bytes);
+    void noteSaved(const QByteArray &bytes, const QString &message);
+    /// The file is there, but holds something else, as after a write in place that failed.
+    void noteBroken();
+    /// The menu comes from an old one. It stays unsaved until it is saved under a name of its own.
+    void noteImported(const QString &fileName);
+    /// To be called after each accepted edit. It may have changed nothing, or something back.
+    void noteChange();
+
+    /// Makes the path current and shows its file name in the title. What is known of the file at another path
+    /// no longer counts.
     void setFilePath(const QString &path);
     /// Shows a name in the title; empty for a new menu.
     void showTitle(const QString &fileName);
@@ -70,7 +97,14 @@ protected:
 private:
     [[nodiscard]] bool saveUnderNewName();
 
+    /// Through the sub-window, where there is one: the area would otherwise keep its empty frame.
+    void closeWindow();
+    void showSaved(const QString &text);
+
     QString m_filePath;
     QSize m_designedSize; ///< invalid before the first fitContent()
     bool m_menuValid = false;
+    std::optional<SaveMark> m_saved; ///< of what was last read or written; none while there is no such file
+    QString m_importedFrom;          ///< the name of the old menu's file
+    QLabel *m_savedLabel = nullptr;
 };

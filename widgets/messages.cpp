@@ -3,10 +3,11 @@
 
 #include "widgets/messages.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QScreen>
+#include <QWindow>
 
 #include "widgets/plaintext.h"
 
@@ -34,6 +35,19 @@ void makeRoomForWords(QMessageBox &box)
                                 qMin(width, box.screen()->availableSize().width() / 2));
 }
 
+// Boxes of files have no parent. The window manager, which knows only native windows, is told what they are
+// about, so that they come up over it and stay there.
+int execOverActiveWindow(QMessageBox &box)
+{
+    if (const QWidget *active = QApplication::activeWindow()) {
+        box.winId(); // makes the native window
+        box.windowHandle()->setTransientParent(active->window()->windowHandle());
+        box.adjustSize();
+        box.move(active->window()->frameGeometry().center() - box.rect().center());
+    }
+    return box.exec();
+}
+
 } // namespace
 
 void fileFault(const QString &message)
@@ -45,7 +59,7 @@ void fileFault(const QString &message)
     box.setStandardButtons(QMessageBox::Ok);
     box.setStyleSheet(u"QLabel{min-width: 220px;}"_s);
     makeRoomForWords(box);
-    box.exec();
+    execOverActiveWindow(box);
 }
 
 void entryFault(QWidget *parent, const QString &message)
@@ -85,7 +99,7 @@ Answer askSaveChanges()
 {
     QMessageBox box(QMessageBox::Warning, Text::tr("Save..."), Text::tr("Save changes before exit?"),
                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-    return static_cast<Answer>(box.exec());
+    return static_cast<Answer>(execOverActiveWindow(box));
 }
 
 } // namespace messages
