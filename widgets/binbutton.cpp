@@ -73,14 +73,14 @@ struct BinLines
     }
 };
 
-QStringList nameLines(const QString &text, const QFont &font, int width, int mostLines)
+QStringList nameLines(const QString &text, const BinFonts &fonts, int width, int mostLines)
 {
     const QString name = beginningOf(text);
-    const QFontMetrics metrics(font);
+    const QFontMetrics &metrics = fonts.nameMetrics;
     const bool fits = metrics.horizontalAdvance(name) <= width;
     if (fits || mostLines < 2)
         return {fits ? name : metrics.elidedText(name, Qt::ElideRight, width)};
-    const qsizetype first = firstLineLength(name, font, width);
+    const qsizetype first = firstLineLength(name, fonts.name, width);
     return {name.first(first).trimmed(),
             metrics.elidedText(name.sliced(first).trimmed(), Qt::ElideRight, width)};
 }
@@ -102,35 +102,14 @@ void paintFocus(QPainter &painter, const QRect &bin)
     }
 }
 
-void paintLines(QPainter &painter, const QWidget &bin, const QString &name, const QString &details)
-{
-    constexpr int flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip;
-    const QFont font = plain(bin.font());
-    const QFont small = smaller(font);
-    const QFontMetrics smallMetrics(small);
-    const int step = lineStep(bin.fontMetrics());
-    const int smallStep = lineStep(smallMetrics);
-    const int width = bin.width() - 2 * textMargin;
-    const int mostLines =
-        bin.height() >= 2 * step + (details.isEmpty() ? 0 : gapAboveDetails + smallStep) ? 2 : 1;
-    const BinLines lines{nameLines(name, font, width, mostLines), details};
-    QRect place(textMargin, (bin.height() - lines.height(step, smallStep)) / 2, width, step);
-    painter.setFont(font);
-    for (const QString &line : lines.name) {
-        painter.drawText(place, flags, line);
-        place.translate(0, step);
-    }
-    if (details.isEmpty())
-        return;
-    place.translate(0, gapAboveDetails);
-    place.setHeight(smallStep);
-    painter.setFont(small);
-    // Measuring costs as much as painting, and digits are of average width.
-    const bool fits = (details.size() + 2) * smallMetrics.averageCharWidth() <= width;
-    painter.drawText(place, flags, fits ? details : smallMetrics.elidedText(details, Qt::ElideRight, width));
-}
-
 } // namespace
+
+BinFonts::BinFonts(const QFont &font)
+    : name(plain(font))
+    , details(smaller(name))
+    , nameMetrics(name)
+    , detailsMetrics(details)
+{}
 
 BinButton::BinButton(QWidget *parent)
     : QPushButton(parent)
@@ -155,7 +134,21 @@ QSize BinButton::minimumSizeHint() const
 {
     // Room for a name on two lines and its details.
     return {minimumWidth(),
-            2 * lineStep(fontMetrics()) + gapAboveDetails + lineStep(QFontMetrics(smaller(font())))};
+            2 * lineStep(fonts().nameMetrics) + gapAboveDetails + lineStep(fonts().detailsMetrics)};
+}
+
+const BinFonts &BinButton::fonts() const
+{
+    if (!m_fonts)
+        m_fonts.emplace(font());
+    return *m_fonts;
+}
+
+void BinButton::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange)
+        m_fonts.reset();
+    QPushButton::changeEvent(event);
 }
 
 void BinButton::paintEvent([[maybe_unused]] QPaintEvent *event)
@@ -174,7 +167,34 @@ void BinButton::paintEvent([[maybe_unused]] QPaintEvent *event)
     if (text().isEmpty())
         return;
     painter.setPen(palette().color(QPalette::ButtonText));
-    paintLines(painter, *this, text(), m_details);
+    paintTexts(painter);
+}
+
+void BinButton::paintTexts(QPainter &painter) const
+{
+    constexpr int flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip;
+    const int step = lineStep(fonts().nameMetrics);
+    const QFontMetrics &smallMetrics = fonts().detailsMetrics;
+    const int smallStep = lineStep(smallMetrics);
+    const int lineWidth = width() - 2 * textMargin;
+    const int mostLines =
+        height() >= 2 * step + (m_details.isEmpty() ? 0 : gapAboveDetails + smallStep) ? 2 : 1;
+    const BinLines lines{nameLines(text(), fonts(), lineWidth, mostLines), m_details};
+    QRect place(textMargin, (height() - lines.height(step, smallStep)) / 2, lineWidth, step);
+    painter.setFont(fonts().name);
+    for (const QString &line : lines.name) {
+        painter.drawText(place, flags, line);
+        place.translate(0, step);
+    }
+    if (m_details.isEmpty())
+        return;
+    place.translate(0, gapAboveDetails);
+    place.setHeight(smallStep);
+    painter.setFont(fonts().details);
+    // Measuring costs as much as painting, and digits are of average width.
+    const bool fits = (m_details.size() + 2) * smallMetrics.averageCharWidth() <= lineWidth;
+    painter.drawText(place, flags,
+                     fits ? m_details : smallMetrics.elidedText(m_details, Qt::ElideRight, lineWidth));
 }
 
 QString binButtonStyle()

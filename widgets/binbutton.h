@@ -3,7 +3,20 @@
 
 #pragma once
 
+#include <optional>
+
 #include <QPushButton>
+
+/// What a bin is written in. To look fonts up costs as much as to paint a text in them.
+struct BinFonts
+{
+    explicit BinFonts(const QFont &font);
+
+    QFont name;
+    QFont details;
+    QFontMetrics nameMetrics;
+    QFontMetrics detailsMetrics;
+};
 
 /// The button of a bin. Its text() is the name of what the bin holds, the full or the short one as the editor
 /// chooses, drawn as it stands, ampersands included, on up to two lines; what does not fit is elided while
@@ -24,10 +37,15 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    [[nodiscard]] const BinFonts &fonts() const;
+    void paintTexts(QPainter &painter) const;
+
     QString m_details;
+    mutable std::optional<BinFonts> m_fonts; ///< of the current font, once they were asked for
 };
 
 /// The style sheet of a frame of bin buttons: a dark panel with grey bins, darker while pressed or checked,
