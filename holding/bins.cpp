@@ -62,13 +62,23 @@ QStringList allowedZoneSplits(const CabinetShape &shape, const RowContent &row, 
     return zoneSplitsForRun(shape.binsPerZone, freeRun(row, zone, slot));
 }
 
+Misfit binMisfit(const ProductInfo &entry, const BinLimits &limits, const QStringList &zoneSplits,
+                 bool fanSpeedEnabled)
+{
+    if ((limits.upperTemp != 0 && limits.upperTemp != entry.get_upperTemp()) ||
+        (limits.lowerTemp != 0 && limits.lowerTemp != entry.get_lowerTemp()))
+        return Misfit::Temperatures;
+    if (!zoneSplits.contains(entry.get_zoneSplits()))
+        return Misfit::ZoneSplits;
+    if (fanSpeedEnabled && limits.fanSpeed != 0 && limits.fanSpeed != entry.get_fanSpeed())
+        return Misfit::FanSpeed;
+    return Misfit::None;
+}
+
 bool fitsBin(const ProductInfo &entry, const BinLimits &limits, const QStringList &zoneSplits,
              bool fanSpeedEnabled)
 {
-    return (limits.upperTemp == 0 || limits.upperTemp == entry.get_upperTemp()) &&
-           (limits.lowerTemp == 0 || limits.lowerTemp == entry.get_lowerTemp()) &&
-           zoneSplits.contains(entry.get_zoneSplits()) &&
-           (!fanSpeedEnabled || limits.fanSpeed == 0 || limits.fanSpeed == entry.get_fanSpeed());
+    return binMisfit(entry, limits, zoneSplits, fanSpeedEnabled) == Misfit::None;
 }
 
 } // namespace holding

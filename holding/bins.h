@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "holding/menu.h"
+#include "holding/settings.h"
 #include "holding/zonesplits.h"
 
 /// Which entry may stand in which bin.
@@ -44,7 +45,9 @@ struct BinLimits
 /// The zone splits that an entry for the slot may have, in the order of zoneSplitsForRun().
 [[nodiscard]] QStringList allowedZoneSplits(const CabinetShape &shape, const RowContent &row, int slot);
 
-/// Whether an entry may stand in a bin with these limits and splits.
+/// What keeps an entry out of a bin with these limits and splits.
+[[nodiscard]] Misfit binMisfit(const ProductInfo &entry, const BinLimits &limits,
+                               const QStringList &zoneSplits, bool fanSpeedEnabled);
 [[nodiscard]] bool fitsBin(const ProductInfo &entry, const BinLimits &limits, const QStringList &zoneSplits,
                            bool fanSpeedEnabled);
 

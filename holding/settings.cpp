@@ -18,14 +18,24 @@ HoldingSettings groupBinSettings(const ProductInfo &group, bool fanSpeedEnabled)
     return settings;
 }
 
-bool fitsGroup(const ProductInfo &product, const HoldingSettings &group, bool fanSpeedEnabled)
+Misfit groupMisfit(const ProductInfo &product, const HoldingSettings &group, bool fanSpeedEnabled)
 {
     const HoldingSettings own = holdingSettings(product, fanSpeedEnabled);
-    return (group.lidType.isEmpty() || group.lidType == own.lidType) &&
-           (group.zoneSplits.isEmpty() || group.zoneSplits == own.zoneSplits) &&
-           (group.upperTemp == 0 || group.upperTemp == own.upperTemp) &&
-           (group.lowerTemp == 0 || group.lowerTemp == own.lowerTemp) &&
-           (!fanSpeedEnabled || group.fanSpeed == 0 || group.fanSpeed == own.fanSpeed);
+    if (!group.lidType.isEmpty() && group.lidType != own.lidType)
+        return Misfit::LidType;
+    if (!group.zoneSplits.isEmpty() && group.zoneSplits != own.zoneSplits)
+        return Misfit::ZoneSplits;
+    if ((group.upperTemp != 0 && group.upperTemp != own.upperTemp) ||
+        (group.lowerTemp != 0 && group.lowerTemp != own.lowerTemp))
+        return Misfit::Temperatures;
+    if (fanSpeedEnabled && group.fanSpeed != 0 && group.fanSpeed != own.fanSpeed)
+        return Misfit::FanSpeed;
+    return Misfit::None;
+}
+
+bool fitsGroup(const ProductInfo &product, const HoldingSettings &group, bool fanSpeedEnabled)
+{
+    return groupMisfit(product, group, fanSpeedEnabled) == Misfit::None;
 }
 
 } // namespace holding

@@ -27,8 +27,13 @@ struct HoldingSettings
 /// The settings of a group that decide which bins it fits: its lid is none of them and left empty.
 [[nodiscard]] HoldingSettings groupBinSettings(const ProductInfo &group, bool fanSpeedEnabled);
 
-/// Whether a product may join a group with these settings. An empty text or 0 is not fixed yet and fits any
+/// What keeps an entry out of a bin or a group: the first thing in the order of the rule.
+enum class Misfit { None, Temperatures, ZoneSplits, FanSpeed, LidType };
+
+/// What keeps a product out of a group with these settings. An empty text or 0 is not fixed yet and fits any
 /// product.
+[[nodiscard]] Misfit groupMisfit(const ProductInfo &product, const HoldingSettings &group,
+                                 bool fanSpeedEnabled);
 [[nodiscard]] bool fitsGroup(const ProductInfo &product, const HoldingSettings &group, bool fanSpeedEnabled);
 
 } // namespace holding

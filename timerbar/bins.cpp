@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace timerbar {
 
 namespace {
@@ -25,6 +27,11 @@ constexpr auto names = std::to_array<const char *>({
     QT_TRANSLATE_NOOP("TimerBarMenuFile", "ChangeOver 3"),
 });
 static_assert(names.size() == daypartCount, "each day part has its name");
+
+QString spacedText(int fahrenheit, int unit)
+{
+    return u"%1 %2"_s.arg(QString::number(shownTemperature(fahrenheit, unit)), unitText(unit));
+}
 
 } // namespace
 
@@ -57,6 +64,25 @@ bool fitsNeighbour(const ProductInfo &product, const ReferenceTemperatures &refe
 {
     return reference.upper == 0 ||
            (product.get_upperTemp() == reference.lower && product.get_lowerTemp() == reference.lower);
+}
+
+QString misfitText(const ProductInfo &product, const ReferenceTemperatures &reference, int temperatureUnit)
+{
+    if (fitsNeighbour(product, reference))
+        return {};
+    const int demanded = shownTemperature(reference.lower, temperatureUnit);
+    const bool alike = shownTemperature(product.get_upperTemp(), temperatureUnit) == demanded &&
+                       shownTemperature(product.get_lowerTemp(), temperatureUnit) == demanded;
+    const int unit = alike ? unitFahrenheit : temperatureUnit; // rounded to °C they would not differ
+    return Text::tr("Does not fit: %1 / %2, this pair holds %3")
+        .arg(spacedText(product.get_upperTemp(), unit), spacedText(product.get_lowerTemp(), unit),
+             spacedText(reference.lower, unit));
+}
+
+QString demandText(const ReferenceTemperatures &reference, int temperatureUnit)
+{
+    return reference.upper == 0 ? Text::tr("Any product may stand here")
+                                : Text::tr("Needs %1").arg(spacedText(reference.lower, temperatureUnit));
 }
 
 } // namespace timerbar

@@ -31,4 +31,11 @@ struct ReferenceTemperatures
 /// neighbour: both of the product's temperatures are compared with the lower one.
 [[nodiscard]] bool fitsNeighbour(const ProductInfo &product, const ReferenceTemperatures &reference);
 
+/// Why a product cannot stand there, in the menu's unit; empty exactly where fitsNeighbour() says that it
+/// can.
+[[nodiscard]] QString misfitText(const ProductInfo &product, const ReferenceTemperatures &reference,
+                                 int temperatureUnit);
+/// What the neighbour demands of a product.
+[[nodiscard]] QString demandText(const ReferenceTemperatures &reference, int temperatureUnit);
+
 } // namespace timerbar

@@ -21,6 +21,10 @@ private slots:
     void neighbourOfTheSelectedDaypart();
     void fitting_data();
     void fitting();
+    void reasonExactlyWhenUnfit_data();
+    void reasonExactlyWhenUnfit();
+    void reasons();
+    void demands();
 };
 
 void TestTimerBarBins::daypartsAreNamed()
@@ -107,6 +111,53 @@ void TestTimerBarBins::fitting()
     product.set_upperTemp(upper);
     product.set_lowerTemp(lower);
     QCOMPARE(timerbar::fitsNeighbour(product, {referenceUpper, referenceLower}), fits);
+}
+
+void TestTimerBarBins::reasonExactlyWhenUnfit_data()
+{
+    QTest::addColumn<int>("unit");
+    QTest::newRow("Fahrenheit") << unitFahrenheit;
+    QTest::newRow("Celsius") << unitCelsius;
+}
+
+void TestTimerBarBins::reasonExactlyWhenUnfit()
+{
+    QFETCH(const int, unit);
+    constexpr std::array temperatures{0, 199, 200, 215};
+    ProductInfo product;
+    for (const int upper : temperatures) {
+        for (const int lower : temperatures) {
+            product.set_upperTemp(upper);
+            product.set_lowerTemp(lower);
+            for (const int otherUpper : temperatures) {
+                for (const int otherLower : temperatures) {
+                    const timerbar::ReferenceTemperatures reference{otherUpper, otherLower};
+                    QCOMPARE(timerbar::misfitText(product, reference, unit).isEmpty(),
+                             timerbar::fitsNeighbour(product, reference));
+                }
+            }
+        }
+    }
+}
+
+void TestTimerBarBins::reasons()
+{
+    ProductInfo product;
+    product.set_upperTemp(216);
+    product.set_lowerTemp(215);
+    QCOMPARE(timerbar::misfitText(product, {225, 200}, unitFahrenheit),
+             u"Does not fit: 216 °F / 215 °F, this pair holds 200 °F"_s);
+    QCOMPARE(timerbar::misfitText(product, {225, 200}, unitCelsius),
+             u"Does not fit: 102 °C / 102 °C, this pair holds 93 °C"_s);
+    QCOMPARE(timerbar::misfitText(product, {225, 215}, unitCelsius), // the same in whole °C
+             u"Does not fit: 216 °F / 215 °F, this pair holds 215 °F"_s);
+}
+
+void TestTimerBarBins::demands()
+{
+    QCOMPARE(timerbar::demandText({}, unitFahrenheit), u"Any product may stand here"_s);
+    QCOMPARE(timerbar::demandText({225, 200}, unitFahrenheit), u"Needs 200 °F"_s);
+    QCOMPARE(timerbar::demandText({225, 200}, unitCelsius), u"Needs 93 °C"_s);
 }
 
 QTEST_APPLESS_MAIN(TestTimerBarBins)
