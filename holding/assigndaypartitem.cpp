@@ -8,6 +8,7 @@
 #include <QListWidget>
 
 #include "holding/menufile.h"
+#include "holding/misfits.h"
 #include "ui_assigndaypartitem.h"
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
@@ -29,13 +30,14 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
     showWhenEmpty(m_ui->listWidgetProducts,
                   tr("This menu has no products yet. Cancel, and add some on the Products tab."));
     m_ui->details->setEmptyHint(tr("Select a product or group"));
+    m_notes = addListNotes(m_ui->listWidgetProducts);
     letEnterPressFocusedButton(this);
     // Room for a name of three lines below the other details, in any font.
     m_ui->spacerDetails->changeSize(0, 2 * fontMetrics().lineSpacing(), QSizePolicy::Minimum,
                                     QSizePolicy::Expanding);
+    loadProducts();
     fixSizeOnScreen(this);
     setWindowTitle(tr("Assign Product/Group"));
-    loadProducts();
     loadProductInfo();
     connect(m_ui->listWidgetProducts, &QListWidget::itemDoubleClicked, this,
             &AssignDaypartItem::on_btnSelect_clicked);
@@ -43,16 +45,32 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
 
 AssignDaypartItem::~AssignDaypartItem() = default;
 
+void AssignDaypartItem::setPlace(const QString &daypart, Bin bin, const QString &content)
+{
+    m_notes.setAbove(placeText(daypart, bin, content));
+}
+
+QString AssignDaypartItem::misfitOf(const ProductInfo &entry) const
+{
+    return holding::binMisfitText(entry, m_limits, m_allowedZoneSplits, m_configuration);
+}
+
 void AssignDaypartItem::loadProducts()
 {
     QListWidget *list = m_ui->listWidgetProducts;
     list->clear();
+    int fitting = 0;
     for (const ProductInfo *entry : std::as_const(m_entries)) {
+        const QString name = shownName(entry->get_productName());
         const bool fits =
             holding::fitsBin(*entry, m_limits, m_allowedZoneSplits, m_configuration.fanSpeedEnabled);
-        QListWidgetItem *item = numberedrows::appendToPick(list, shownName(entry->get_productName()), fits);
+        QListWidgetItem *item = numberedrows::appendToPick(
+            list, {name, name, fits, [this, entry] { return misfitOf(*entry); }});
         item->setData(numberedrows::idRole, entry->get_productId());
+        fitting += fits ? 1 : 0;
     }
+    m_notes.setBelow(demandLine(holding::binDemandText(m_limits, m_allowedZoneSplits, m_configuration),
+                                fitting, list->count()));
 }
 
 const ProductInfo *AssignDaypartItem::selectedEntry() const

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include "holding/bins.h"
+#include "widgets/listnotes.h"
 
 class MenuFile;
 class ProductInfo;
@@ -30,6 +31,9 @@ public:
                       bool singleBinSecondZone, MenuFile *menuFile);
     ~AssignDaypartItem() override;
 
+    /// Says which bin is being filled: the day part's name, the place and the name of what stands there now.
+    void setPlace(const QString &daypart, Bin bin, const QString &content);
+
     /// The id of the chosen product or group, after an accepted run.
     [[nodiscard]] int resultId() const { return m_resultId; }
 
@@ -44,7 +48,10 @@ public slots:
 private:
     [[nodiscard]] const ProductInfo *selectedEntry() const; ///< null for none
 
+    [[nodiscard]] QString misfitOf(const ProductInfo &entry) const;
+
     std::unique_ptr<Ui::AssignDaypartItem> m_ui;
+    ListNotes m_notes;
     const holding::CabinetConfiguration m_configuration;
     QStringList m_allowedZoneSplits;
     holding::BinLimits m_limits;

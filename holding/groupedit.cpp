@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 
 #include "holding/menufile.h"
+#include "holding/misfits.h"
 #include "holding/producttypes.h"
 #include "ui_groupedit.h"
 #include "widgets/emptyhint.h"
@@ -68,6 +69,7 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
                   tr("This menu has no products yet. Cancel, and add some on the Products tab."));
     showWhenEmpty(m_ui->listWidgetGroupProducts,
                   tr("Choose a product on the left and add it with the green arrow."));
+    m_notes = addListNotes(m_ui->listWidgetProducts);
     letEnterPressFocusedButton(this);
     setWindowTitle(tr("Group Edit"));
     applyConfiguration();
@@ -96,15 +98,26 @@ void GroupEdit::applyConfiguration()
     m_ui->txtFanSpeed->setVisible(m_configuration.fanSpeedEnabled);
 }
 
+QString GroupEdit::misfitOf(const ProductInfo &product) const
+{
+    return holding::groupMisfitText(product, m_draft.settings(), m_configuration);
+}
+
 void GroupEdit::loadProducts()
 {
     QListWidget *list = m_ui->listWidgetProducts;
     list->clear();
+    int fitting = 0;
     for (const ProductInfo *candidate : std::as_const(m_products)) {
-        QListWidgetItem *item = numberedrows::appendToPick(list, shownName(candidate->get_productName()),
-                                                           m_draft.fits(*candidate));
+        const QString name = shownName(candidate->get_productName());
+        const bool fits = m_draft.fits(*candidate);
+        QListWidgetItem *item = numberedrows::appendToPick(
+            list, {name, name, fits, [this, candidate] { return misfitOf(*candidate); }});
         item->setData(numberedrows::idRole, candidate->get_productId());
+        fitting += fits ? 1 : 0;
     }
+    m_notes.setBelow(
+        demandLine(holding::groupDemandText(m_draft.settings(), m_configuration), fitting, list->count()));
 }
 
 void GroupEdit::loadGroupProducts()

@@ -9,6 +9,7 @@
 
 #include "holding/groupdraft.h"
 #include "model/entries.h"
+#include "widgets/listnotes.h"
 #include "widgets/refusabledialog.h"
 
 class MenuFile;
@@ -49,7 +50,10 @@ private:
     void checkDefaultOnly();
     void showSummary();
 
+    [[nodiscard]] QString misfitOf(const ProductInfo &product) const;
+
     std::unique_ptr<Ui::GroupEdit> m_ui;
+    ListNotes m_notes;
     ProductInfo &m_group;
     const holding::CabinetConfiguration m_configuration;
     const QList<ProductInfo *> m_products; ///< the menu's, in its order

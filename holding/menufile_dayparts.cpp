@@ -234,9 +234,11 @@ void MenuFile::assignProductToBin(int rowIndex, int binIndex)
         holding::zoneLimits(row, m_shape.zoneOfSlot(binIndex), binIndex, getFanSpeedEnabled());
     AssignDaypartItem dialog(holding::allowedZoneSplits(m_shape, row, binIndex), limits.upperTemp,
                              limits.lowerTemp, limits.fanSpeed, m_shape.singleBinSecondZone, this);
+    const Bin bin{rowIndex, binIndex};
+    dialog.setPlace(shownName(daypart->names), bin, binLabel(row[binIndex], daypart->bins[bin]).name);
     if (dialog.exec() != Accepted)
         return;
-    daypart->bins[Bin{rowIndex, binIndex}] = dialog.resultId();
+    daypart->bins[bin] = dialog.resultId();
     loadCurrentDaypart();
     noteChange();
 }

@@ -14,7 +14,6 @@
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
 #include "widgets/numberedrows.h"
-#include "widgets/plaintext.h"
 
 TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTemp, TimerBarMenuFile *menuFile)
     : QDialog(menuFile)
@@ -25,12 +24,13 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
 {
     m_ui->setupUi(this);
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
+    m_notes = addListNotes(m_ui->listWidgetProducts);
     m_ui->details->setShortNameLabel(tr("Shor Name:"));
     showWhenEmpty(m_ui->listWidgetProducts,
                   tr("This menu has no products yet. Cancel, and add some on the Products tab."));
     letEnterPressFocusedButton(this);
-    fixSizeOnScreen(this);
     loadProducts();
+    fixSizeOnScreen(this);
     loadProductInfo();
     connect(m_ui->listWidgetProducts, &QListWidget::itemDoubleClicked, this,
             &TimerBarDaypartAssignItem::on_btnSelect_clicked);
@@ -38,16 +38,28 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
 
 TimerBarDaypartAssignItem::~TimerBarDaypartAssignItem() = default;
 
+void TimerBarDaypartAssignItem::setPlace(const QString &daypart, Bin bin, const QString &content)
+{
+    m_notes.setAbove(placeText(daypart, bin, content));
+}
+
 void TimerBarDaypartAssignItem::loadProducts()
 {
     QListWidget *list = m_ui->listWidgetProducts;
     list->clear();
+    int fitting = 0;
     for (const ProductInfo *product : std::as_const(m_products)) {
-        QListWidgetItem *item = numberedrows::appendToPick(list, product->get_productShortName(),
-                                                           timerbar::fitsNeighbour(*product, m_reference));
+        const bool fits = timerbar::fitsNeighbour(*product, m_reference);
+        const auto misfit = [this, product] {
+            return timerbar::misfitText(*product, m_reference, m_temperatureUnit);
+        };
+        QListWidgetItem *item = numberedrows::appendToPick(
+            list, {product->get_productShortName(), shownName(product->get_productName()), fits, misfit});
         item->setData(Qt::UserRole, product->get_productId());
-        item->setToolTip(asPlainText(shownName(product->get_productName())));
+        fitting += fits ? 1 : 0;
     }
+    m_notes.setBelow(
+        demandLine(timerbar::demandText(m_reference, m_temperatureUnit), fitting, list->count()));
 }
 
 const ProductInfo *TimerBarDaypartAssignItem::selectedProduct() const

@@ -9,6 +9,7 @@
 #include <QList>
 
 #include "timerbar/bins.h"
+#include "widgets/listnotes.h"
 
 class TimerBarMenuFile;
 
@@ -27,6 +28,9 @@ public:
     TimerBarDaypartAssignItem(int upperTemp, int lowerTemp, TimerBarMenuFile *menuFile);
     ~TimerBarDaypartAssignItem() override;
 
+    /// Says which bin is being filled: the day part's name, the place and the name of what stands there now.
+    void setPlace(const QString &daypart, Bin bin, const QString &content);
+
     /// The chosen product's id; timerbar::emptyCell for none.
     [[nodiscard]] int chosenId() const { return m_chosenId; }
 
@@ -42,6 +46,7 @@ private:
     [[nodiscard]] const ProductInfo *selectedProduct() const; ///< null for none
 
     std::unique_ptr<Ui::TimerBarDaypartAssignItem> m_ui;
+    ListNotes m_notes;
     QList<ProductInfo *> m_products; ///< the editor's
     timerbar::ReferenceTemperatures m_reference;
     int m_temperatureUnit;

@@ -158,6 +158,10 @@ void TimerBarMenuFile::assignProductToBin(int rowIndex, int binIndex)
     const int daypart = m_ui->comboDaypartSelect->currentIndex();
     const auto reference = timerbar::neighbourTemperatures(m_menu, daypart, bin);
     TimerBarDaypartAssignItem dialog(reference.upper, reference.lower, this);
+    const int id = (*cells)[bin];
+    const ProductInfo *product = id == timerbar::emptyCell ? nullptr : getProductObject(id);
+    dialog.setPlace(m_ui->comboDaypartSelect->currentText(), bin,
+                    product ? shownName(product->get_productName()) : QString());
     if (dialog.exec() != Accepted)
         return;
     (*cells)[bin] = dialog.chosenId();

@@ -4,6 +4,7 @@
 #include "widgets/numberedrows.h"
 
 #include <QBrush>
+#include <QCoreApplication>
 #include <QFont>
 #include <QFontInfo>
 #include <QListWidget>
@@ -17,6 +18,11 @@ using namespace Qt::StringLiterals;
 namespace numberedrows {
 
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(NumberedRows)
+};
 
 constexpr QSize rowSize(100, 32);
 constexpr int rowMargin = 4;         // above and below the text together, in pixels
@@ -48,6 +54,36 @@ qreal pointSizeOf(const QFont &font)
 {
     return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
 }
+
+/// Makes its tool tip and its description when they are asked for.
+class PickRow final : public QListWidgetItem
+{
+public:
+    PickRow(const QString &text, const Pick &pick)
+        : QListWidgetItem(text)
+        , m_title(pick.title)
+        , m_misfit(pick.fits ? nullptr : pick.misfit)
+    {}
+
+    [[nodiscard]] QVariant data(int role) const override
+    {
+        if (role == Qt::ToolTipRole)
+            return toolTipText();
+        if (role == Qt::AccessibleDescriptionRole && m_misfit)
+            return m_misfit();
+        return QListWidgetItem::data(role);
+    }
+
+private:
+    [[nodiscard]] QString toolTipText() const
+    {
+        const QString title = beginningOf(m_title);
+        return asPlainText(m_misfit ? Text::tr("%1\n%2").arg(title, m_misfit()) : title);
+    }
+
+    QString m_title;
+    std::function<QString()> m_misfit; ///< none where it fits
+};
 
 void prepare(QListWidget *list)
 {
@@ -121,11 +157,13 @@ QListWidgetItem *append(QListWidget *list, int number, const QString &name)
     return item;
 }
 
-QListWidgetItem *appendToPick(QListWidget *list, const QString &name, bool fits)
+QListWidgetItem *appendToPick(QListWidget *list, const Pick &pick)
 {
     const int row = list->count();
-    QListWidgetItem *item = append(list, name);
-    if (fits)
+    auto *item = new PickRow(text(row + 1, pick.name), pick);
+    item->setSizeHint(rowSize);
+    list->addItem(item);
+    if (pick.fits)
         colourFitting(item, row);
     else
         colourUnfitting(item, row);

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include <QString>
 #include <Qt>
 
@@ -30,9 +32,19 @@ void preparePlainList(QListWidget *list);
 QListWidgetItem *append(QListWidget *list, const QString &name);
 QListWidgetItem *append(QListWidget *list, int number, const QString &name);
 
-/// Appends a row that says whether its entry may be picked: coloured as fitting, or in grey on a light grey
-/// or white stripe and not selectable.
-QListWidgetItem *appendToPick(QListWidget *list, const QString &name, bool fits);
+/// A row that says whether its entry may be picked.
+struct Pick
+{
+    QString name;
+    QString title; ///< in the tool tip; where the row shows a short name, the full one
+    bool fits = true;
+    /// Says why it does not fit, in tool tip and accessible description. It is asked when somebody looks, as
+    /// long as the row is there: most rows of a long list are never looked at.
+    std::function<QString()> misfit = {};
+};
+
+/// Appends a row coloured as fitting, or in grey on a light grey or white stripe and not selectable.
+QListWidgetItem *appendToPick(QListWidget *list, const Pick &pick);
 
 /// Black on a cyan or white stripe by the item's row.
 void colourFitting(QListWidgetItem *item, int row);
