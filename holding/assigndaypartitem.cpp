@@ -13,6 +13,7 @@
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
+#include "widgets/listkeys.h"
 #include "widgets/numberedrows.h"
 
 AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int upperTemp, int lowerTemp,
@@ -31,6 +32,7 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
                   tr("This menu has no products yet. Cancel, and add some on the Products tab."));
     m_ui->details->setEmptyHint(tr("Select a product or group"));
     m_notes = addListNotes(m_ui->listWidgetProducts);
+    new ListKeys(m_ui->listWidgetProducts, m_ui->btnSelect);
     letEnterPressFocusedButton(this);
     // Room for a name of three lines below the other details, in any font.
     m_ui->spacerDetails->changeSize(0, 2 * fontMetrics().lineSpacing(), QSizePolicy::Minimum,
@@ -48,6 +50,7 @@ AssignDaypartItem::~AssignDaypartItem() = default;
 void AssignDaypartItem::setPlace(const QString &daypart, Bin bin, const QString &content)
 {
     m_notes.setAbove(placeText(daypart, bin, content));
+    fixDesignedSize(this); // a long name in a large font takes lines of its own
 }
 
 QString AssignDaypartItem::misfitOf(const ProductInfo &entry) const
@@ -64,8 +67,8 @@ void AssignDaypartItem::loadProducts()
         const QString name = shownName(entry->get_productName());
         const bool fits =
             holding::fitsBin(*entry, m_limits, m_allowedZoneSplits, m_configuration.fanSpeedEnabled);
-        QListWidgetItem *item = numberedrows::appendToPick(
-            list, {name, name, fits, [this, entry] { return misfitOf(*entry); }});
+        QListWidgetItem *item =
+            numberedrows::appendToPick(list, {name, name, fits, [this, entry] { return misfitOf(*entry); }});
         item->setData(numberedrows::idRole, entry->get_productId());
         fitting += fits ? 1 : 0;
     }

@@ -14,6 +14,7 @@
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
+#include "widgets/listkeys.h"
 #include "widgets/messages.h"
 #include "widgets/numberedrows.h"
 
@@ -70,6 +71,8 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     showWhenEmpty(m_ui->listWidgetGroupProducts,
                   tr("Choose a product on the left and add it with the green arrow."));
     m_notes = addListNotes(m_ui->listWidgetProducts);
+    new ListKeys(m_ui->listWidgetProducts, m_ui->btnAddProduct);
+    new ListKeys(m_ui->listWidgetGroupProducts, m_ui->btnRemoveProduct);
     letEnterPressFocusedButton(this);
     setWindowTitle(tr("Group Edit"));
     applyConfiguration();
@@ -168,11 +171,11 @@ void GroupEdit::on_btnCancel_clicked()
 void GroupEdit::on_btnSave_clicked()
 {
     if (m_ui->txtName->text().isEmpty()) {
-        messages::entryFault(this, tr("Group name is empty!"));
+        messages::entryFault(this, {tr("Group name is empty!"), m_ui->txtName});
         return;
     }
     if (m_draft.members().isEmpty()) {
-        messages::entryFault(this, tr("Product list is empty!"));
+        messages::entryFault(this, {tr("Product list is empty!"), m_ui->listWidgetProducts});
         return;
     }
     m_group.set_productName(sameNameInAllLanguages(m_ui->txtName->text()));
@@ -188,8 +191,20 @@ void GroupEdit::on_btnAddProduct_clicked()
     const int row = m_ui->listWidgetProducts->currentRow();
     m_draft.add(*m_products[row]);
     loadProducts();
-    m_ui->listWidgetProducts->setCurrentRow(row);
+    m_ui->listWidgetProducts->setCurrentRow(nextRowToAdd(row));
+    m_ui->listWidgetProducts->setFocus();
     loadGroupProducts();
+}
+
+// So that products are added one after the other; the row itself where nothing is left behind it.
+int GroupEdit::nextRowToAdd(int row) const
+{
+    for (int next = row + 1; next < m_products.size(); ++next) {
+        const ProductInfo &product = *m_products[next];
+        if (m_draft.fits(product) && !m_draft.members().contains(product.get_productId()))
+            return next;
+    }
+    return row;
 }
 
 void GroupEdit::on_btnRemoveProduct_clicked()
@@ -204,6 +219,7 @@ void GroupEdit::on_btnRemoveProduct_clicked()
         loadProducts();
     loadGroupProducts();
     list->setCurrentRow(std::min(row, list->count() - 1));
+    list->setFocus();
 }
 
 void GroupEdit::on_listWidgetGroupProducts_itemChanged(QListWidgetItem *item)

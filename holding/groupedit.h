@@ -49,6 +49,7 @@ private:
     void applyConfiguration();
     void checkDefaultOnly();
     void showSummary();
+    [[nodiscard]] int nextRowToAdd(int row) const;
 
     [[nodiscard]] QString misfitOf(const ProductInfo &product) const;
 

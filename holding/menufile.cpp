@@ -10,6 +10,7 @@
 #include "model/files.h"
 #include "ui_menufile.h"
 #include "widgets/emptyhint.h"
+#include "widgets/listkeys.h"
 #include "widgets/messages.h"
 #include "widgets/numberedrows.h"
 
@@ -45,6 +46,7 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
     showWhenEmpty(m_ui->listWidgetGroups,
                   tr("No groups yet. Add makes one of products that hold at the same settings."));
     m_ui->detailsGroup->setEmptyHint(tr("Select a group"));
+    new ListKeys(m_ui->listWidgetMembers, nullptr);
     setMenuValid(load(filePath));
     if (!isMenuValid())
         return;
@@ -54,9 +56,23 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
     for (QSpacerItem *spacer : {m_ui->spacerDetailsProducts, m_ui->spacerDetailsGroups})
         spacer->changeSize(0, 2 * fontMetrics().lineSpacing(), QSizePolicy::Minimum, QSizePolicy::Expanding);
     loadMenuFile();
+    m_products.focusList();
 }
 
 MenuFile::~MenuFile() = default;
+
+bool MenuFile::leaveMode()
+{
+    if (m_ui->frameGrid->isVisible() && m_grid.isRemoving())
+        on_btnCancelDaypartRemove_clicked();
+    else if (m_ui->listWidgetProducts->isVisible() && m_products.isMultiSelecting())
+        on_btnSelectMultiProduct_clicked();
+    else if (m_ui->listWidgetGroups->isVisible() && m_groups.isMultiSelecting())
+        on_btnSelectMultiGroup_clicked();
+    else
+        return false;
+    return true;
+}
 
 bool MenuFile::load(const QString &path)
 {

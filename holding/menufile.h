@@ -119,6 +119,7 @@ public slots: // old menus
 
 protected:
     [[nodiscard]] QByteArray contents() const override;
+    bool leaveMode() override;
 
 private:
     [[nodiscard]] bool load(const QString &path);

@@ -134,6 +134,7 @@ void MenuFile::prepareGrid()
 
 void MenuFile::showRemovalMode(bool removing)
 {
+    const bool hadFocus = m_ui->btnDaypartRemove->hasFocus() || m_ui->btnCancelDaypartRemove->hasFocus();
     for (QWidget *widget : {m_ui->btnDaypartRemove, m_ui->btnCancelDaypartRemove})
         widget->setVisible(removing);
     for (QWidget *widget : {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDeleteDaypart})
@@ -141,6 +142,8 @@ void MenuFile::showRemovalMode(bool removing)
     m_ui->comboDaypartSelect->setDisabled(removing);
     m_ui->checkBoxDaypartInUse->setDisabled(removing);
     BinGrid::showHint(m_ui->lblDaypartHint, removing);
+    if (hadFocus)
+        m_grid.setFocus();
 }
 
 holding::Daypart *MenuFile::currentDaypart()

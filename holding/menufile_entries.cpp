@@ -57,4 +57,5 @@ void MenuFile::deleteEntries(EntryPane &pane, Entries &entries, const QString &q
     });
     reloadEntries();
     noteChange();
+    pane.focusList();
 }

@@ -13,7 +13,6 @@
 #include "ui_productedit.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
-#include "widgets/messages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -128,6 +127,7 @@ void ProductEdit::on_btnTimerColor_clicked()
 {
     TimerColorPicker picker(this);
     picker.setWindowTitle(tr("Colors"));
+    picker.setCurrent(m_timerColorName);
     if (picker.exec() != Accepted)
         return;
     const holding::TimerColor &entry = *picker.chosen();
@@ -145,8 +145,8 @@ void ProductEdit::on_btnCancel_clicked()
 
 void ProductEdit::on_btnSave_clicked()
 {
-    if (const QString fault = firstFault(); !fault.isEmpty()) {
-        messages::entryFault(this, fault);
+    if (const messages::WrongEntry wrong = firstWrongEntry(); wrong.input) {
+        messages::entryFault(this, wrong);
         return;
     }
     writeRecord();
@@ -159,16 +159,25 @@ int ProductEdit::enteredId() const
     return holding::enteredId(box->value(), box->minimum(), box->maximum(), m_product.get_productId());
 }
 
-QString ProductEdit::firstFault() const
+messages::WrongEntry ProductEdit::firstWrongEntry() const
 {
     if (m_configuration.productIdEnabled && holding::isIdTaken(m_products, m_productIndex, enteredId()))
-        return tr("Product Id is duplicated!");
+        return {tr("Product Id is duplicated!"), m_ui->numProductId};
     if (m_ui->txtName->text().isEmpty())
-        return tr("Product name is empty!");
-    QString fault = holdTimeFault(m_holdTime.seconds(), m_warningTime.seconds());
-    if (fault.isEmpty() && m_configuration.resetTimeEnabled)
-        fault = resetTimeFault(m_resetTime.seconds());
-    return fault;
+        return {tr("Product name is empty!"), m_ui->txtName};
+    return firstWrongTime();
+}
+
+messages::WrongEntry ProductEdit::firstWrongTime() const
+{
+    if (const QString fault = holdTimeFault(m_holdTime.seconds()); !fault.isEmpty())
+        return {fault, m_ui->timeHoldTime};
+    if (const QString fault = alertTimeFault(m_holdTime.seconds(), m_warningTime.seconds()); !fault.isEmpty())
+        return {fault, m_ui->timeWarningTime};
+    if (!m_configuration.resetTimeEnabled)
+        return {};
+    const QString fault = resetTimeFault(m_resetTime.seconds());
+    return fault.isEmpty() ? messages::WrongEntry() : messages::WrongEntry{fault, m_ui->timeResetTime};
 }
 
 void ProductEdit::writeRecord()

@@ -9,6 +9,7 @@
 
 #include "holding/cabinet.h"
 #include "holding/timercolors.h"
+#include "widgets/messages.h"
 #include "widgets/refusabledialog.h"
 #include "widgets/timeentry.h"
 
@@ -44,7 +45,8 @@ private:
     void loadTimerColor();
     void showTimerColor(const holding::TimerColor &entry);
     [[nodiscard]] int enteredId() const;
-    [[nodiscard]] QString firstFault() const;
+    [[nodiscard]] messages::WrongEntry firstWrongEntry() const;
+    [[nodiscard]] messages::WrongEntry firstWrongTime() const;
     void writeRecord();
 
     std::unique_ptr<Ui::ProductEdit> m_ui;

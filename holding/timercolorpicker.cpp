@@ -3,6 +3,7 @@
 
 #include "holding/timercolorpicker.h"
 
+#include <QPainter>
 #include <QPushButton>
 
 #include "holding/timercolorsample.h"
@@ -14,12 +15,53 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Black and white, so that it is seen on any colour.
+void drawRing(QPainter &painter, const QRect &around)
+{
+    painter.setPen(Qt::black);
+    painter.drawRect(around.adjusted(0, 0, -1, -1));
+    painter.setPen(Qt::white);
+    painter.drawRect(around.adjusted(1, 1, -2, -2));
+}
+
+} // namespace
+
+/// Shows by a ring along its edge that it has the focus, and by one in its middle that it is the current one.
+class ColorButton final : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+    void setCurrent(bool current)
+    {
+        m_current = current;
+        setAccessibleDescription(current ? TimerColorPicker::tr("Current") : QString());
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QPushButton::paintEvent(event);
+        QPainter painter(this);
+        if (hasFocus())
+            drawRing(painter, rect());
+        if (m_current)
+            drawRing(painter, QRect(0, 0, 9, 9).translated(rect().center() - QPoint(4, 4)));
+    }
+
+private:
+    bool m_current = false;
+};
+
+namespace {
+
 constexpr QSize buttonSize(25, 25);
 
 // A button that shows the colour of an entry and tells its name.
-QPushButton *makeButton(const holding::TimerColor &entry, QWidget *parent)
+ColorButton *makeButton(const holding::TimerColor &entry, QWidget *parent)
 {
-    auto *button = new QPushButton(u" "_s, parent);
+    auto *button = new ColorButton(u" "_s, parent);
     button->setFixedSize(buttonSize);
     button->setAutoDefault(false);
     if (entry.isNone()) {
@@ -47,10 +89,11 @@ TimerColorPicker::TimerColorPicker(QWidget *parent)
     m_ui->setupUi(this);
     for (std::size_t row = 0; row < m_buttons.size(); ++row) {
         for (std::size_t column = 0; column < m_buttons[row].size(); ++column) {
-            QPushButton *button = makeButton(entryAt(row, column), m_ui->gridLayoutWidget);
+            ColorButton *button = makeButton(entryAt(row, column), m_ui->gridLayoutWidget);
             m_ui->gridLayout->addWidget(button, static_cast<int>(row), static_cast<int>(column));
             connect(button, &QPushButton::clicked, this, &TimerColorPicker::colorPick_clicked);
             m_buttons[row][column] = button;
+            m_keys.add(button, static_cast<int>(row), static_cast<int>(column));
         }
     }
     letEnterPressFocusedButton(this);
@@ -58,6 +101,19 @@ TimerColorPicker::TimerColorPicker(QWidget *parent)
 }
 
 TimerColorPicker::~TimerColorPicker() = default;
+
+void TimerColorPicker::setCurrent(const QString &colorName)
+{
+    const holding::TimerColor *current = &holding::timerColorByName(colorName);
+    for (std::size_t row = 0; row < m_buttons.size(); ++row) {
+        for (std::size_t column = 0; column < m_buttons[row].size(); ++column) {
+            const bool isCurrent = &entryAt(row, column) == current;
+            m_buttons[row][column]->setCurrent(isCurrent);
+            if (isCurrent)
+                m_buttons[row][column]->setFocus();
+        }
+    }
+}
 
 void TimerColorPicker::colorPick_clicked()
 {

@@ -9,8 +9,9 @@
 #include <QDialog>
 
 #include "holding/timercolors.h"
+#include "widgets/gridkeys.h"
 
-class QPushButton;
+class ColorButton;
 
 namespace Ui {
 class TimerColorPicker;
@@ -25,6 +26,9 @@ public:
     explicit TimerColorPicker(QWidget *parent = nullptr);
     ~TimerColorPicker() override;
 
+    /// Marks the colour that is picked so far, and starts there.
+    void setCurrent(const QString &colorName);
+
     /// What was picked, an entry of the palette; null until an accepted run.
     [[nodiscard]] const holding::TimerColor *chosen() const { return m_chosen; }
 
@@ -33,6 +37,7 @@ public slots:
 
 private:
     std::unique_ptr<Ui::TimerColorPicker> m_ui;
-    std::array<std::array<QPushButton *, holding::paletteColumns>, holding::paletteRows> m_buttons{};
+    std::array<std::array<ColorButton *, holding::paletteColumns>, holding::paletteRows> m_buttons{};
+    GridKeys m_keys{GridKeys::TabStops::Each};
     const holding::TimerColor *m_chosen = nullptr;
 };

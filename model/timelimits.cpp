@@ -18,15 +18,20 @@ struct Text
 
 } // namespace
 
-QString holdTimeFault(int holdSeconds, int alertSeconds)
+QString holdTimeFault(int holdSeconds)
 {
     if (holdSeconds < minHoldSeconds)
         return Text::tr("Invalid hold time. Minimum value is 6 minutes!");
     if (holdSeconds > maxHoldSeconds)
         return Text::tr("Invalid hold time. Maximum value is 8 hours!");
-    if (holdSeconds <= alertSeconds)
-        return Text::tr("Invalid cook more alert time. Value must be less than hold time!");
     return {};
+}
+
+QString alertTimeFault(int holdSeconds, int alertSeconds)
+{
+    return holdSeconds <= alertSeconds
+               ? Text::tr("Invalid cook more alert time. Value must be less than hold time!")
+               : QString();
 }
 
 QString resetTimeFault(int resetSeconds)

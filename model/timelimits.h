@@ -8,8 +8,10 @@
 /// Which times a product may have, in whole seconds. Each check returns an empty text, or the message of the
 /// first limit that is not kept.
 
-/// A product is held for 6 minutes to 8 hours, and more of it is called for before that time is over.
-[[nodiscard]] QString holdTimeFault(int holdSeconds, int alertSeconds);
+/// A product is held for 6 minutes to 8 hours.
+[[nodiscard]] QString holdTimeFault(int holdSeconds);
+/// More of it is called for before that time is over.
+[[nodiscard]] QString alertTimeFault(int holdSeconds, int alertSeconds);
 
 /// A timer is reset within less than an hour.
 [[nodiscard]] QString resetTimeFault(int resetSeconds);

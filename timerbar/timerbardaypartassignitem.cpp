@@ -13,6 +13,7 @@
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
+#include "widgets/listkeys.h"
 #include "widgets/numberedrows.h"
 
 TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTemp, TimerBarMenuFile *menuFile)
@@ -25,6 +26,7 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
     m_ui->setupUi(this);
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     m_notes = addListNotes(m_ui->listWidgetProducts);
+    new ListKeys(m_ui->listWidgetProducts, m_ui->btnSelect);
     m_ui->details->setShortNameLabel(tr("Shor Name:"));
     showWhenEmpty(m_ui->listWidgetProducts,
                   tr("This menu has no products yet. Cancel, and add some on the Products tab."));
@@ -41,6 +43,7 @@ TimerBarDaypartAssignItem::~TimerBarDaypartAssignItem() = default;
 void TimerBarDaypartAssignItem::setPlace(const QString &daypart, Bin bin, const QString &content)
 {
     m_notes.setAbove(placeText(daypart, bin, content));
+    fixDesignedSize(this); // a long name in a large font takes lines of its own
 }
 
 void TimerBarDaypartAssignItem::loadProducts()

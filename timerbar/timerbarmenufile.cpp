@@ -53,9 +53,21 @@ TimerBarMenuFile::TimerBarMenuFile(const QString &filePath, QWidget *parent)
     m_ui->tabWidget->setCurrentIndex(0);
     prepareGrid();
     loadMenuFile();
+    m_products.focusList();
 }
 
 TimerBarMenuFile::~TimerBarMenuFile() = default;
+
+bool TimerBarMenuFile::leaveMode()
+{
+    if (m_ui->frameGrid->isVisible() && m_grid.isRemoving())
+        on_btnCancelDaypartRemove_clicked();
+    else if (m_ui->listWidgetProducts->isVisible() && m_products.isMultiSelecting())
+        on_btnSelectMultiProduct_clicked();
+    else
+        return false;
+    return true;
+}
 
 bool TimerBarMenuFile::createMenu()
 {

@@ -80,6 +80,7 @@ public slots:
 
 protected:
     [[nodiscard]] QByteArray contents() const override;
+    bool leaveMode() override;
 
 private:
     [[nodiscard]] bool createMenu();

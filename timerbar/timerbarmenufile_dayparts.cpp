@@ -92,10 +92,13 @@ void TimerBarMenuFile::prepareGrid()
 
 void TimerBarMenuFile::showRemovalMode(bool removing)
 {
+    const bool hadFocus = m_ui->btnDaypartRemove->hasFocus() || m_ui->btnCancelDaypartRemove->hasFocus();
     m_ui->btnDaypartRemove->setVisible(removing);
     m_ui->btnCancelDaypartRemove->setVisible(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
     BinGrid::showHint(m_ui->lblDaypartHint, removing);
+    if (hadFocus)
+        m_grid.setFocus();
 }
 
 timerbar::DaypartCells *TimerBarMenuFile::currentCells()

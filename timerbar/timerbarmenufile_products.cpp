@@ -120,6 +120,7 @@ void TimerBarMenuFile::on_btnDeleteProduct_clicked()
     loadProductInfo();
     loadCurrentDaypart();
     noteChange();
+    m_products.focusList();
 }
 
 void TimerBarMenuFile::on_btnSelectMultiProduct_clicked()

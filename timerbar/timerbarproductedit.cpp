@@ -16,7 +16,6 @@
 #include "ui_timerbarproductedit.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
-#include "widgets/messages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -80,8 +79,8 @@ void TimerBarProductEdit::on_btnCancel_clicked()
 
 void TimerBarProductEdit::on_btnSave_clicked()
 {
-    if (const QString fault = firstFault(); !fault.isEmpty()) {
-        messages::entryFault(this, fault);
+    if (const messages::WrongEntry wrong = firstWrongEntry(); wrong.input) {
+        messages::entryFault(this, wrong);
         return;
     }
     storeNamesAndTemperatures();
@@ -95,13 +94,16 @@ int TimerBarProductEdit::holdSeconds() const
     return m_holdTime.seconds() / 60 * 60;
 }
 
-QString TimerBarProductEdit::firstFault() const
+messages::WrongEntry TimerBarProductEdit::firstWrongEntry() const
 {
     if (m_ui->txtProductName->text().isEmpty())
-        return tr("Product name is empty!");
+        return {tr("Product name is empty!"), m_ui->txtProductName};
     if (m_ui->txtShortName->text().isEmpty())
-        return tr("Product short name is empty!");
-    return holdTimeFault(holdSeconds(), m_alertTime.seconds());
+        return {tr("Product short name is empty!"), m_ui->txtShortName};
+    if (const QString fault = holdTimeFault(holdSeconds()); !fault.isEmpty())
+        return {fault, m_ui->timeHoldTime};
+    const QString fault = alertTimeFault(holdSeconds(), m_alertTime.seconds());
+    return fault.isEmpty() ? messages::WrongEntry() : messages::WrongEntry{fault, m_ui->timeWarningTime};
 }
 
 void TimerBarProductEdit::storeNamesAndTemperatures()

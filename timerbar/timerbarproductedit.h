@@ -7,6 +7,7 @@
 
 #include <QDialog>
 
+#include "widgets/messages.h"
 #include "widgets/timeentry.h"
 
 class ProductInfo;
@@ -37,7 +38,7 @@ private:
     void fillNames();
     void fillTemperatures();
     void revert(QLineEdit *edit, const QString &acceptedText, const QString &message);
-    [[nodiscard]] QString firstFault() const;
+    [[nodiscard]] messages::WrongEntry firstWrongEntry() const;
     [[nodiscard]] int holdSeconds() const; ///< whole minutes
     void storeNamesAndTemperatures();
     void noticeLowTemperatures();

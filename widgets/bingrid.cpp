@@ -54,12 +54,14 @@ void BinGrid::clear()
 {
     leaveRemovalMode();
     release();
+    m_keys.clear();
     m_places.clear();
 }
 
 void BinGrid::add(QPushButton *button, Bin bin)
 {
     m_places.append({button, bin});
+    m_keys.add(button, bin.row, bin.slot);
 }
 
 QPushButton *BinGrid::button(Bin bin) const
@@ -92,6 +94,12 @@ std::optional<Bin> BinGrid::binOf(const QPushButton *button) const
     const auto found = std::find_if(m_places.begin(), m_places.end(),
                                     [button](const Place &place) { return place.button == button; });
     return found == m_places.end() ? std::nullopt : std::optional(found->bin);
+}
+
+void BinGrid::setFocus() const
+{
+    if (QWidget *stop = m_keys.stop())
+        stop->setFocus();
 }
 
 void BinGrid::press(QPushButton *button)

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include "model/bin.h"
+#include "widgets/gridkeys.h"
 
 class QLabel;
 class QPushButton;
@@ -18,6 +19,8 @@ class QWidget;
 
 /// Which button is which bin, and the two modes of the buttons: a click assigns, until a bin is held for
 /// 800 ms; in removal mode clicks choose the bins to clear.
+///
+/// Arrow keys go from bin to bin, and Tab stops at one of them.
 ///
 /// The editor forwards what happens to its buttons and answers holdDetected(). The grid knows nothing of
 /// products; it owns no buttons.
@@ -37,6 +40,9 @@ public:
     /// Shows what a bin of the cabinet holds: a name as it stands, or nothing. A remark is not shown, but
     /// told with the name.
     void showContent(Bin bin, const QString &text, const QString &remark = {}) const;
+
+    /// Gives the focus to the bin that had it last.
+    void setFocus() const;
 
     void press(QPushButton *button);
     void release();
@@ -71,6 +77,7 @@ private:
     QList<Place> m_places;
     QPushButton *m_pressed = nullptr; ///< while it may become held
     QTimer m_holdTimer;
+    GridKeys m_keys{GridKeys::TabStops::One};
 };
 
 /// A hidden widget keeps its room, so that entering removal mode moves no bin from under the pointer.

@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 
+#include "widgets/listkeys.h"
 #include "widgets/multiselection.h"
 #include "widgets/numberedrows.h"
 
@@ -15,11 +16,17 @@ EntryPane::EntryPane(const Parts &parts)
     , m_multiSelection(new MultiSelection(parts.list, parts.multiSelection))
 {
     numberedrows::preparePlainList(parts.list);
+    new ListKeys(parts.list, parts.edit);
 }
 
 void EntryPane::setCurrentRow(const QListWidgetItem *item)
 {
     m_row = m_parts.list->row(item);
+}
+
+void EntryPane::focusList() const
+{
+    m_parts.list->setFocus();
 }
 
 void EntryPane::showNames(const QStringList &names)
@@ -30,8 +37,12 @@ void EntryPane::showNames(const QStringList &names)
     for (const QString &name : names)
         numberedrows::append(m_parts.list, name);
     m_multiSelection->restoreChecks(checked);
-    m_parts.list->setCurrentRow(m_row, m_multiSelection->isActive() ? QItemSelectionModel::NoUpdate
-                                                                    : QItemSelectionModel::ClearAndSelect);
+    if (m_multiSelection->isActive())
+        m_parts.list->setCurrentRow(m_row, QItemSelectionModel::NoUpdate);
+    else if (m_row >= 0)
+        m_parts.list->setCurrentRow(m_row, QItemSelectionModel::ClearAndSelect);
+    else
+        m_parts.list->setCurrentIndex({}); // else the first row would become current with the focus
 }
 
 void EntryPane::updateButtons()

@@ -32,6 +32,8 @@ public:
     void setCurrentRow(int row) { m_row = row; }
     void setCurrentRow(const QListWidgetItem *item);
 
+    void focusList() const;
+
     /// Refills the list with numbered rows; the current row and the check marks stay.
     void showNames(const QStringList &names);
     /// Enables the buttons that have something to act on.

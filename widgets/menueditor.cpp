@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QLayout>
 #include <QLabel>
+#include <QKeyEvent>
 #include <QMdiSubWindow>
 
 #include "model/files.h"
@@ -90,6 +91,14 @@ void MenuEditor::noteChange()
     else
         showSaved(tr("Imported from %1. Check Configuration before you save.").arg(m_importedFrom));
     emit told({});
+}
+
+void MenuEditor::keyPressEvent(QKeyEvent *event)
+{
+    // A key that is held leaves the mode and does not go on to close.
+    if (event->matches(QKeySequence::Cancel) && (event->isAutoRepeat() || leaveMode()))
+        return;
+    QDialog::keyPressEvent(event);
 }
 
 void MenuEditor::setFilePath(const QString &path)

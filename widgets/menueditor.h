@@ -88,6 +88,11 @@ protected:
     /// scrolls.
     void fitContent();
 
+    /// Leaves a mode that is in sight, as its Cancel does; false where there is none. Escape tries this
+    /// first.
+    virtual bool leaveMode() { return false; }
+    void keyPressEvent(QKeyEvent *event) override;
+
     /// Asks whether to save first; ignored while a modal dialog is open. The editor schedules its own
     /// deletion, except after a save in place.
     void closeEvent(QCloseEvent *event) override;

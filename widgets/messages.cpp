@@ -3,9 +3,11 @@
 
 #include "widgets/messages.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
 #include <QWindow>
 
@@ -65,6 +67,16 @@ void fileFault(const QString &message)
 void entryFault(QWidget *parent, const QString &message)
 {
     QMessageBox(QMessageBox::NoIcon, Text::tr("Error"), message, QMessageBox::Close, parent).exec();
+}
+
+void entryFault(QWidget *parent, const WrongEntry &wrong)
+{
+    entryFault(parent, wrong.message);
+    wrong.input->setFocus();
+    if (auto *line = qobject_cast<QLineEdit *>(wrong.input))
+        line->selectAll();
+    else if (auto *box = qobject_cast<QAbstractSpinBox *>(wrong.input))
+        box->selectAll();
 }
 
 void refusal(QWidget *parent, const QString &message)

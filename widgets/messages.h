@@ -18,6 +18,16 @@ void fileFault(const QString &message);
 
 /// What is wrong with the entries of a dialog.
 void entryFault(QWidget *parent, const QString &message);
+
+/// What is wrong, and the input that it is entered in; neither where nothing is wrong.
+struct WrongEntry
+{
+    QString message;
+    QWidget *input = nullptr;
+};
+/// The same, and then gives the input the focus with its content selected.
+void entryFault(QWidget *parent, const WrongEntry &wrong);
+
 /// What a dialog or an editor cannot do at all: the same with a warning icon.
 void refusal(QWidget *parent, const QString &message);
 

@@ -5,7 +5,9 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QTimeEdit>
+#include <QVBoxLayout>
 
 #include "model/times.h"
 #include "tests/support/uidriver.h"
@@ -27,6 +29,10 @@ private slots:
     void editedBoxCounts();
     void unseenSecondsStayWithTheBox();
     void showingAnotherTimeForgetsTheEdit();
+    void timeIsEnteredAsOneValue_data();
+    void timeIsEnteredAsOneValue();
+    void clickedSectionIsTypedAnew();
+    void wholeStaysSelectedWithItsWindow();
 };
 
 namespace {
@@ -146,6 +152,113 @@ void TestTimeEntry::showingAnotherTimeForgetsTheEdit()
     QCOMPARE(box.edit.time(), QTime(0, 30));
     digits(u"0200"_s)(box.edit);
     QCOMPARE(box.entry.seconds(), 7200);
+}
+
+namespace {
+
+/// A box of hours, minutes and seconds below another input; it shows 01:23:45.
+struct Form
+{
+    Form()
+    {
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(&name);
+        layout->addWidget(&edit);
+        edit.setDisplayFormat(u"HH:mm:ss"_s);
+        entry.show(QTime(1, 23, 45).msecsSinceStartOfDay() / 1000);
+        ui::show(window);
+        name.setFocus();
+    }
+    [[nodiscard]] QLineEdit &line() { return *edit.findChild<QLineEdit *>(); }
+    void clickText(int character)
+    {
+        const int x = line().fontMetrics().horizontalAdvance(line().text().first(character)) + 4;
+        QTest::mouseClick(&line(), Qt::LeftButton, {}, {x, line().height() / 2});
+    }
+
+    QWidget window;
+    QLineEdit name;
+    QTimeEdit edit;
+    TimeEntry entry{&edit};
+};
+
+using Enter = void (*)(Form &);
+
+void tabInto(Form &form)
+{
+    QTest::keyClick(&form.name, Qt::Key_Tab);
+}
+
+void selectAll(Form &form)
+{
+    form.edit.setFocus();
+    form.edit.setSelectedSection(QDateTimeEdit::MinuteSection);
+    QTest::keyClick(&form.edit, Qt::Key_A, Qt::ControlModifier);
+}
+
+void erase(Form &form)
+{
+    selectAll(form);
+    QTest::keyClick(&form.edit, Qt::Key_Delete);
+    QCOMPARE(form.edit.time(), QTime(0, 0));
+}
+
+void clickBesideTheText(Form &form)
+{
+    QTest::mouseClick(&form.line(), Qt::LeftButton, {}, form.line().rect().center() + QPoint(60, 0));
+    QCOMPARE(form.line().cursorPosition(), 8);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Enter)
+
+void TestTimeEntry::timeIsEnteredAsOneValue_data()
+{
+    QTest::addColumn<Enter>("enter");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QTime>("entered");
+    QTest::newRow("Tab") << Enter(tabInto) << u"0200"_s << QTime(2, 0);
+    QTest::newRow("Ctrl+A") << Enter(selectAll) << u"0200"_s << QTime(2, 0);
+    QTest::newRow("Ctrl+A, hours alone") << Enter(selectAll) << u"07"_s << QTime(7, 0);
+    QTest::newRow("Ctrl+A, all of it") << Enter(selectAll) << u"071809"_s << QTime(7, 18, 9);
+    QTest::newRow("Ctrl+A and Delete") << Enter(erase) << u"0200"_s << QTime(2, 0);
+    QTest::newRow("with colons") << Enter(erase) << u"02:05"_s << QTime(2, 5);
+    QTest::newRow("click beside the text") << Enter(clickBesideTheText) << u"0200"_s << QTime(2, 0);
+}
+
+void TestTimeEntry::timeIsEnteredAsOneValue()
+{
+    QFETCH(const Enter, enter);
+    QFETCH(const QString, typed);
+    QFETCH(const QTime, entered);
+    Form form;
+    form.window.resize(400, 100);
+    QCoreApplication::sendPostedEvents(); // the layout follows
+    enter(form);
+    QTest::keyClicks(&form.edit, typed);
+    QCOMPARE(form.edit.time(), entered);
+    QCOMPARE(form.entry.seconds(), entered.msecsSinceStartOfDay() / 1000);
+}
+
+void TestTimeEntry::clickedSectionIsTypedAnew()
+{
+    Form form;
+    form.clickText(4);
+    QTest::keyClicks(&form.edit, u"07"_s);
+    QCOMPARE(form.edit.time(), QTime(1, 7, 45));
+}
+
+// As after a message that was shown over it.
+void TestTimeEntry::wholeStaysSelectedWithItsWindow()
+{
+    Form form;
+    QWidget message;
+    ui::show(message);
+    form.edit.setFocus();
+    form.edit.selectAll();
+    ui::activate(form.window);
+    QCOMPARE(form.line().selectedText(), u"01:23:45"_s);
 }
 
 QTEST_MAIN(TestTimeEntry)

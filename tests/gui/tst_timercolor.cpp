@@ -87,6 +87,9 @@ private slots:
     void cancelledEditorKeepsTheColor();
     void colorIsPickedByKeyboard_data();
     void colorIsPickedByKeyboard();
+    void pickerStartsOnTheColor_data();
+    void pickerStartsOnTheColor();
+    void arrowsMoveInTheGrid();
 };
 
 void TestTimerColor::slotsAreInOrder()
@@ -211,6 +214,56 @@ void TestTimerColor::colorIsPickedByKeyboard()
         ui::click(dialog, "btnSave");
     });
     QCOMPARE(savedColor(editor), u"#700000"_s);
+}
+
+void TestTimerColor::pickerStartsOnTheColor_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("index");
+    QTest::newRow("none") << u"#fffffd"_s << 0;
+    QTest::newRow("in the middle") << u"#00cfcf"_s << 39;
+    QTest::newRow("black") << u"#000000"_s << 72;
+    QTest::newRow("white") << u"#ffffff"_s << 80;
+    QTest::newRow("not in the palette") << u"#123456"_s << 0;
+}
+
+void TestTimerColor::pickerStartsOnTheColor()
+{
+    QFETCH(const QString, name);
+    QFETCH(const int, index);
+    OpenEditor editor(menuWithColor(name));
+    edit(editor, [index](ProductEdit &dialog, ModalAnswers &answers) {
+        answers.expect<TimerColorPicker>([index](TimerColorPicker &picker) {
+            REQUIRE_EQUAL(picker.focusWidget(), colorButton(picker, index));
+            for (int each = 0; each < 81; ++each)
+                REQUIRE_EQUAL(colorButton(picker, each)->accessibleDescription(),
+                              each == index ? u"Current"_s : QString());
+            // The mark is black and white in the middle, on any colour.
+            const QImage image = colorButton(picker, index)->grab().toImage();
+            QCOMPARE(image.pixelColor(8, 8), QColor(Qt::black));
+            QCOMPARE(image.pixelColor(9, 9), QColor(Qt::white));
+            QCOMPARE(image.pixelColor(0, 0), QColor(Qt::black)); // so is the ring of the focus
+            QCOMPARE(image.pixelColor(1, 1), QColor(Qt::white));
+            QTest::keyClick(&picker, Qt::Key_Escape);
+        });
+        ui::click(dialog, "btnTimerColor");
+        ui::click(dialog, "btnCancel");
+    });
+}
+
+void TestTimerColor::arrowsMoveInTheGrid()
+{
+    OpenEditor editor(menuWithColor(u"#00cfcf"_s));
+    edit(editor, [](ProductEdit &dialog, ModalAnswers &answers) {
+        answers.expect<TimerColorPicker>([](TimerColorPicker &picker) {
+            for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left})
+                QTest::keyClick(picker.focusWidget(), key);
+            QTest::keyClick(picker.focusWidget(), Qt::Key_Return);
+        });
+        ui::click(dialog, "btnTimerColor");
+        ui::click(dialog, "btnSave");
+    });
+    QCOMPARE(savedColor(editor), colorName(39 + 9 + 1));
 }
 
 QTEST_MAIN(TestTimerColor)

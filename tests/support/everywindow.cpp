@@ -63,6 +63,7 @@ std::unique_ptr<QWidget> makeAssignDaypartItem(MenuFile &editor)
 {
     const QStringList splits{editor.getMenuProducts().constFirst()->get_zoneSplits()};
     auto window = std::make_unique<AssignDaypartItem>(splits, 0, 0, 0, false, &editor);
+    window->setPlace(u"Breakfast"_s, {0, 1}, windowmenu::longName);
     ui::get<QListWidget>(*window, "listWidgetProducts").setCurrentRow(0);
     return window;
 }
@@ -114,6 +115,7 @@ std::unique_ptr<QWidget> makeTimerBarProductEdit(MenuFile &editor)
 std::unique_ptr<QWidget> makeTimerBarAssignItem(MenuFile &editor)
 {
     auto window = std::make_unique<TimerBarDaypartAssignItem>(0, 0, &timerBarOwner(editor));
+    window->setPlace(u"Breakfast"_s, {0, 1}, QString(25, u'W'));
     ui::get<QListWidget>(*window, "listWidgetProducts").setCurrentRow(0);
     return window;
 }
