@@ -66,6 +66,14 @@ void replace(QWidget *widget, QLayout *by)
         replaceInGrid(*grid, widget, by);
 }
 
+// The list alone decides on the column's width.
+void takeAnyWidth(QWidget &widget)
+{
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    widget.setSizePolicy(policy);
+}
+
 void show(QLabel &label, const QString &text)
 {
     label.setText(text);
@@ -86,7 +94,9 @@ void ListNotes::setBelow(const QString &text) const
 
 ListNotes addListNotes(QListWidget *list)
 {
-    ListNotes notes{new NameLabel(list->parentWidget()), new QLabel(list->parentWidget())};
+    auto *above = new NameLabel(list->parentWidget());
+    above->setAskedLength(10);
+    ListNotes notes{above, new QLabel(list->parentWidget())};
     notes.above->setObjectName(u"lblPlace"_s);
     notes.below->setObjectName(u"lblDemand"_s);
     notes.below->setTextFormat(Qt::PlainText);
@@ -94,6 +104,8 @@ ListNotes addListNotes(QListWidget *list)
     notes.below->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     // So that the list does not move where the text changes.
     notes.below->setMinimumHeight(2 * notes.below->fontMetrics().lineSpacing());
+    takeAnyWidth(*notes.above);
+    takeAnyWidth(*notes.below);
     auto *column = new QVBoxLayout;
     replace(list, column);
     column->addWidget(notes.above);

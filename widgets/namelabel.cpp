@@ -10,8 +10,7 @@
 
 namespace {
 
-constexpr int ordinaryNameLength = 25; // in characters
-constexpr int longestShownName = 4 * ordinaryNameLength;
+constexpr int longestShownName = 4 * NameLabel::ordinaryLength;
 
 // On one paragraph: a file may hold any characters.
 QString shownPart(QString name)
@@ -37,6 +36,12 @@ NameLabel::NameLabel(QWidget *parent)
     setWordWrap(true); // makes the layout ask for heightForWidth()
 }
 
+void NameLabel::setAskedLength(int characters)
+{
+    m_askedLength = characters;
+    updateGeometry();
+}
+
 QSize NameLabel::sizeHint() const
 {
     return minimumSizeHint();
@@ -45,7 +50,7 @@ QSize NameLabel::sizeHint() const
 QSize NameLabel::minimumSizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    return {ordinaryNameLength * metrics.averageCharWidth(), metrics.height()};
+    return {m_askedLength * metrics.averageCharWidth(), metrics.height()};
 }
 
 int NameLabel::heightForWidth(int width) const

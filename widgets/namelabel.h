@@ -13,7 +13,11 @@ class NameLabel final : public QLabel
     Q_OBJECT
 
 public:
+    static constexpr int ordinaryLength = 25; ///< of a name, in characters
+
     explicit NameLabel(QWidget *parent = nullptr);
+    /// Asks for the width of so many characters, for a place where others decide on the width.
+    void setAskedLength(int characters);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -21,4 +25,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    int m_askedLength = ordinaryLength;
 };
