@@ -83,10 +83,10 @@ void TestMenuFileClosing::modesDoNotKeepItOpen()
     const QByteArray saved = program.content(u"menu.json"_s);
     const QPointer<QWidget> closed = editor(program);
     enterMode(program, removing);
-    close(program, QMessageBox::Cancel);
+    close(program, QMessageBox::Cancel, Way::CtrlW); // Escape would leave the mode first
     requireOpen(program, closed);
     QVERIFY(isInMode(*closed, removing));
-    close(program, QMessageBox::Yes);
+    close(program, QMessageBox::Yes, Way::CtrlW);
     requireGone(program, closed);
     QCOMPARE(program.content(u"menu.json"_s), saved); // what was only marked has not been deleted
 }
