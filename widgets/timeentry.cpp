@@ -40,6 +40,7 @@ TimeEntry::TimeEntry(QTimeEdit *edit)
     , m_line(edit->findChild<QLineEdit *>())
 {
     edit->installEventFilter(this);
+    m_line->installEventFilter(this);
     const auto noteEdit = [this] { m_edited = true; };
     connect(edit, &QTimeEdit::timeChanged, this, noteEdit);
     // Digits typed over themselves change no time.
@@ -61,6 +62,8 @@ int TimeEntry::seconds() const
 
 bool TimeEntry::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress)
+        m_afterDigit = false;
     if (watched != m_edit)
         return QObject::eventFilter(watched, event);
     if (event->type() == QEvent::FocusIn) {
@@ -99,11 +102,12 @@ bool TimeEntry::takeKey(const QKeyEvent &press)
         return true;
     }
     // The colon after the second digit: the box has gone on to the next section by itself.
-    const bool wentOn = std::exchange(m_afterDigit, isDigit(press)) && m_line->hasSelectedText();
+    const bool afterDigit = std::exchange(m_afterDigit, isDigit(press));
     if (!isDigit(press))
-        return wentOn && press.text() == u":"_s;
+        return afterDigit && m_line->hasSelectedText() && press.text() == u":"_s;
     const bool beside = m_line->cursorPosition() == 0 || m_line->cursorPosition() == m_line->text().size();
-    const bool inNothing = !m_line->hasSelectedText() && isComplete();
+    // Behind the last digit of all there is no room for more.
+    const bool inNothing = !afterDigit && !m_line->hasSelectedText() && isComplete();
     if (isWholeSelected() || (inNothing && beside))
         startOver();
     else if (inNothing)

@@ -223,6 +223,7 @@ void TestTimeEntry::timeIsEnteredAsOneValue_data()
     QTest::newRow("Ctrl+A, hours alone") << Enter(selectAll) << u"07"_s << QTime(7, 0);
     QTest::newRow("Ctrl+A, all of it") << Enter(selectAll) << u"071809"_s << QTime(7, 18, 9);
     QTest::newRow("Ctrl+A and Delete") << Enter(erase) << u"0200"_s << QTime(2, 0);
+    QTest::newRow("Ctrl+A, more than all of it") << Enter(selectAll) << u"0718099"_s << QTime(7, 18, 9);
     QTest::newRow("with colons") << Enter(erase) << u"02:05"_s << QTime(2, 5);
     QTest::newRow("click beside the text") << Enter(clickBesideTheText) << u"0200"_s << QTime(2, 0);
 }
