@@ -50,7 +50,7 @@ AssignDaypartItem::~AssignDaypartItem() = default;
 void AssignDaypartItem::setPlace(const QString &daypart, Bin bin, const QString &content)
 {
     m_notes.setAbove(placeText(daypart, bin, content));
-    fixDesignedSize(this); // a long name in a large font takes lines of its own
+    fixSizeOnScreen(this); // a long name in a large font takes lines of its own
 }
 
 QString AssignDaypartItem::misfitOf(const ProductInfo &entry) const

@@ -70,7 +70,9 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
                   tr("This menu has no products yet. Cancel, and add some on the Products tab."));
     showWhenEmpty(m_ui->listWidgetGroupProducts,
                   tr("Choose a product on the left and add it with the green arrow."));
-    m_notes = addListNotes(m_ui->listWidgetProducts);
+    m_notes = addListNotes(m_ui->listWidgetProducts, 1);
+    // As wide as the dialog, as a demand names up to five settings.
+    m_ui->verticalLayout->insertWidget(m_ui->verticalLayout->indexOf(m_ui->layoutLists) + 1, m_notes.below);
     new ListKeys(m_ui->listWidgetProducts, m_ui->btnAddProduct);
     new ListKeys(m_ui->listWidgetGroupProducts, m_ui->btnRemoveProduct);
     letEnterPressFocusedButton(this);

@@ -47,6 +47,9 @@ QLabel &ProductDetails::label(QLatin1StringView prefix, const holding::FieldDeta
 void ProductDetails::reserveRoom()
 {
     QLabel *sample = m_ui->txtTimerColor;
+    QFont font = sample->font();
+    font.setBold(false); // it is still that of the heading above
+    sample->setFont(font);
     sample->setText(holding::timerColorSample(holding::timerPalette().back()).text);
     sample->setFixedSize(sample->minimumSize().expandedTo(sample->sizeHint() + samplePadding));
 }

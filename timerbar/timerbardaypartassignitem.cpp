@@ -43,7 +43,7 @@ TimerBarDaypartAssignItem::~TimerBarDaypartAssignItem() = default;
 void TimerBarDaypartAssignItem::setPlace(const QString &daypart, Bin bin, const QString &content)
 {
     m_notes.setAbove(placeText(daypart, bin, content));
-    fixDesignedSize(this); // a long name in a large font takes lines of its own
+    fixSizeOnScreen(this); // a long name in a large font takes lines of its own
 }
 
 void TimerBarDaypartAssignItem::loadProducts()

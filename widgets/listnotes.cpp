@@ -92,7 +92,7 @@ void ListNotes::setBelow(const QString &text) const
     show(*below, text);
 }
 
-ListNotes addListNotes(QListWidget *list)
+ListNotes addListNotes(QListWidget *list, int linesBelow)
 {
     auto *above = new NameLabel(list->parentWidget());
     above->setAskedLength(10);
@@ -103,7 +103,7 @@ ListNotes addListNotes(QListWidget *list)
     notes.below->setWordWrap(true);
     notes.below->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     // So that the list does not move where the text changes.
-    notes.below->setMinimumHeight(2 * notes.below->fontMetrics().lineSpacing());
+    notes.below->setMinimumHeight(linesBelow * notes.below->fontMetrics().lineSpacing());
     takeAnyWidth(*notes.above);
     takeAnyWidth(*notes.below);
     auto *column = new QVBoxLayout;
