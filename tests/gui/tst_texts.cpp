@@ -21,6 +21,8 @@ QString className(const QWidget &window)
     return QString::fromLatin1(window.metaObject()->className());
 }
 
+const QStringList valueLabels{u"lblVersion"_s, u"lblSaved"_s, u"lblPlace"_s, u"lblDemand"_s};
+
 // What names the parts of a window: neither the values that it shows nor what bins hold.
 QStringList namingTexts(const QWidget &part)
 {
@@ -33,7 +35,7 @@ QStringList namingTexts(const QWidget &part)
     } else if (qobject_cast<const QAbstractButton *>(&part) && !qobject_cast<const BinButton *>(&part)) {
         texts.append(static_cast<const QAbstractButton &>(part).text());
     } else if (const auto *label = qobject_cast<const QLabel *>(&part)) {
-        if (part.objectName().startsWith("lbl"_L1) && part.objectName() != "lblVersion"_L1)
+        if (part.objectName().startsWith("lbl"_L1) && !valueLabels.contains(part.objectName()))
             texts.append(label->text());
     }
     return texts;
@@ -76,8 +78,8 @@ const QString daypartHint = u"Click a bin to assign it. Hold a filled bin to cle
 
 QStringList laneTexts()
 {
-    QStringList texts{u"Lanes"_s, u"Temperature Unit"_s, u"°F"_s,       u"°C"_s,
-                      u"Lanes"_s, u"Temperature"_s,      u"Fan Speed"_s};
+    QStringList texts{u"Lanes"_s, u"Close"_s, u"Temperature Unit"_s, u"°F"_s,
+                      u"°C"_s,    u"Lanes"_s, u"Temperature"_s,      u"Fan Speed"_s};
     for (int lane = 1; lane <= 4; ++lane)
         texts.append({u"Lane %1"_s.arg(lane), u"°F"_s, u"RPM"_s});
     return texts;
@@ -86,17 +88,18 @@ QStringList laneTexts()
 // Later pages of the tabs were made first.
 QStringList editorTexts(const QString &cabinet)
 {
-    const QStringList dayparts{u"Day Part"_s, u"In Use"_s, u"Add"_s,    u"Edit"_s,
-                               u"Delete"_s,   daypartHint, u"Remove"_s, u"Cancel"_s};
-    const QStringList groups = listButtons + QStringList{u"Group"_s} + details + QStringList{u"Products:"_s};
-    return QStringList{cabinet, u"Configuration"_s, u"Products"_s, u"Groups"_s, u"Day Parts"_s} + dayparts +
-           groups + listButtons + QStringList{u"Product"_s} + details;
+    const QStringList dayparts{u"Day Part"_s, u"In Use"_s, u"Add"_s,    u"Edit"_s,   u"Delete"_s,
+                               u"Remove"_s,   u"Cancel"_s, daypartHint, u"Zone 1"_s, u"Zone 2"_s};
+    const QStringList groups = listButtons + QStringList{u"Products:"_s, u"Group"_s} + details;
+    return QStringList{cabinet, u"Configuration"_s, u"Close"_s, u"Products"_s, u"Groups"_s, u"Day Parts"_s} +
+           dayparts + groups + listButtons + QStringList{u"Product"_s} + details;
 }
 
 QStringList timerBarEditorTexts(const QString &cabinet)
 {
-    return QStringList{cabinet,       u"Configuration"_s, u"Products"_s, u"Day Parts"_s,
-                       u"Day Part"_s, daypartHint,        u"Remove"_s,   u"Cancel"_s} +
+    return QStringList{cabinet,        u"Configuration"_s, u"Close"_s,  u"Products"_s,
+                       u"Day Parts"_s, u"Day Part"_s,      u"Remove"_s, u"Cancel"_s,
+                       daypartHint,    u"Pair 1"_s,        u"Pair 2"_s} +
            listButtons + QStringList{u"Export"_s, u"Product"_s} + timerBarDetails(u"Short"_s);
 }
 
@@ -179,6 +182,7 @@ void TestTexts::partsHaveTheirNames()
 {
     const QMap<QString, QStringList> expected = expectedTexts();
     QStringList seen;
+    QStringList differences;
     for (const WindowKind &kind : everyWindow()) {
         const OpenWindow open(kind);
         const QString name = className(open.window());
@@ -187,8 +191,10 @@ void TestTexts::partsHaveTheirNames()
         seen.append(name);
         QVERIFY2(expected.contains(name), qPrintable(name));
         const QString difference = differenceOf(textsOf(open.window()), expected.value(name));
-        QVERIFY2(difference.isEmpty(), qPrintable(name + u": "_s + difference));
+        if (!difference.isEmpty())
+            differences.append(name + u": "_s + difference);
     }
+    QVERIFY2(differences.isEmpty(), qPrintable(differences.join(u'\n')));
     QCOMPARE(seen.size(), expected.size());
 }
 
