@@ -21,8 +21,8 @@ struct ListNotes
     void setBelow(const QString &text) const;
 };
 
-/// Puts the two labels around the list, wherever a layout has placed it, in the list's own place. The one below
-/// has room for so many lines; a narrow list needs more of them.
+/// Puts the two labels around the list, wherever a layout has placed it, in the list's own place. The one
+/// below has room for so many lines; a narrow list needs more of them.
 [[nodiscard]] ListNotes addListNotes(QListWidget *list, int linesBelow = 2);
 
 /// Which bin is being filled: day part, place, and the name of what stands there now, or nothing.
