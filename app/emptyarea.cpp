@@ -27,7 +27,8 @@ void paintHowToBegin(QPainter &painter, const QRect &area)
     const QString text = Text::tr("File > New starts a menu, File > Open opens one");
     QRect place(0, 0, area.width(), iconSize + gap + 2 * painter.fontMetrics().lineSpacing());
     place.moveCenter(area.center());
-    QIcon(u":/myapp.ico"_s).paint(&painter, place, Qt::AlignHCenter | Qt::AlignTop);
+    const QRect icon(place.center().x() - iconSize / 2, place.top(), iconSize, iconSize);
+    QIcon(u":/myapp.ico"_s).paint(&painter, icon);
     painter.setPen(textColor);
     painter.drawText(place.adjusted(gap, iconSize + gap, -gap, 0),
                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);

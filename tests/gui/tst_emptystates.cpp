@@ -60,6 +60,10 @@ void TestEmptyStates::areaTellsHowToBegin()
     QCOMPARE(area.background().color(), QColor(0xa0, 0xa0, 0xa0));
     QVERIFY(!isPlain(*area.viewport()));
     QCOMPARE(area.viewport()->grab().toImage().pixelColor(2, 2), QColor(0xa0, 0xa0, 0xa0));
+    // The icon ends above the text.
+    const QPoint middle = area.viewport()->rect().center();
+    QVERIFY(!isPlain(*area.viewport(), QRect(middle.x() - 20, middle.y() - 20, 40, 20)));
+    QVERIFY(isPlain(*area.viewport(), QRect(0, middle.y() + 10, area.viewport()->width(), 8)));
     area.addSubWindow(new QLabel);
     QVERIFY(isPlain(*area.viewport()));
     delete area.subWindowList().constFirst();
