@@ -33,7 +33,11 @@ MainWindow::MainWindow(QWidget *parent)
     prepareStatusBar();
 }
 
-MainWindow::~MainWindow() = default;
+// The area tells of its sub-windows until it is gone, which is after the members of this window.
+MainWindow::~MainWindow()
+{
+    m_ui->mdiArea->disconnect(this);
+}
 
 // Tips of what the pointer is on cover the line of the last act and give it back; the note stays in sight.
 void MainWindow::prepareStatusBar()

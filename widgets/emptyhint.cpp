@@ -11,11 +11,13 @@ namespace {
 
 constexpr int margin = 16; // in pixels
 
+// A list that is destroyed clears its model when it is half gone: this one goes with the viewport, which is
+// before that.
 class EmptyListPainter final : public QObject
 {
 public:
     EmptyListPainter(QListWidget *list, const QString &hint)
-        : QObject(list)
+        : QObject(list->viewport())
         , m_list(list)
         , m_hint(hint)
     {

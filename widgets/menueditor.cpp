@@ -3,13 +3,15 @@
 
 #include "widgets/menueditor.h"
 
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
-#include <QLayout>
-#include <QLabel>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLayout>
 #include <QMdiSubWindow>
 
 #include "model/files.h"
@@ -84,13 +86,17 @@ void MenuEditor::noteImported(const QString &fileName)
 
 void MenuEditor::noteChange()
 {
-    if (m_saved)
-        showSaved(SaveMark(contents()) == m_saved ? tr("Saved") : tr("Changed since the last save"));
-    else if (m_importedFrom.isEmpty())
-        showSaved(tr("Not saved yet"));
-    else
-        showSaved(tr("Imported from %1. Check Configuration before you save.").arg(m_importedFrom));
+    showSaved(savedText());
     emit told({});
+}
+
+QString MenuEditor::savedText() const
+{
+    if (m_saved)
+        return SaveMark(contents()) == m_saved ? tr("Saved") : tr("Changed since the last save");
+    if (m_importedFrom.isEmpty())
+        return tr("Not saved yet");
+    return tr("Imported from %1. Check Configuration before you save.").arg(m_importedFrom);
 }
 
 void MenuEditor::keyPressEvent(QKeyEvent *event)
@@ -121,11 +127,11 @@ namespace {
 void activateLayouts(QWidget *editor)
 {
     const QList<QWidget *> widgets = editor->findChildren<QWidget *>();
-    for (auto widget = widgets.rbegin(); widget != widgets.rend(); ++widget) {
-        if (QLayout *layout = (*widget)->layout())
+    std::for_each(widgets.rbegin(), widgets.rend(), [](QWidget *widget) {
+        if (QLayout *layout = widget->layout())
             layout->activate();
-        (*widget)->updateGeometry();
-    }
+        widget->updateGeometry();
+    });
     editor->layout()->activate();
 }
 

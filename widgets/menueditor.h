@@ -104,6 +104,7 @@ private:
 
     /// Through the sub-window, where there is one: the area would otherwise keep its empty frame.
     void closeWindow();
+    [[nodiscard]] QString savedText() const;
     void showSaved(const QString &text);
 
     QString m_filePath;
