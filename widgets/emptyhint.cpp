@@ -22,7 +22,12 @@ public:
         , m_hint(hint)
     {
         list->viewport()->installEventFilter(this);
-        const auto tell = [this] { m_list->setAccessibleDescription(isEmpty() ? m_hint : QString()); };
+        const auto tell = [this] {
+            if (m_toldEmpty == isEmpty())
+                return;
+            m_toldEmpty = isEmpty();
+            m_list->setAccessibleDescription(m_toldEmpty ? m_hint : QString());
+        };
         connect(list->model(), &QAbstractItemModel::rowsInserted, this, tell);
         connect(list->model(), &QAbstractItemModel::rowsRemoved, this, tell);
         connect(list->model(), &QAbstractItemModel::modelReset, this, tell);
@@ -44,6 +49,7 @@ private:
 
     QListWidget *m_list;
     QString m_hint;
+    bool m_toldEmpty = false;
 };
 
 } // namespace
