@@ -30,15 +30,6 @@ int positionOf(const QListWidgetItem *item)
     return item->data(positionRole).toInt();
 }
 
-// The pictures point down and up, the lists stand side by side.
-QIcon turnedToTheLists(const QIcon &icon, const QSize &size)
-{
-    QIcon turned;
-    for (const qreal ratio : {1.0, 2.0})
-        turned.addPixmap(icon.pixmap(size, ratio).transformed(QTransform().rotate(-90)));
-    return turned;
-}
-
 void appendMember(QListWidget *list, const ProductInfo &member, int position)
 {
     QListWidgetItem *item = numberedrows::append(list, position + 1, shownName(member.get_productName()));
@@ -60,10 +51,8 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     , m_draft(group, m_configuration)
 {
     m_ui->setupUi(this);
-    for (QPushButton *button : {m_ui->btnAddProduct, m_ui->btnRemoveProduct}) {
+    for (QPushButton *button : {m_ui->btnAddProduct, m_ui->btnRemoveProduct})
         button->setAttribute(Qt::WA_StyledBackground); // else a flat button does not paint it
-        button->setIcon(turnedToTheLists(button->icon(), button->iconSize()));
-    }
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     numberedrows::prepareColouredList(m_ui->listWidgetGroupProducts);
     showWhenEmpty(m_ui->listWidgetProducts,
