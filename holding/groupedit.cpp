@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include <QSet>
 #include <QSignalBlocker>
 
 #include "holding/menufile.h"
@@ -190,9 +191,10 @@ void GroupEdit::on_btnAddProduct_clicked()
 // So that products are added one after the other; the row itself where nothing is left behind it.
 int GroupEdit::nextRowToAdd(int row) const
 {
+    const QSet<int> members(m_draft.members().begin(), m_draft.members().end());
     for (int next = row + 1; next < m_products.size(); ++next) {
         const ProductInfo &product = *m_products[next];
-        if (m_draft.fits(product) && !m_draft.members().contains(product.get_productId()))
+        if (m_draft.fits(product) && !members.contains(product.get_productId()))
             return next;
     }
     return row;

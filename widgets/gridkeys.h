@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <optional>
-
 #include <QList>
 #include <QObject>
 #include <QPointer>

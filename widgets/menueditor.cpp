@@ -96,7 +96,10 @@ QString MenuEditor::savedText() const
         return SaveMark(contents()) == m_saved ? tr("Saved") : tr("Changed since the last save");
     if (m_importedFrom.isEmpty())
         return tr("Not saved yet");
-    return tr("Imported from %1. Check Configuration before you save.").arg(m_importedFrom);
+    constexpr int widestName = 150; // in pixels
+    // The title has the whole name; here it would widen the editor.
+    const QString name = m_savedLabel->fontMetrics().elidedText(m_importedFrom, Qt::ElideMiddle, widestName);
+    return tr("Imported from %1. Check Configuration before you save.").arg(name);
 }
 
 void MenuEditor::keyPressEvent(QKeyEvent *event)

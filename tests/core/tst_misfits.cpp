@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "holding/misfits.h"
+#include "tests/core/holdas.h"
 #include "tests/support/require.h"
 #include "tests/support/warnings.h"
 
@@ -24,15 +25,6 @@ CabinetConfiguration cabinet(const QString &type, int unit, bool fanSpeedEnabled
     configuration.temperatureUnit = unit;
     configuration.fanSpeedEnabled = fanSpeedEnabled;
     return configuration;
-}
-
-void setUp(ProductInfo &product, const HoldingSettings &settings)
-{
-    product.set_lidType(settings.lidType);
-    product.set_zoneSplits(settings.zoneSplits);
-    product.set_upperTemp(settings.upperTemp);
-    product.set_lowerTemp(settings.lowerTemp);
-    product.set_fanSpeed(settings.fanSpeed);
 }
 
 template <typename Look>
@@ -104,7 +96,7 @@ void TestMisfits::binReasonExactlyWhenUnfit()
     ProductInfo entry;
     for (const QString &splits : splitTexts) {
         forEachTemperatures([&](int upper, int lower, int fan) {
-            setUp(entry, {{}, splits, upper, lower, fan});
+            holdAs(entry, {{}, splits, upper, lower, fan});
             forEachTemperatures([&](int zoneUpper, int zoneLower, int zoneFan) {
                 const BinLimits limits{zoneUpper, zoneLower, zoneFan};
                 for (const QStringList &allowed : {QStringList{u"1/2"_s}, QStringList{u"1/1"_s, u"1/2"_s}}) {
@@ -128,10 +120,10 @@ void TestMisfits::groupReasonExactlyWhenUnfit()
         for (const QString &splits : splitTexts) {
             forEachTemperatures([&](int upper, int lower, int fan) {
                 const HoldingSettings settings{lid, splits, upper, lower, fan};
-                setUp(product, settings);
+                holdAs(product, settings);
                 const QString reason = groupMisfitText(product, held, configuration);
                 checkReason(reason, fitsGroup(product, held, withFanSpeed), lid);
-                setUp(product, held);
+                holdAs(product, held);
                 const QString other = groupMisfitText(product, settings, configuration);
                 checkReason(other, fitsGroup(product, settings, withFanSpeed), lid);
             });
@@ -180,7 +172,7 @@ void TestMisfits::binReasons()
     QFETCH(const QString, splits);
     QFETCH(const QList<int>, zone);
     ProductInfo entry;
-    setUp(entry, {{}, splits, own[0], own[1], own[2]});
+    holdAs(entry, {{}, splits, own[0], own[1], own[2]});
     QTEST(binMisfitText(entry, {zone[0], zone[1], zone[2]}, {u"1/2"_s}, cabinet(type, unit, true)), "reason");
 }
 
@@ -211,7 +203,7 @@ void TestMisfits::groupReasons()
     QFETCH(const int, upper);
     QFETCH(const int, fanSpeed);
     ProductInfo product;
-    setUp(product, {lid, splits, upper, 200, fanSpeed});
+    holdAs(product, {lid, splits, upper, 200, fanSpeed});
     QTEST(groupMisfitText(product, {u"Solid"_s, u"1/2"_s, 215, 200, 60}, cabinet(u"QHX"_s, 0, true)),
           "reason");
 }
@@ -234,7 +226,7 @@ void TestMisfits::demands()
 void TestMisfits::longWordsAreShortened()
 {
     ProductInfo entry;
-    setUp(entry, {QString(1000, u'l'), QString(1000, u's'), 200, 200, 0});
+    holdAs(entry, {QString(1000, u'l'), QString(1000, u's'), 200, 200, 0});
     const CabinetConfiguration qhx = cabinet(u"QHX"_s, unitFahrenheit, true);
     QVERIFY(binMisfitText(entry, {}, {u"1/2"_s}, qhx).size() < 60);
     QVERIFY(groupMisfitText(entry, {u"Solid"_s, {}, 0, 0, 0}, qhx).size() < 60);

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "holding/settings.h"
+#include "tests/core/holdas.h"
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
@@ -12,15 +13,6 @@ using namespace holding;
 namespace {
 
 const HoldingSettings held{u"Solid"_s, u"1/3"_s, 215, 200, 60};
-
-void setUp(ProductInfo &product, const HoldingSettings &settings)
-{
-    product.set_lidType(settings.lidType);
-    product.set_zoneSplits(settings.zoneSplits);
-    product.set_upperTemp(settings.upperTemp);
-    product.set_lowerTemp(settings.lowerTemp);
-    product.set_fanSpeed(settings.fanSpeed);
-}
 
 // What a group may say of one setting, and whether a product that holds as `held` may then join it.
 enum Fixed { Open, Same, Other };
@@ -55,7 +47,7 @@ private slots:
 void TestSettings::settingsOfEntry()
 {
     ProductInfo entry;
-    setUp(entry, {u"Vented"_s, u"2/3"_s, 215, 210, 60});
+    holdAs(entry, {u"Vented"_s, u"2/3"_s, 215, 210, 60});
     QVERIFY(holdingSettings(entry, true) == (HoldingSettings{u"Vented"_s, u"2/3"_s, 215, 210, 60}));
     QVERIFY(holdingSettings(entry, false) == (HoldingSettings{u"Vented"_s, u"2/3"_s, 215, 210, 0}));
 }
@@ -63,7 +55,7 @@ void TestSettings::settingsOfEntry()
 void TestSettings::binSettingsOfGroup()
 {
     ProductInfo group;
-    setUp(group, {u"Vented"_s, u"2/3"_s, 215, 210, 60});
+    holdAs(group, {u"Vented"_s, u"2/3"_s, 215, 210, 60});
     QVERIFY(groupBinSettings(group, true) == (HoldingSettings{QString(), u"2/3"_s, 215, 210, 60}));
     QVERIFY(groupBinSettings(group, false) == (HoldingSettings{QString(), u"2/3"_s, 215, 210, 0}));
 }
@@ -105,7 +97,7 @@ void TestSettings::fitsGroup()
     QFETCH(int, lower);
     QFETCH(int, fan);
     ProductInfo product;
-    setUp(product, held);
+    holdAs(product, held);
     const HoldingSettings group =
         groupSettings(Fixed(lid), Fixed(splits), Fixed(upper), Fixed(lower), Fixed(fan));
     const bool fitsWithoutFan = lid != Other && splits != Other && upper != Other && lower != Other;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "holding/configuration.h"
+#include "tests/gui/detaillabels.h"
 #include "tests/gui/openeditor.h"
 #include "tests/support/modalanswers.h"
 #include "tests/support/warnings.h"
@@ -190,18 +191,6 @@ void TestMenuFileDetails::rowsFollowTheConfiguration()
 void TestMenuFileDetails::labelsNameTheRows()
 {
     OpenEditor editor(oneProduct(samplefile::headerWithAllSwitches()));
-    const QStringList labels{u"Id:"_s,
-                             u"Name:"_s,
-                             u"Upper Temperature:"_s,
-                             u"Lower Temperature:"_s,
-                             u"Holding Time:"_s,
-                             u"Cook More Alert Time:"_s,
-                             u"Reset Time:"_s,
-                             u"Fan Speed:"_s,
-                             u"Lid Type:"_s,
-                             u"Bottom Type:"_s,
-                             u"Zone Splits:"_s,
-                             u"Timer Color:"_s};
     QStringList ofProduct;
     QStringList ofGroup;
     for (const char *row : rows) {
@@ -209,8 +198,8 @@ void TestMenuFileDetails::labelsNameTheRows()
         ofProduct.append(editor.productDetail(label.constData()).text());
         ofGroup.append(editor.groupDetail(label.constData()).text());
     }
-    QCOMPARE(ofProduct, labels);
-    QCOMPARE(ofGroup, labels);
+    QCOMPARE(ofProduct, detailLabels);
+    QCOMPARE(ofGroup, detailLabels);
 }
 
 namespace {

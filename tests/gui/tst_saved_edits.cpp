@@ -211,6 +211,7 @@ private slots:
     void everyEditSays_data();
     void everyEditSays();
     void importSays();
+    void longNameOfAnImportKeepsTheWidth();
 };
 
 void TestSavedEdits::everyEditSays_data()
@@ -253,6 +254,17 @@ void TestSavedEdits::importSays()
     program.save();
     chooseCelsius(program);
     QCOMPARE(stateOf(program), u"Saved"_s);
+}
+
+void TestSavedEdits::longNameOfAnImportKeepsTheWidth()
+{
+    Program program;
+    program.open(u"old.qhx"_s, qhx::sample().bytes());
+    const QSize size = editor(program).size();
+    program.open(QString(200, u'W') + u".qhx"_s, qhx::sample().bytes());
+    QCOMPARE(editor(program).size(), size);
+    QVERIFY(stateOf(program).contains(u"\u2026"_s));
+    QVERIFY(editor(program).windowTitle().contains(QString(200, u'W')));
 }
 
 QTEST_MAIN(TestSavedEdits)

@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "tests/gui/detaillabels.h"
 #include "tests/support/everywindow.h"
 #include "tests/support/textlists.h"
 #include "tests/support/warnings.h"
@@ -54,18 +55,6 @@ QStringList textsOf(const QWidget &window)
     return texts;
 }
 
-const QStringList details{u"Id:"_s,
-                          u"Name:"_s,
-                          u"Upper Temperature:"_s,
-                          u"Lower Temperature:"_s,
-                          u"Holding Time:"_s,
-                          u"Cook More Alert Time:"_s,
-                          u"Reset Time:"_s,
-                          u"Fan Speed:"_s,
-                          u"Lid Type:"_s,
-                          u"Bottom Type:"_s,
-                          u"Zone Splits:"_s,
-                          u"Timer Color:"_s};
 const QStringList listButtons{u"Add"_s, u"Edit"_s, u"Duplicate"_s, u"Delete"_s, u"Multiple Selection"_s};
 
 QStringList timerBarDetails(const QString &shortName)
@@ -90,9 +79,9 @@ QStringList editorTexts(const QString &cabinet)
 {
     const QStringList dayparts{u"Day Part"_s, u"In Use"_s, u"Add"_s,    u"Edit"_s,   u"Delete"_s,
                                u"Remove"_s,   u"Cancel"_s, daypartHint, u"Zone 1"_s, u"Zone 2"_s};
-    const QStringList groups = listButtons + QStringList{u"Products:"_s, u"Group"_s} + details;
+    const QStringList groups = listButtons + QStringList{u"Products:"_s, u"Group"_s} + detailLabels;
     return QStringList{cabinet, u"Configuration"_s, u"Close"_s, u"Products"_s, u"Groups"_s, u"Day Parts"_s} +
-           dayparts + groups + listButtons + QStringList{u"Product"_s} + details;
+           dayparts + groups + listButtons + QStringList{u"Product"_s} + detailLabels;
 }
 
 QStringList timerBarEditorTexts(const QString &cabinet)
@@ -153,7 +142,7 @@ QMap<QString, QStringList> expectedTexts()
         {u"TimerColorPicker"_s, {}},
         {u"GroupEdit"_s, groupTexts},
         {u"DaypartEdit"_s, {u"Name"_s, u"Cancel"_s, u"Save"_s}},
-        {u"AssignDaypartItem"_s, details + select},
+        {u"AssignDaypartItem"_s, detailLabels + select},
         {u"MenuFile"_s, editorTexts(u"Cabinet: QHX KTR34, °F"_s)},
         {u"SvrxMenuFile"_s, laneTexts()},
         {u"TimerBarConfig"_s,
