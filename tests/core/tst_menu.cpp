@@ -216,11 +216,14 @@ void TestMenu::removeFromDayparts()
     Menu menu;
     menu.dayparts[0].bins[0] = {5, 6, 5, 0};
     menu.dayparts[1].bins[2] = {6, 6, 6, 5};
+    menu.dayparts[2].bins[0] = {-5, 0, 0, 0}; // files may hold any id
     QVERIFY(!menu.removeFromDayparts(7));
     QVERIFY(menu.removeFromDayparts(5));
     QVERIFY(menu.dayparts[0].bins[0] == (Row{0, 6, 0, 0}));
     QVERIFY(menu.dayparts[1].bins[2] == (Row{6, 6, 6, 0}));
     QVERIFY(!menu.removeFromDayparts(5));
+    QVERIFY(menu.removeFromDayparts(-5));
+    QCOMPARE(menu.dayparts[2].bins[0][0], emptyBin);
 }
 
 // A cabinet may be chosen that shows these places again.

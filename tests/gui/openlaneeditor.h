@@ -10,6 +10,7 @@
 
 #include "lanes/svrxmenufile.h"
 #include "tests/support/lanefile.h"
+#include "tests/support/require.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 
@@ -42,6 +43,12 @@ public:
     }
 
     [[nodiscard]] SvrxMenuFile &operator*() { return m_editor; }
+    /// Lets another program write the file, and reads it again.
+    void readAgain(const QByteArray &contents)
+    {
+        m_folder.make(QStringLiteral("a.txt"), lanefile::text(contents));
+        REQUIRE(m_editor.readMenuFile());
+    }
     [[nodiscard]] QSpinBox &temperature(int lane) { return temperatureBox(m_editor, lane); }
     [[nodiscard]] QSpinBox &fanSpeed(int lane) { return fanSpeedBox(m_editor, lane); }
     void chooseUnit(const char *button) { ui::click(m_editor, button); }

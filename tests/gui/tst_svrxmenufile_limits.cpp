@@ -34,6 +34,7 @@ private slots:
     void shownLimitCanBeTyped();
     void shownLimitCanBeTypedInCelsius();
     void nothingIsStoredWithoutTyping();
+    void whatWasTypedIsStoredOnce();
     void typingTheShownTemperatureKeepsTheStoredOne();
     void notesFollowTheUnit();
     void notesFollowTheLaneCount();
@@ -244,6 +245,18 @@ void TestSvrxMenuFileLimits::nothingIsStoredWithoutTyping()
     }
     QCOMPARE(editor.saved(), contents);
     QCOMPARE(editor.temperatureNote(1), u"file holds 1"_s);
+}
+
+void TestSvrxMenuFileLimits::whatWasTypedIsStoredOnce()
+{
+    OpenLaneEditor editor("T1=149,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0");
+    ui::type(editor.temperature(1), u"150"_s);
+    QTest::keyClick(&editor.temperature(1), Qt::Key_Return);
+    const QByteArray later = "T1=1,T2=0,T3=0,T4=0,F1=1500,F2=0,F3=0,F4=0";
+    editor.readAgain(later);
+    QTest::keyClick(&editor.temperature(1), Qt::Key_Return);
+    QCOMPARE(editor.temperatureNote(1), u"file holds 1"_s);
+    QCOMPARE(editor.saved(), later);
 }
 
 // 375 and 376 °F are both shown as 191 °C, and 191 °C is 376 °F.
