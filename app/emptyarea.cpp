@@ -9,8 +9,6 @@
 #include <QMdiArea>
 #include <QPainter>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct Text
@@ -22,13 +20,13 @@ constexpr int iconSize = 64; // in pixels
 constexpr int gap = 16;
 constexpr QColor textColor(0x20, 0x20, 0x20); // on the area's grey, which no palette changes
 
-void paintHowToBegin(QPainter &painter, const QRect &area)
+void paintHowToBegin(QPainter &painter, const QRect &area, const QIcon &windowIcon)
 {
     const QString text = Text::tr("File > New starts a menu, File > Open opens one");
     QRect place(0, 0, area.width(), iconSize + gap + 2 * painter.fontMetrics().lineSpacing());
     place.moveCenter(area.center());
     const QRect icon(place.center().x() - iconSize / 2, place.top(), iconSize, iconSize);
-    QIcon(u":/myapp.ico"_s).paint(&painter, icon);
+    windowIcon.paint(&painter, icon);
     painter.setPen(textColor);
     painter.drawText(place.adjusted(gap, iconSize + gap, -gap, 0),
                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);
@@ -55,7 +53,7 @@ public:
             return false;
         QPainter painter(viewport);
         painter.fillRect(viewport->rect(), m_area->background());
-        paintHowToBegin(painter, viewport->rect());
+        paintHowToBegin(painter, viewport->rect(), m_area->window()->windowIcon());
         return true;
     }
 

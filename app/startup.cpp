@@ -10,20 +10,18 @@
 
 #include "app/mainwindow.h"
 #include "app/translation.h"
+#include "widgets/plainfont.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 // Whenever a menu becomes active, Qt measures the titles of all open menus. Without kerning that takes a
-// sixth of the time; scripts that need shaping are still shaped.
+// sixth of the time.
 void layOutTitlesPlainly()
 {
     constexpr auto titleBar = "QMdiSubWindowTitleBar";
-    QFont font = QApplication::font(titleBar);
-    font.setStyleStrategy(QFont::PreferNoShaping);
-    font.setKerning(false);
-    QApplication::setFont(font, titleBar);
+    QApplication::setFont(plainFont(QApplication::font(titleBar)), titleBar);
 }
 
 // A limit on the size of files would end the program, and with it every open menu, instead of failing the

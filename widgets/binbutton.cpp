@@ -8,6 +8,7 @@
 #include <QTextLayout>
 
 #include "widgets/longtext.h"
+#include "widgets/plainfont.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,15 +27,6 @@ constexpr QColor hatchColor(0x90, 0x90, 0x90);
 int lineStep(const QFontMetrics &metrics)
 {
     return metrics.ascent() + metrics.descent() / 4;
-}
-
-// A font that is not kerned needs no shaping, which is most of painting a bin; scripts that need it are still
-// shaped.
-QFont plain(QFont font)
-{
-    font.setKerning(false);
-    font.setStyleStrategy(QFont::PreferNoShaping);
-    return font;
 }
 
 QFont smaller(QFont font)
@@ -105,7 +97,7 @@ void paintFocus(QPainter &painter, const QRect &bin)
 } // namespace
 
 BinFonts::BinFonts(const QFont &font)
-    : name(plain(font))
+    : name(plainFont(font))
     , details(smaller(name))
     , nameMetrics(name)
     , detailsMetrics(details)

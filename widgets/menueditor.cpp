@@ -16,6 +16,7 @@
 
 #include "model/files.h"
 #include "widgets/messages.h"
+#include "widgets/plainfont.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +28,10 @@ QString askSaveName(QWidget *parent, const SaveNameRequest &request)
 MenuEditor::MenuEditor(const QString &filePath, QWidget *parent)
     : QDialog(parent)
     , m_filePath(filePath)
-{}
+{
+    // An editor has a hundred texts, which are measured when it opens and painted when the day part changes.
+    setFont(plainFont({}));
+}
 
 bool MenuEditor::save()
 {
