@@ -44,6 +44,19 @@ QImage grabScreenAtRest()
     return atRest ? image : QImage();
 }
 
+// Of the whole screen, when the foremost window is ready.
+QImage grabReadyScreen()
+{
+    REQUIRE(QTest::qWaitFor([] { return foremostWindow() != nullptr; }),
+            u"No window became active: is there a window manager?"_s);
+    QWidget *front = foremostWindow();
+    REQUIRE(QTest::qWaitForWindowExposed(front));
+    REQUIRE(front->windowType() == Qt::Popup || QTest::qWaitForWindowActive(front));
+    const QImage image = grabScreenAtRest();
+    REQUIRE(!image.isNull(), u"The screen does not come to rest"_s);
+    return image;
+}
+
 } // namespace
 
 Album::Album(const QString &folder)
@@ -57,13 +70,18 @@ Album::Album(const QString &folder)
 
 void Album::shot(const QString &name)
 {
-    REQUIRE(QTest::qWaitFor([] { return foremostWindow() != nullptr; }),
-            u"No window became active: is there a window manager?"_s);
-    QWidget *front = foremostWindow();
-    REQUIRE(QTest::qWaitForWindowExposed(front));
-    REQUIRE(front->windowType() == Qt::Popup || QTest::qWaitForWindowActive(front));
-    const QImage image = grabScreenAtRest();
-    REQUIRE(!image.isNull(), u"The screen does not come to rest"_s);
+    const QImage image = grabReadyScreen();
     const QString path = filePath(u"%1-%2.png"_s.arg(++m_count, 2, 10, '0'_L1).arg(name));
     REQUIRE(image.save(path), path);
+}
+
+void Album::document(const QString &name, const QWidget &window)
+{
+    const QImage screen = grabReadyScreen();
+    QRect frame = window.frameGeometry();
+    if (!window.isWindow())
+        frame.moveTopLeft(window.mapToGlobal(QPoint()));
+    m_folder.mkpath(u"guide"_s);
+    const QString path = filePath(u"guide/%1.png"_s.arg(name));
+    REQUIRE(screen.copy(frame).save(path), path);
 }

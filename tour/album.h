@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QString>
 
+class QWidget;
+
 /// The folder that the tour leaves its pictures and files in.
 class Album
 {
@@ -20,6 +22,8 @@ public:
     /// until the foremost window is active and the screen has come to rest; fails the running step where that
     /// does not happen.
     void shot(const QString &name);
+    /// Saves a window of the program with its frame as "guide/lanes.png", in the same way.
+    void document(const QString &name, const QWidget &window);
 
 private:
     QDir m_folder;

@@ -27,6 +27,7 @@ protected:
     [[nodiscard]] MainWindow &window() const { return m_window; }
     [[nodiscard]] QString filePath(const QString &name) const { return m_album.filePath(name); }
     void shot(const QString &name) { m_album.shot(name); }
+    void document(const QString &name, const QWidget &of) { m_album.document(name, of); }
 
     /// Answers of a step that are pictured when they are given.
     class Answers : public ModalAnswers
@@ -55,8 +56,10 @@ protected:
     /// The bytes of a file; one that cannot be read ends the tour.
     [[nodiscard]] static QByteArray contents(const QString &path);
 
-private slots:
+protected slots:
     void init();
+
+private slots:
     void cleanup();
 
 private:

@@ -11,6 +11,7 @@
 #include "app/mainwindow.h"
 #include "app/startup.h"
 #include "tour/grid.h"
+#include "tour/guide.h"
 #include "tour/holding.h"
 #include "tour/lanes.h"
 #include "tour/shell.h"
@@ -33,7 +34,9 @@ bool runChapters(MainWindow &window, Album &album)
     GridChapter grid(window, album);
     TimerBarChapter timerBar(window, album);
     LanesChapter lanes(window, album);
-    for (Chapter *chapter : std::initializer_list<Chapter *>{&shell, &holding, &grid, &timerBar, &lanes}) {
+    GuideChapter guide(window, album);
+    for (Chapter *chapter :
+         std::initializer_list<Chapter *>{&shell, &holding, &grid, &timerBar, &lanes, &guide}) {
         if (QTest::qExec(chapter, {u"tour"_s, u"-nocrashhandler"_s}) != 0)
             return false;
     }
