@@ -162,7 +162,6 @@ class Test:
     command: list[str]
     folder: str
     environment: dict[str, str]
-    is_core: bool
     libraries: set[str]
     seconds: float = 0
 
@@ -196,7 +195,7 @@ def all_tests():
         properties = {entry["name"]: entry["value"] for entry in test["properties"]}
         environment = dict(entry.split("=", 1) for entry in properties["ENVIRONMENT"])
         tests.append(Test(test["name"], test["command"], properties["WORKING_DIRECTORY"], environment,
-                          "core" in properties["LABELS"], libraries_of(test["command"][0])))
+                          libraries_of(test["command"][0])))
     return tests
 
 
@@ -279,7 +278,7 @@ def libraries_seeing(file):
 
 
 def tests_for(fault, tests, results):
-    """The tests that can see a fault, those that are likely to notice it first."""
+    """The tests that can see a fault: first those that are likely to notice it for the time that they take."""
     libraries = libraries_seeing(fault.file)
     of_file = results.killers(fault.file + "\t")
     of_folder = results.killers(fault.file.split("/")[0] + "/")
@@ -289,7 +288,7 @@ def tests_for(fault, tests, results):
     def promise(test):
         return likeness(test, fault.file) + of_file[test.name] + 2 * of_folder[test.name] / max(1, of_folder.total())
 
-    return sorted(seeing, key=lambda t: (t.name != before, -promise(t), not t.is_core, t.seconds))
+    return sorted(seeing, key=lambda t: (t.name != before, (0.2 + t.seconds) / (0.2 + promise(t))))
 
 
 def judge(fault, tests, results, jobs):
