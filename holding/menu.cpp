@@ -4,6 +4,7 @@
 #include "holding/menu.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -67,11 +68,9 @@ bool Menu::removeFromDayparts(int id)
     return removed;
 }
 
-void Menu::addDaypart(const QStringList &names)
+void Menu::addDaypart(Daypart daypart)
 {
-    Daypart &daypart = dayparts[daypartCount++];
-    daypart = {};
-    daypart.names = names;
+    dayparts[daypartCount++] = std::move(daypart);
 }
 
 void Menu::removeDaypart(int index)

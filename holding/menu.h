@@ -55,9 +55,8 @@ struct Menu
     /// Empties every bin with this id, in vacant day parts and beyond the cabinet's shape too. True when any
     /// bin had it.
     bool removeFromDayparts(int id);
-    /// Takes the next vacant place, of which there must be one: no bin filled, and not in use until the user
-    /// says so.
-    void addDaypart(const QStringList &names);
+    /// Takes the next vacant place, of which there must be one.
+    void addDaypart(Daypart daypart);
     /// Moves the later day parts down; the place that becomes vacant is as if it had never been used.
     void removeDaypart(int index);
     /// Empties every bin of every day part; names and in-use flags stay.

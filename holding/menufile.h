@@ -138,6 +138,9 @@ private:
     void prepareGrid();
     void showRemovalMode(bool removing);
     void loadDaypartSelector();
+    void duplicateDaypart();
+    /// Asks for the name; the day part takes the next vacant place and becomes the current one.
+    void addDaypart(holding::Daypart daypart);
     void showRow(const holding::Daypart &daypart, int row);
     [[nodiscard]] holding::Daypart *currentDaypart();  ///< null while there is none
     [[nodiscard]] ProductInfo *currentProduct() const; ///< null for none

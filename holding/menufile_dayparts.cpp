@@ -10,7 +10,6 @@
 
 #include "holding/assigndaypartitem.h"
 #include "holding/binbuttons.h"
-#include "holding/daypartedit.h"
 #include "holding/rowlook.h"
 #include "model/times.h"
 #include "ui_menufile.h"
@@ -127,6 +126,7 @@ void MenuFile::prepareGrid()
             m_ui->frameGrid->setStyleSheet(binButtonStyle());
     });
     showRemovalMode(false);
+    connect(m_ui->btnDuplicateDaypart, &QPushButton::clicked, this, &MenuFile::duplicateDaypart);
     connect(&m_grid, &BinGrid::holdDetected, this, &MenuFile::dayPartPressHoldDetected);
     connect(&m_grid, &BinGrid::removalModeChanged, this,
             [this](bool removing) { showRemovalMode(removing); });
@@ -137,7 +137,8 @@ void MenuFile::showRemovalMode(bool removing)
     const bool hadFocus = m_ui->btnDaypartRemove->hasFocus() || m_ui->btnCancelDaypartRemove->hasFocus();
     for (QWidget *widget : {m_ui->btnDaypartRemove, m_ui->btnCancelDaypartRemove})
         widget->setVisible(removing);
-    for (QWidget *widget : {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDeleteDaypart})
+    for (QWidget *widget :
+         {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDuplicateDaypart, m_ui->btnDeleteDaypart})
         widget->setHidden(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
     m_ui->checkBoxDaypartInUse->setDisabled(removing);
@@ -170,15 +171,6 @@ void MenuFile::loadDayparts()
     loadCurrentDaypart();
 }
 
-void MenuFile::loadDaypartSelector()
-{
-    const QSignalBlocker blocker(m_ui->comboDaypartSelect);
-    m_ui->comboDaypartSelect->clear();
-    for (int i = 0; i < m_menu.daypartCount; ++i)
-        m_ui->comboDaypartSelect->addItem(beginningOf(shownName(m_menu.dayparts[i].names)));
-    m_ui->btnDeleteDaypart->setEnabled(m_menu.daypartCount > 1);
-}
-
 void MenuFile::loadCurrentDaypart()
 {
     m_grid.leaveRemovalMode();
@@ -191,6 +183,7 @@ void MenuFile::loadCurrentDaypart()
     }
     m_ui->checkBoxDaypartInUse->setEnabled(current);
     m_ui->btnEditDaypart->setEnabled(current);
+    m_ui->btnDuplicateDaypart->setEnabled(current);
     for (int row = 0; row < m_shape.rows; ++row)
         showRow(daypart, row);
 }
@@ -275,53 +268,4 @@ void MenuFile::on_btnCancelDaypartRemove_clicked()
 void MenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]] int index)
 {
     loadCurrentDaypart();
-}
-
-void MenuFile::on_btnDeleteDaypart_clicked()
-{
-    const int index = m_ui->comboDaypartSelect->currentIndex();
-    if (index < 0 || !messages::confirmDelete(this, tr("Delete selected daypart?")))
-        return;
-    m_menu.removeDaypart(index);
-    loadDayparts();
-    noteChange();
-}
-
-void MenuFile::on_btnEditDaypart_clicked()
-{
-    holding::Daypart *daypart = currentDaypart();
-    if (!daypart)
-        return;
-    DaypartEdit dialog(daypart->names, this);
-    if (dialog.exec() != Accepted)
-        return;
-    daypart->names = dialog.names();
-    m_ui->comboDaypartSelect->setItemText(m_ui->comboDaypartSelect->currentIndex(),
-                                          beginningOf(shownName(daypart->names)));
-    loadCurrentDaypart();
-    noteChange();
-}
-
-void MenuFile::on_btnAddDaypart_clicked()
-{
-    if (m_menu.daypartCount >= holding::maxDayparts) {
-        messages::refusal(this, tr("Cannot add dayparts. Maximum dayparts reached!"));
-        return;
-    }
-    DaypartEdit dialog(sameNameInAllLanguages({}), this);
-    if (dialog.exec() != Accepted)
-        return;
-    m_menu.addDaypart(dialog.names());
-    loadDaypartSelector();
-    const QSignalBlocker blocker(m_ui->comboDaypartSelect);
-    m_ui->comboDaypartSelect->setCurrentIndex(m_menu.daypartCount - 1);
-    loadCurrentDaypart();
-    noteChange();
-}
-
-void MenuFile::on_checkBoxDaypartInUse_stateChanged(int arg1)
-{
-    if (holding::Daypart *daypart = currentDaypart())
-        daypart->inUse = arg1 == Qt::Checked;
-    noteChange();
 }

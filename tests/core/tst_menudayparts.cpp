@@ -19,6 +19,7 @@ private slots:
     void init() { failOnWarnings(); }
     void addedOneIsEmptyAndNotInUse();
     void addedOneForgetsWhatWasThere();
+    void addedCopyHasEverything();
     void addUpToTheLast();
     void addTheFirst();
     void removeMovesTheLaterOnes_data();
@@ -38,6 +39,13 @@ Daypart marked(int mark)
     for (auto &row : daypart.bins)
         row = {mark, mark, mark, mark};
     daypart.bins[7][3] = -mark;
+    return daypart;
+}
+
+Daypart named(const QStringList &names)
+{
+    Daypart daypart;
+    daypart.names = names;
     return daypart;
 }
 
@@ -72,29 +80,34 @@ void TestMenuDayparts::addedOneIsEmptyAndNotInUse()
 {
     Menu menu = menuOf(2);
     const QStringList names{u"Brunch"_s, u"Almuerzo"_s};
-    menu.addDaypart(names);
+    menu.addDaypart(named(names));
     QCOMPARE(menu.daypartCount, 3);
     compare(menu.dayparts[0], marked(1));
     compare(menu.dayparts[1], marked(2));
-    Daypart expected;
-    expected.names = names;
-    compare(menu.dayparts[2], expected);
+    compare(menu.dayparts[2], named(names));
 }
 
 void TestMenuDayparts::addedOneForgetsWhatWasThere()
 {
     Menu menu = menuOf(3);
     menu.daypartCount = 2;
-    menu.addDaypart({u"Brunch"_s});
+    menu.addDaypart(named({u"Brunch"_s}));
     QVERIFY(!menu.dayparts[2].inUse);
     QVERIFY(menu.dayparts[2].bins == Daypart().bins);
     QCOMPARE(menu.dayparts[2].names, QStringList{u"Brunch"_s});
 }
 
+void TestMenuDayparts::addedCopyHasEverything()
+{
+    Menu menu = menuOf(3);
+    menu.addDaypart(menu.dayparts[1]);
+    compareAll(menu, {1, 2, 3, 2});
+}
+
 void TestMenuDayparts::addUpToTheLast()
 {
     Menu menu = menuOf(9);
-    menu.addDaypart({u"Last"_s});
+    menu.addDaypart(named({u"Last"_s}));
     QCOMPARE(menu.daypartCount, 10);
     QCOMPARE(menu.dayparts[9].names, QStringList{u"Last"_s});
     compare(menu.dayparts[8], marked(9));
@@ -103,7 +116,7 @@ void TestMenuDayparts::addUpToTheLast()
 void TestMenuDayparts::addTheFirst()
 {
     Menu menu = menuOf(0);
-    menu.addDaypart({u"Only"_s});
+    menu.addDaypart(named({u"Only"_s}));
     QCOMPARE(menu.daypartCount, 1);
     QCOMPARE(menu.dayparts[0].names, QStringList{u"Only"_s});
 }
@@ -148,7 +161,7 @@ void TestMenuDayparts::removeOfTenResetsTheLast()
     menu.removeDaypart(0);
     compare(menu.dayparts[8], marked(10));
     compare(menu.dayparts[9], Daypart());
-    menu.addDaypart({u"Again"_s});
+    menu.addDaypart(named({u"Again"_s}));
     QCOMPARE(menu.daypartCount, 10);
     QVERIFY(menu.dayparts[9].bins == Daypart().bins);
 }

@@ -50,7 +50,7 @@ void checkNormalMode(HoldBins &editor)
 {
     REQUIRE(!editor.isRemoving());
     REQUIRE(!editor.widget("btnCancelDaypartRemove").isVisible());
-    for (const char *name : {"btnAddDaypart", "btnEditDaypart", "btnDeleteDaypart"})
+    for (const char *name : {"btnAddDaypart", "btnEditDaypart", "btnDuplicateDaypart", "btnDeleteDaypart"})
         REQUIRE(editor.widget(name).isVisible());
     REQUIRE(editor.selector().isEnabled() && editor.widget("checkBoxDaypartInUse").isEnabled());
     for (QPushButton *bin : editor.widget("frameGrid").findChildren<QPushButton *>())
@@ -72,7 +72,7 @@ void TestDaypartRemoval::whatTheModeShows()
     QCOMPARE(hint.text(), u"Click a bin to assign it. Hold a filled bin to clear bins."_s);
     enterRemoval(editor, 0, 2);
     QVERIFY(editor.widget("btnCancelDaypartRemove").isVisible());
-    for (const char *name : {"btnAddDaypart", "btnEditDaypart", "btnDeleteDaypart"})
+    for (const char *name : {"btnAddDaypart", "btnEditDaypart", "btnDuplicateDaypart", "btnDeleteDaypart"})
         QVERIFY(!editor.widget(name).isVisible());
     QVERIFY(!editor.selector().isEnabled() && !editor.widget("checkBoxDaypartInUse").isEnabled());
     QCOMPARE(hint.text(), u"Choose the bins to clear, then press Remove."_s);

@@ -28,6 +28,8 @@ private slots:
     void add();
     void addNeedsAName();
     void addUpToTen();
+    void duplicate();
+    void duplicateUpToTen();
     void edit();
     void editNeedsAName();
     void cancelChangesNothing_data();
@@ -198,6 +200,32 @@ void TestDayparts::addUpToTen()
     QCOMPARE(savedLayout(editor).size(), 10);
 }
 
+void TestDayparts::duplicate()
+{
+    OpenBins editor(menuWith(3));
+    ModalAnswers answers;
+    expectName(answers, u"P1"_s, u"Sunday"_s);
+    ui::click(*editor, "btnDuplicateDaypart");
+    QCOMPARE(editor.dayparts(), u"P1 P2 P3 Sunday*"_s);
+    QVERIFY(inUseBox(editor).isChecked());
+    QCOMPARE(editor.button(1, 1).text(), u"Third"_s);
+    QJsonArray expected = menuWith(3).layout;
+    QJsonObject copy = expected.at(0).toObject();
+    copy.insert(u"daypartName"_s, samplefile::names(u"Sunday"_s));
+    expected.append(copy);
+    QCOMPARE(savedLayout(editor), expected);
+}
+
+void TestDayparts::duplicateUpToTen()
+{
+    OpenBins editor(menuWith(10));
+    ModalAnswers answers;
+    answers.expectBox(ModalAnswers::refusal(u"Cannot add dayparts. Maximum dayparts reached!"_s),
+                      QMessageBox::Close);
+    ui::click(*editor, "btnDuplicateDaypart");
+    QCOMPARE(savedLayout(editor), menuWith(10).layout);
+}
+
 void TestDayparts::edit()
 {
     OpenBins editor(menuWith(3));
@@ -234,6 +262,8 @@ void TestDayparts::cancelChangesNothing_data()
     QTest::addColumn<bool>("escape");
     QTest::newRow("Add, Cancel") << QByteArray("btnAddDaypart") << false;
     QTest::newRow("Add, Escape") << QByteArray("btnAddDaypart") << true;
+    QTest::newRow("Duplicate, Cancel") << QByteArray("btnDuplicateDaypart") << false;
+    QTest::newRow("Duplicate, Escape") << QByteArray("btnDuplicateDaypart") << true;
     QTest::newRow("Edit, Cancel") << QByteArray("btnEditDaypart") << false;
     QTest::newRow("Edit, Escape") << QByteArray("btnEditDaypart") << true;
 }
@@ -315,6 +345,7 @@ void TestDayparts::menuWithoutDayparts()
     const ModalAnswers answers;
     QVERIFY(editor.dayparts().isEmpty());
     QVERIFY(!editor.widget("btnDeleteDaypart").isEnabled());
+    QVERIFY(!editor.widget("btnDuplicateDaypart").isEnabled());
     QVERIFY(!inUseBox(editor).isChecked());
     editor->on_btnEditDaypart_clicked();
     editor->on_btnDeleteDaypart_clicked();

@@ -145,11 +145,12 @@ void TestOwners::ofAHoldingMenu()
     clickEach(program, escaped, {"btnAddGroup", "btnEditGroup", "btnDuplicateGroup", "btnDeleteGroup"});
     showTab(program, 2);
     clickEach(program, escaped,
-              {"btnAddDaypart", "btnEditDaypart", "btnDeleteDaypart", "btnDaypartSelect0_1"});
+              {"btnAddDaypart", "btnEditDaypart", "btnDuplicateDaypart", "btnDeleteDaypart",
+               "btnDaypartSelect0_1"});
     QStringList expected{u"Configuration, Configuration"_s};
     expected += QStringList(3, u"ProductEdit, Product Edit"_s) + QStringList{u"QMessageBox, Delete"_s};
     expected += QStringList(3, u"GroupEdit, Group Edit"_s) + QStringList{u"QMessageBox, Delete"_s};
-    expected += QStringList(2, u"DaypartEdit, Edit Day Part"_s) +
+    expected += QStringList(3, u"DaypartEdit, Edit Day Part"_s) +
                 QStringList{u"QMessageBox, Delete"_s, u"AssignDaypartItem, Assign Product/Group"_s};
     for (QString &dialog : expected)
         dialog += u", of MenuFile"_s;

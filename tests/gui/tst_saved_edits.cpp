@@ -128,6 +128,10 @@ void addDaypartRows()
         showTab(program, 2);
         rename(program, "btnAddDaypart", "txtName", u"Another"_s);
     });
+    QTest::newRow("holding: duplicate a day part") << Line::Holding << Act([](Program &program) {
+        showTab(program, 2);
+        rename(program, "btnDuplicateDaypart", "txtName", u"Another"_s);
+    });
     QTest::newRow("holding: rename a day part") << Line::Holding << Act([](Program &program) {
         showTab(program, 2);
         rename(program, "btnEditDaypart", "txtName", u"Another"_s);

@@ -77,8 +77,9 @@ QStringList laneTexts()
 // Later pages of the tabs were made first.
 QStringList editorTexts(const QString &cabinet)
 {
-    const QStringList dayparts{u"Day Part"_s, u"In Use"_s, u"Add"_s,    u"Edit"_s,   u"Delete"_s,
-                               u"Remove"_s,   u"Cancel"_s, daypartHint, u"Zone 1"_s, u"Zone 2"_s};
+    const QStringList dayparts{u"Day Part"_s,  u"In Use"_s, u"Add"_s,    u"Edit"_s,
+                               u"Duplicate"_s, u"Delete"_s, u"Remove"_s, u"Cancel"_s,
+                               daypartHint,    u"Zone 1"_s, u"Zone 2"_s};
     const QStringList groups = listButtons + QStringList{u"Products:"_s, u"Group"_s} + detailLabels;
     return QStringList{cabinet, u"Configuration"_s, u"Close"_s, u"Products"_s, u"Groups"_s, u"Day Parts"_s} +
            dayparts + groups + listButtons + QStringList{u"Product"_s} + detailLabels;

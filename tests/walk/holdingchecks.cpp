@@ -160,6 +160,8 @@ void checkShown(MenuFile &editor, const Journal &journal)
     journal.check(dayparts <= holding::maxDayparts, u"There are %1 day parts"_s.arg(dayparts));
     journal.check(ui::get<QPushButton>(editor, "btnDeleteDaypart").isEnabled() == (dayparts > 1),
                   u"Deleting day parts has the wrong state"_s);
+    journal.check(ui::get<QPushButton>(editor, "btnDuplicateDaypart").isEnabled() == (dayparts > 0),
+                  u"Duplicating day parts has the wrong state"_s);
     journal.check(ui::get<QPushButton>(editor, "btnEditDaypart").isEnabled() == (dayparts > 0),
                   u"Editing day parts has the wrong state"_s);
 }
