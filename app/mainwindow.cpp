@@ -10,9 +10,11 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMdiSubWindow>
+#include <QScreen>
 
 #include "app/aboutapp.h"
 #include "app/emptyarea.h"
+#include "app/focusinsight.h"
 #include "app/selectproductline.h"
 #include "ui_mainwindow.h"
 #include "widgets/longtext.h"
@@ -21,14 +23,23 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int titleRoom = 32; // roughly what a window manager puts above a window
+
+} // namespace
+
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
 {
     m_ui->setupUi(this);
+    // On a screen that is too low for its least size the status bar would lie below the edge.
+    setMinimumSize(minimumSize().boundedTo(screen()->availableSize() - QSize(0, titleRoom)));
     setCentralWidget(m_ui->mdiArea);
     setWindowIcon(QIcon(u":/myapp.ico"_s));
     showHowToBegin(m_ui->mdiArea);
+//    keepFocusInSight(m_ui->mdiArea);
     connect(m_ui->menuFile, &QMenu::aboutToShow, this, &MainWindow::updateMenuItems);
     prepareStatusBar();
 }

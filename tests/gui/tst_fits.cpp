@@ -9,11 +9,11 @@
 #include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTemporaryFile>
 #include <QTest>
 
 #include "tests/support/everywindow.h"
 #include "tests/support/require.h"
+#include "tests/support/screens.h"
 #include "tests/support/shownwidgets.h"
 #include "tests/support/warnings.h"
 #include "widgets/menueditor.h"
@@ -30,7 +30,7 @@ struct Screen
     QList<qreal> fonts; ///< 0 is the default font
 };
 
-const QList<Screen> &screens()
+const QList<Screen> &testedScreens()
 {
     static const QList<Screen> all{{"910 x 512", {910, 512}, {0}},
                                    {"1093 x 614", {1093, 614}, {0}},
@@ -240,35 +240,15 @@ void TestFits::middleScrolls()
         QVERIFY(!scrolls(*button) && window.rect().contains(placeIn(window, *button)));
 }
 
-namespace {
-
-QByteArray screenDescription(const QSize &size)
-{
-    return u"{\"screens\": [{\"name\": \"screen\", \"x\": 0, \"y\": 0, \"width\": %1, \"height\": %2, "
-           "\"logicalDpi\": 96, \"logicalBaseDpi\": 96, \"dpr\": 1}]}"_s.arg(size.width())
-               .arg(size.height())
-               .toUtf8();
-}
-
-// The size of a screen is settled with the application.
-int runOn(const Screen &screen, int argc, char *argv[])
-{
-    QTemporaryFile description;
-    if (!description.open() || description.write(screenDescription(screen.size)) < 0 || !description.flush())
-        return 1;
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toLocal8Bit());
-    const QApplication application(argc, argv);
-    TestFits test(screen);
-    return QTest::qExec(&test, argc, argv);
-}
-
-} // namespace
-
 int main(int argc, char *argv[])
 {
     int failures = 0;
-    for (const Screen &screen : screens())
-        failures += runOn(screen, argc, argv);
+    for (const Screen &screen : testedScreens()) {
+        failures += screens::run(screen.size, argc, argv, [&] {
+            TestFits test(screen);
+            return QTest::qExec(&test, argc, argv);
+        });
+    }
     return failures;
 }
 
