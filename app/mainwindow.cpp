@@ -39,7 +39,7 @@ MainWindow::MainWindow(QWidget *parent)
     setCentralWidget(m_ui->mdiArea);
     setWindowIcon(QIcon(u":/myapp.ico"_s));
     showHowToBegin(m_ui->mdiArea);
-//    keepFocusInSight(m_ui->mdiArea);
+    keepFocusInSight(m_ui->mdiArea);
     connect(m_ui->menuFile, &QMenu::aboutToShow, this, &MainWindow::updateMenuItems);
     prepareStatusBar();
 }

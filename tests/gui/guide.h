@@ -5,6 +5,7 @@
 
 #include <functional>
 
+#include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
 #include <QListWidget>
@@ -105,6 +106,15 @@ public:
     {
         saveUnder(name);
         return m_program.content(name);
+    }
+
+    /// File > Exit, which ends the program's event loop.
+    void leave()
+    {
+        QMetaObject::invokeMethod(
+            qApp, [] { keyboard::menu(Qt::Key_F, Qt::Key_X); }, Qt::QueuedConnection);
+        QApplication::exec();
+        REQUIRE(m_program.window().isHidden());
     }
 
 private:

@@ -7,22 +7,11 @@
 #include "holding/groupedit.h"
 #include "holding/productedit.h"
 #include "holding/timercolorpicker.h"
-#include "tests/gui/guide.h"
-#include "tests/gui/openbins.h"
+#include "tests/gui/guidemenu.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QJsonObject objectOf(const QByteArray &file, const QString &key)
-{
-    return QJsonDocument::fromJson(file).object().value(key).toObject();
-}
-
-QJsonObject savedMenu(Guide &guide)
-{
-    return objectOf(guide.saved(u"saved.json"_s), u"menu"_s);
-}
 
 QStringList namesIn(const QJsonObject &menu, const QString &list, const QString &nameKey)
 {
@@ -35,20 +24,12 @@ QStringList namesIn(const QJsonObject &menu, const QString &list, const QString 
 
 QStringList savedProducts(Guide &guide)
 {
-    return namesIn(savedMenu(guide), u"products"_s, u"productName"_s);
+    return namesIn(guide::savedMenu(guide), u"products"_s, u"productName"_s);
 }
 
 QStringList savedGroups(Guide &guide)
 {
-    return namesIn(savedMenu(guide), u"productGroups"_s, u"groupName"_s);
-}
-
-// On the cabinet with the most rows of bins: its editor is the highest.
-void openMenu(Guide &guide, const QJsonObject &header = {})
-{
-    samplefile::Menu menu = bins::menuOf(u"KTR82"_s, {2, 2});
-    menu.header = bins::headerOf(u"KTR82"_s, header);
-    guide.open(u"menu.json"_s, menu.bytes());
+    return namesIn(guide::savedMenu(guide), u"productGroups"_s, u"groupName"_s);
 }
 
 void expectDelete(Guide &guide, const QString &question)
@@ -102,14 +83,14 @@ void TestGuideHolding::menuIsStarted()
     const QByteArray saved = guide.saved(u"menu.json"_s);
     QJsonObject changes = allSwitches;
     changes.insert(u"temperatureUnit"_s, 1);
-    QCOMPARE(objectOf(saved, u"header"_s), bins::headerOf(u"KTR82"_s, changes));
-    QCOMPARE(objectOf(saved, u"menu"_s).value(u"products"_s).toArray().size(), 30);
+    QCOMPARE(guide::objectOf(saved, u"header"_s), bins::headerOf(u"KTR82"_s, changes));
+    QCOMPARE(guide::objectOf(saved, u"menu"_s).value(u"products"_s).toArray().size(), 30);
 }
 
 void TestGuideHolding::cabinetIsChanged()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     guide.expect<Configuration>([] {
         keyboard::choose(u"comboUnitModel"_s, u"KTR33"_s);
         keyboard::press(Qt::Key_Return);
@@ -119,15 +100,15 @@ void TestGuideHolding::cabinetIsChanged()
                     QMessageBox::Ok);
     keyboard::pushButton(u"btnConfig"_s);
     const QByteArray saved = guide.saved(u"saved.json"_s);
-    QCOMPARE(objectOf(saved, u"header"_s), bins::headerOf(u"KTR33"_s));
-    QVERIFY(!samplefile::binsOf(objectOf(saved, u"menu"_s), 0).contains(2));
+    QCOMPARE(guide::objectOf(saved, u"header"_s), bins::headerOf(u"KTR33"_s));
+    QVERIFY(!samplefile::binsOf(guide::objectOf(saved, u"menu"_s), 0).contains(2));
 }
 
 // A new product keeps the id that the menu gives it.
 void TestGuideHolding::productIsAdded()
 {
     Guide guide;
-    openMenu(guide, allSwitches);
+    guide::openMenu(guide, allSwitches);
     guide.expect<ProductEdit>([] {
         keyboard::enter(u"numProductId"_s, u"42"_s);
         keyboard::enter(u"txtName"_s, u"Hash Browns"_s);
@@ -149,7 +130,7 @@ void TestGuideHolding::productIsAdded()
         keyboard::press(Qt::Key_Return);
     });
     keyboard::pushButton(u"btnAddProduct"_s);
-    const QJsonObject added = savedMenu(guide).value(u"products"_s).toArray().last().toObject();
+    const QJsonObject added = guide::savedMenu(guide).value(u"products"_s).toArray().last().toObject();
     QCOMPARE(added, samplefile::product(6, u"Hash Browns"_s,
                                         {{u"upperTemp"_s, 215},
                                          {u"lowerTemp"_s, 195},
@@ -167,7 +148,7 @@ void TestGuideHolding::productIsAdded()
 void TestGuideHolding::productIsEdited()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     keyboard::find(u"listWidgetProducts"_s, u"Half"_s);
     guide.expect<ProductEdit>([] {
         keyboard::enter(u"numTemp1"_s, u"215"_s);
@@ -176,7 +157,7 @@ void TestGuideHolding::productIsEdited()
     guide.expectBox(u"Warning"_s, u"Product has been removed from group(s) and daypart(s) assignemnts"_s,
                     QMessageBox::Ok);
     keyboard::press(Qt::Key_Return);
-    const QJsonObject menu = savedMenu(guide);
+    const QJsonObject menu = guide::savedMenu(guide);
     QCOMPARE(menu.value(u"products"_s).toArray().at(1)[u"upperTemp"_s].toInt(), 215);
     QVERIFY(!samplefile::binsOf(menu, 0).contains(2));
 }
@@ -184,7 +165,7 @@ void TestGuideHolding::productIsEdited()
 void TestGuideHolding::productIsDuplicatedAndDeleted()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     keyboard::find(u"listWidgetProducts"_s, u"Most"_s);
     guide.expect<ProductEdit>([] {
         keyboard::enter(u"txtName"_s, u"More"_s);
@@ -201,7 +182,7 @@ void TestGuideHolding::productIsDuplicatedAndDeleted()
 void TestGuideHolding::severalProductsAreDeleted()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     keyboard::pushButton(u"btnSelectMultiProduct"_s);
     keyboard::tabTo(u"listWidgetProducts"_s);
     keyboard::press(Qt::Key_Home);
@@ -216,7 +197,7 @@ void TestGuideHolding::severalProductsAreDeleted()
 void TestGuideHolding::selectionIsCancelled()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     const auto &button = guide.get<QAbstractButton>("btnSelectMultiProduct");
     for (const bool escaped : {false, true}) {
         keyboard::pushButton(u"btnSelectMultiProduct"_s);
@@ -236,7 +217,7 @@ void TestGuideHolding::selectionIsCancelled()
 void TestGuideHolding::wrongTimeIsCorrected()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     keyboard::find(u"listWidgetProducts"_s, u"Whole"_s);
     guide.expect<ProductEdit>([] {
         keyboard::enter(u"timeHoldTime"_s, u"0005"_s);
@@ -247,14 +228,14 @@ void TestGuideHolding::wrongTimeIsCorrected()
     guide.expectBox(u"Error"_s, u"Invalid hold time. Minimum value is 6 minutes!"_s, QMessageBox::Close);
     keyboard::press(Qt::Key_Return);
     QVERIFY(guide.allAnswered());
-    QCOMPARE(savedMenu(guide).value(u"products"_s).toArray().at(3)[u"holdingTime"_s].toInt(), 21600);
+    QCOMPARE(guide::savedMenu(guide).value(u"products"_s).toArray().at(3)[u"holdingTime"_s].toInt(), 21600);
 }
 
 // "Third" has another zone split and is taken by itself; the group is of "Half" and a copy of it.
 void TestGuideHolding::groupIsAdded()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     keyboard::find(u"listWidgetProducts"_s, u"Half"_s);
     guide.expect<ProductEdit>([] {
         keyboard::enter(u"txtName"_s, u"Other Half"_s);
@@ -274,14 +255,14 @@ void TestGuideHolding::groupIsAdded()
         keyboard::pushButton(u"btnSave"_s);
     });
     keyboard::pushButton(u"btnAddGroup"_s);
-    const QJsonObject group = savedMenu(guide).value(u"productGroups"_s).toArray().last().toObject();
+    const QJsonObject group = guide::savedMenu(guide).value(u"productGroups"_s).toArray().last().toObject();
     QCOMPARE(group, samplefile::group(7, u"Both"_s, {2, 6}, {{u"defaultProd"_s, 1}, {u"fanSpeed"_s, 0}}));
 }
 
 void TestGuideHolding::groupIsEdited()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     keyboard::showPage(u"Groups"_s);
     keyboard::find(u"listWidgetGroups"_s, u"Halves"_s);
     guide.expect<GroupEdit>([] {
@@ -294,7 +275,7 @@ void TestGuideHolding::groupIsEdited()
         keyboard::pushButton(u"btnSave"_s);
     });
     keyboard::press(Qt::Key_Return);
-    const QJsonObject group = savedMenu(guide).value(u"productGroups"_s).toArray().first().toObject();
+    const QJsonObject group = guide::savedMenu(guide).value(u"productGroups"_s).toArray().first().toObject();
     QCOMPARE(group,
              samplefile::group(5, u"Thirds"_s, {1}, {{u"zoneSplits"_s, u"1/3"_s}, {u"fanSpeed"_s, 0}}));
 }
@@ -302,7 +283,7 @@ void TestGuideHolding::groupIsEdited()
 void TestGuideHolding::groupsAreDuplicatedAndDeleted()
 {
     Guide guide;
-    openMenu(guide);
+    guide::openMenu(guide);
     keyboard::showPage(u"Groups"_s);
     for (const QString &name : {u"Second"_s, u"Last"_s}) {
         keyboard::find(u"listWidgetGroups"_s, u"Halves"_s);
