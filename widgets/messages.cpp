@@ -3,11 +3,14 @@
 
 #include "widgets/messages.h"
 
+#include <algorithm>
+
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QScreen>
 #include <QWindow>
 
@@ -37,15 +40,30 @@ void makeRoomForWords(QMessageBox &box)
                                 qMin(width, box.screen()->availableSize().width() / 2));
 }
 
+// Right after a file dialog was closed no window is active yet.
+const QWidget *windowBelow()
+{
+    if (const QWidget *active = QApplication::activeWindow())
+        return active->window();
+    if (const QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto isMain = [](QWidget *window) {
+        return window->isVisible() && qobject_cast<QMainWindow *>(window);
+    };
+    const auto main = std::find_if(windows.begin(), windows.end(), isMain);
+    return main == windows.end() ? nullptr : *main;
+}
+
 // Boxes of files have no parent. The window manager, which knows only native windows, is told what they are
 // about, so that they come up over it and stay there.
-int execOverActiveWindow(QMessageBox &box)
+int execOverWindow(QMessageBox &box)
 {
-    if (const QWidget *active = QApplication::activeWindow()) {
+    if (const QWidget *below = windowBelow()) {
         box.winId(); // makes the native window
-        box.windowHandle()->setTransientParent(active->window()->windowHandle());
+        box.windowHandle()->setTransientParent(below->windowHandle());
         box.adjustSize();
-        box.move(active->window()->frameGeometry().center() - box.rect().center());
+        box.move(below->frameGeometry().center() - box.rect().center());
     }
     return box.exec();
 }
@@ -61,7 +79,7 @@ void fileFault(const QString &message)
     box.setStandardButtons(QMessageBox::Ok);
     box.setStyleSheet(u"QLabel{min-width: 220px;}"_s);
     makeRoomForWords(box);
-    execOverActiveWindow(box);
+    execOverWindow(box);
 }
 
 void entryFault(QWidget *parent, const QString &message)
@@ -111,7 +129,7 @@ Answer askSaveChanges()
 {
     QMessageBox box(QMessageBox::Warning, Text::tr("Save..."), Text::tr("Save changes before exit?"),
                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-    return static_cast<Answer>(execOverActiveWindow(box));
+    return static_cast<Answer>(execOverWindow(box));
 }
 
 } // namespace messages

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QLabel>
-#include <QPushButton>
-#include <QTabWidget>
 
 #include "app/aboutapp.h"
 #include "holding/configuration.h"
@@ -64,7 +62,6 @@ private slots:
     void closedMenuIsSaved_data() { addLineRows(); }
     void closedMenuIsSaved();
     void menusAreChosen();
-    void pagesAreReachedFromEverywhere();
     void damagedFileIsRefused();
     void programIsLeft();
     void programSaysItsVersion();
@@ -160,34 +157,29 @@ void TestGuideMenus::closedMenuIsSaved()
     QVERIFY(!contentOf(guide.path(nameOf(line, u"a"_s))).isEmpty());
 }
 
-// Save acts on the one that is in front.
+// Ctrl+Tab goes back to the menu before; while Ctrl is held it goes through all of them.
 void TestGuideMenus::menusAreChosen()
 {
     Guide guide;
-    for (const Line line : allLines)
+    QList<QWidget *> opened;
+    for (const Line line : allLines) {
         open(guide, line, u"a"_s);
-    QWidget &last = guide.editor();
-    QSet<QWidget *> passed;
-    for (int i = 0; i < 3; ++i) {
-        passed.insert(&guide.editor());
-        QVERIFY(guide.editor().isAncestorOf(&keyboard::focused()));
-        keyboard::press(Qt::Key_F6, Qt::ControlModifier);
+        opened.append(&guide.editor());
     }
-    QCOMPARE(passed.size(), 3);
-    QCOMPARE(&guide.editor(), &last);
-    keyboard::press(Qt::Key_F6, Qt::ControlModifier | Qt::ShiftModifier);
-    QVERIFY(&guide.editor() != &last);
-}
-
-void TestGuideMenus::pagesAreReachedFromEverywhere()
-{
-    Guide guide;
-    open(guide, Line::Holding, u"a"_s);
-    const auto &tabs = guide.get<QTabWidget>("tabWidget");
-    for (int page = 1; page <= tabs.count(); ++page) {
-        keyboard::press(Qt::Key_PageDown, Qt::ControlModifier);
-        QCOMPARE(tabs.currentIndex(), page % tabs.count());
+    const auto requireInFront = [&](int menu) {
+        REQUIRE_EQUAL(&guide.editor(), opened[menu]);
+        REQUIRE(guide.editor().isAncestorOf(&keyboard::focused()));
+    };
+    for (const int menu : {1, 2}) {
+        keyboard::press(Qt::Key_Tab, Qt::ControlModifier);
+        requireInFront(menu);
     }
+    keyboard::pressWhileCtrlIsHeld(Qt::Key_Tab, 1);
+    requireInFront(0);
+    keyboard::pressWhileCtrlIsHeld(Qt::Key_Tab, 2);
+    requireInFront(2);
+    keyboard::pressWhileCtrlIsHeld(Qt::Key_Tab, 2);
+    requireInFront(1);
 }
 
 void TestGuideMenus::damagedFileIsRefused()

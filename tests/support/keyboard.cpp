@@ -141,6 +141,23 @@ void holdSpace(const std::function<bool()> &done)
     requireInSight();
 }
 
+void pressWhileCtrlIsHeld(Qt::Key key, int times)
+{
+    const auto send = [](bool down, Qt::Key sent) {
+        QTest::simulateEvent(window(), down, sent, Qt::ControlModifier, {}, false);
+    };
+    const int interval = QApplication::keyboardInputInterval();
+    QApplication::setKeyboardInputInterval(0);
+    send(true, Qt::Key_Control);
+    for (int i = 0; i < times; ++i) {
+        send(true, key);
+        send(false, key);
+    }
+    send(false, Qt::Key_Control);
+    QApplication::setKeyboardInputInterval(interval);
+    requireInSight();
+}
+
 void tabTo(const QString &name)
 {
     goTo(name, Qt::Key_Tab);

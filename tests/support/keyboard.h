@@ -24,6 +24,9 @@ void type(const QString &text);
 /// Holds Space down until `done` is true.
 void holdSpace(const std::function<bool()> &done);
 
+/// Holds Ctrl down for as long as a program may wait, presses the key so often, and lets Ctrl go.
+void pressWhileCtrlIsHeld(Qt::Key key, int times);
+
 /// Presses Tab until the widget of this name has the focus; a full round without it ends the test program.
 void tabTo(const QString &name);
 /// The same by Shift+Tab.
