@@ -57,7 +57,8 @@ private:
     // After what is going on: a sub-window that has just come has no place yet.
     void showSoon()
     {
-        QMetaObject::invokeMethod(this, [this] { show(QApplication::focusWidget()); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { show(QApplication::focusWidget()); }, Qt::QueuedConnection);
     }
 
     void show(const QWidget *focus) const

@@ -51,11 +51,26 @@ void MenuEditor::closeWindow()
         close();
 }
 
+namespace {
+
+// Who does not wait for a tool tip reads it in the status bar.
+void repeatTipsInStatusBar(const QWidget *editor)
+{
+    const QList<QWidget *> widgets = editor->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (!widget->toolTip().isEmpty())
+            widget->setStatusTip(widget->toolTip());
+    }
+}
+
+} // namespace
+
 void MenuEditor::takeFrame(QLabel *saved, QAbstractButton *close)
 {
     m_savedLabel = saved;
     showSaved(tr("Not saved yet"));
     connect(close, &QAbstractButton::clicked, this, &MenuEditor::closeWindow);
+    repeatTipsInStatusBar(this);
 }
 
 void MenuEditor::showSaved(const QString &text)

@@ -30,9 +30,8 @@ public:
         const QSize room = screens::roomForWindow(*window.screen());
         window.resize(room);
         REQUIRE_EQUAL(window.size(), room);
-        m_program.answers().onShown([room](const QDialog &dialog) {
-            REQUIRE_EQUAL(dialog.size().boundedTo(room), dialog.size());
-        });
+        m_program.answers().onShown(
+            [room](const QDialog &dialog) { REQUIRE_EQUAL(dialog.size().boundedTo(room), dialog.size()); });
     }
 
     [[nodiscard]] TestFolder &folder() { return m_program.folder(); }

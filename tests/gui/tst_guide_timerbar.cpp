@@ -102,10 +102,11 @@ void TestGuideTimerBar::productIsAdded()
         keyboard::enter(u"timeWarningTime"_s, u"0010"_s);
         keyboard::pushButton(u"btnSave"_s);
     });
-    guide.expectBox(u"Warning"_s,
-                    u"Temperature values less than 155°F are supported in cabinet IO software version 1.6.2 or "
-                    "newer"_s,
-                    QMessageBox::Ok);
+    guide.expectBox(
+        u"Warning"_s,
+        u"Temperature values less than 155°F are supported in cabinet IO software version 1.6.2 or "
+        "newer"_s,
+        QMessageBox::Ok);
     keyboard::pushButton(u"btnAddProduct"_s);
     cbr::Menu expected = menuWith();
     expected.products.append({.name = "Cold Ham 2",
