@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -12,6 +13,7 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QWhatsThis>
 
 #include "holding/productrules.h"
 #include "lanes/laneconfiguration.h"
@@ -37,6 +39,8 @@ private slots:
     void controlsTellWhatTheyAreFor();
     void tips_data();
     void tips();
+    void whatsThisIsReadByKeyboard_data();
+    void whatsThisIsReadByKeyboard();
     void limits_data();
     void limits();
     void limitsOfInputs_data();
@@ -151,6 +155,30 @@ void TestTips::tips()
     const auto &widget = ui::get<QWidget>(open.window(), control.constData());
     const QString told = widget.toolTip() + u'\n' + widget.whatsThis();
     QVERIFY2(told.contains(words), qPrintable(told));
+}
+
+void TestTips::whatsThisIsReadByKeyboard_data()
+{
+    QTest::addColumn<QByteArray>("control");
+    for (const char *control : {"numTemp1", "timeWarningTime", "comboZoneSplits", "btnTimerColor"})
+        QTest::newRow(control) << QByteArray(control);
+}
+
+void TestTips::whatsThisIsReadByKeyboard()
+{
+    QFETCH(const QByteArray, control);
+    const OpenWindow open(kindNamed("product, all fields"));
+    ui::get<QWidget>(open.window(), control.constData()).setFocus();
+    const auto isShown = [] {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        return std::any_of(windows.begin(), windows.end(), [](const QWidget *window) {
+            return window->isVisible() && window->inherits("QWhatsThat");
+        });
+    };
+    QVERIFY(!isShown());
+    QTest::keyClick(open.window().windowHandle(), Qt::Key_F1, Qt::ShiftModifier);
+    QVERIFY(isShown());
+    QWhatsThis::hideText();
 }
 
 namespace {
