@@ -5,6 +5,16 @@
 
 namespace timerbar {
 
+QList<Bin> CabinetShape::allBins() const
+{
+    QList<Bin> all;
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns(); ++column)
+            all.append({row, column});
+    }
+    return all;
+}
+
 QStringList cabinetModels()
 {
     QStringList names;

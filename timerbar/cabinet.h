@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -27,6 +28,8 @@ struct CabinetShape
     {
         return bin.row >= 0 && bin.row < rows && bin.slot >= 0 && bin.slot < columns();
     }
+
+    [[nodiscard]] QList<Bin> allBins() const; ///< row by row
 
     friend constexpr bool operator==(const CabinetShape &, const CabinetShape &) = default;
 };

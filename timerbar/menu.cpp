@@ -3,6 +3,8 @@
 
 #include "timerbar/menu.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace timerbar {
@@ -36,6 +38,20 @@ bool Menu::removeFromDayparts(int id)
     for (DaypartCells &cells : dayparts)
         removed = replaceInBins(cells, id, emptyCell) || removed;
     return removed;
+}
+
+bool Menu::hasFilledBins(int daypart) const
+{
+    const QList<Bin> bins = shape().allBins();
+    return std::any_of(bins.begin(), bins.end(),
+                       [this, daypart](Bin bin) { return dayparts[daypart][bin] != emptyCell; });
+}
+
+void Menu::copyBins(int from, int to)
+{
+    const QList<Bin> bins = shape().allBins();
+    for (const Bin bin : bins)
+        dayparts[to][bin] = dayparts[from][bin];
 }
 
 } // namespace timerbar

@@ -44,6 +44,10 @@ struct Menu
     [[nodiscard]] ProductInfo *product(int id) const;
     /// Empties every cell with this id; true when there was one.
     bool removeFromDayparts(int id);
+    /// Whether a bin that the cabinet has is filled.
+    [[nodiscard]] bool hasFilledBins(int daypart) const;
+    /// Takes over the bins that the cabinet has; cells beyond keep what they hold.
+    void copyBins(int from, int to);
 };
 
 } // namespace timerbar

@@ -93,6 +93,8 @@ private:
     void showRemovalMode(bool removing);
     void registerBins(const timerbar::CabinetShape &shape);
     [[nodiscard]] timerbar::DaypartCells *currentCells(); ///< null while no day part is selected
+    void copyBins();
+    [[nodiscard]] std::optional<int> askOtherDaypart(int daypart);
 
     std::unique_ptr<Ui::TimerBarMenuFile> m_ui;
     timerbar::Menu m_menu;

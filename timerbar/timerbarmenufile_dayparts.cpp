@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+#include <QDialogButtonBox>
+#include <QInputDialog>
 #include <QSignalBlocker>
 
 #include "model/names.h"
@@ -85,6 +87,7 @@ void TimerBarMenuFile::prepareGrid()
     keepRoomWhenHidden(m_ui->btnDaypartRemove);
     keepRoomWhenHidden(m_ui->btnCancelDaypartRemove);
     showRemovalMode(false);
+    connect(m_ui->btnCopyDaypart, &QPushButton::clicked, this, &TimerBarMenuFile::copyBins);
     connect(&m_grid, &BinGrid::holdDetected, this, &TimerBarMenuFile::dayPartPressHoldDetected);
     connect(&m_grid, &BinGrid::removalModeChanged, this,
             [this](bool removing) { showRemovalMode(removing); });
@@ -96,6 +99,7 @@ void TimerBarMenuFile::showRemovalMode(bool removing)
     m_ui->btnDaypartRemove->setVisible(removing);
     m_ui->btnCancelDaypartRemove->setVisible(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
+    m_ui->btnCopyDaypart->setDisabled(removing);
     BinGrid::showHint(m_ui->lblDaypartHint, removing);
     if (hadFocus)
         m_grid.setFocus();
@@ -105,6 +109,40 @@ timerbar::DaypartCells *TimerBarMenuFile::currentCells()
 {
     const int index = m_ui->comboDaypartSelect->currentIndex();
     return index < 0 ? nullptr : &m_menu.dayparts[index];
+}
+
+void TimerBarMenuFile::copyBins()
+{
+    const int daypart = m_ui->comboDaypartSelect->currentIndex();
+    if (daypart < 0)
+        return;
+    const std::optional<int> source = askOtherDaypart(daypart);
+    if (!source)
+        return;
+    const QStringList names = timerbar::daypartNames();
+    if (m_menu.hasFilledBins(daypart) &&
+        !messages::confirm(this, tr("Copy"),
+                           tr("Replace the bins of %1 by those of %2?").arg(names[daypart], names[*source])))
+        return;
+    m_menu.copyBins(*source, daypart);
+    loadCurrentDaypart();
+    noteChange();
+}
+
+std::optional<int> TimerBarMenuFile::askOtherDaypart(int daypart)
+{
+    const QStringList names = timerbar::daypartNames();
+    QStringList others = names;
+    others.removeAt(daypart);
+    QInputDialog dialog(this);
+    dialog.setWindowTitle(tr("Copy Bins"));
+    dialog.setLabelText(tr("Take over the bins of"));
+    dialog.setComboBoxItems(others);
+    (void)dialog.minimumSizeHint(); // makes the buttons
+    dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
+    if (dialog.exec() != Accepted)
+        return std::nullopt;
+    return names.indexOf(dialog.textValue());
 }
 
 void TimerBarMenuFile::loadDayparts()

@@ -114,12 +114,16 @@ void reconfigured(QWidget *parent, const QString &message)
     box.exec();
 }
 
-bool confirmDelete(QWidget *parent, const QString &question)
+bool confirm(QWidget *parent, const QString &title, const QString &question)
 {
-    QMessageBox box(QMessageBox::Question, Text::tr("Delete"), question, QMessageBox::Yes | QMessageBox::No,
-                    parent);
+    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, parent);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
+}
+
+bool confirmDelete(QWidget *parent, const QString &question)
+{
+    return confirm(parent, Text::tr("Delete"), question);
 }
 
 // With a qualified type of result lupdate would take the function for a member of QMessageBox.

@@ -37,7 +37,8 @@ void warning(QWidget *parent, const QString &message, QMessageBox::StandardButto
 /// What an accepted configuration did to the menu.
 void reconfigured(QWidget *parent, const QString &message);
 
-/// Asks whether to delete; No is the default.
+/// Asks before something is lost; No is the default.
+[[nodiscard]] bool confirm(QWidget *parent, const QString &title, const QString &question);
 [[nodiscard]] bool confirmDelete(QWidget *parent, const QString &question);
 
 /// "Save changes before exit?": Yes, No or Cancel, the latter also when the box is closed otherwise.

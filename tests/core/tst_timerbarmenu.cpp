@@ -27,6 +27,8 @@ private slots:
     void idsOfDeletedProductsAreGivenAgain();
     void productById();
     void removalEmptiesEveryCell();
+    void filledBinsOfTheCabinet();
+    void copiedBinsOfTheCabinet();
 };
 
 void TestTimerBarMenu::newMenuIsEmpty()
@@ -190,6 +192,36 @@ void TestTimerBarMenu::removalEmptiesEveryCell()
     QVERIFY(!menu.removeFromDayparts(1));
     QVERIFY(!menu.removeFromDayparts(7));
     QCOMPARE(sample::describe(menu), before);
+}
+
+void TestTimerBarMenu::filledBinsOfTheCabinet()
+{
+    timerbar::Menu menu = sample::menuWithIds({1, 2});
+    menu.model = u"KTR23"_s;
+    menu.dayparts[1][1] = {100, 100, 1, 100};
+    menu.dayparts[2][1] = {100, 100, 100, 1}; // beyond the model
+    menu.dayparts[3][2] = {1, 1, 1, 1};
+    QVERIFY(!menu.hasFilledBins(0));
+    QVERIFY(menu.hasFilledBins(1));
+    QVERIFY(!menu.hasFilledBins(2));
+    QVERIFY(!menu.hasFilledBins(3));
+}
+
+void TestTimerBarMenu::copiedBinsOfTheCabinet()
+{
+    timerbar::Menu menu = sample::menuWithIds({1, 2});
+    menu.model = u"KTR23"_s;
+    menu.dayparts[0][0] = {1, 2, 100, 7};
+    menu.dayparts[0][2] = {1, 2, 1, 2};
+    menu.dayparts[3][0] = {2, 100, 1, 8};
+    menu.dayparts[3][1] = {2, 2, 2, 9};
+    const timerbar::DaypartCells source = menu.dayparts[0];
+    menu.copyBins(0, 3);
+    using Row = FixedList<int, timerbar::maxColumns>;
+    QCOMPARE(menu.dayparts[3][0], (Row{1, 2, 100, 8}));
+    QCOMPARE(menu.dayparts[3][1], (Row{100, 100, 100, 9}));
+    QCOMPARE(menu.dayparts[3][2], (Row{100, 100, 100, 100}));
+    QVERIFY(menu.dayparts[0] == source);
 }
 
 QTEST_APPLESS_MAIN(TestTimerBarMenu)

@@ -178,6 +178,15 @@ void addTimerBarRows()
         showTab(program, 1);
         assign(program, "btnDaypartSelect0_0", 0);
     });
+    QTest::newRow("Timer Bar: copy bins") << Line::TimerBar << Act([](Program &program) {
+        showTab(program, 1);
+        program.answers().expect<QDialog>([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        program.answers().expectBox({.title = u"Copy"_s,
+                                     .text = u"Replace the bins of Breakfast by those of ChangeOver 1?"_s,
+                                     .icon = QMessageBox::Question},
+                                    QMessageBox::Yes);
+        ui::click(editor(program), "btnCopyDaypart");
+    });
     QTest::newRow("Timer Bar: empty a bin by holding it") << Line::TimerBar << Act([](Program &program) {
         showTab(program, 1);
         removeFrom(program, "btnDaypartSelect1_0");

@@ -87,9 +87,9 @@ QStringList editorTexts(const QString &cabinet)
 
 QStringList timerBarEditorTexts(const QString &cabinet)
 {
-    return QStringList{cabinet,        u"Configuration"_s, u"Close"_s,  u"Products"_s,
-                       u"Day Parts"_s, u"Day Part"_s,      u"Remove"_s, u"Cancel"_s,
-                       daypartHint,    u"Pair 1"_s,        u"Pair 2"_s} +
+    return QStringList{cabinet,        u"Configuration"_s, u"Close"_s,      u"Products"_s,
+                       u"Day Parts"_s, u"Day Part"_s,      u"Copy From…"_s, u"Remove"_s,
+                       u"Cancel"_s,    daypartHint,        u"Pair 1"_s,     u"Pair 2"_s} +
            listButtons + QStringList{u"Export"_s, u"Product"_s} + timerBarDetails(u"Short"_s);
 }
 

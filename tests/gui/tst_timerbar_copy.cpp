@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QDialogButtonBox>
+#include <QInputDialog>
+
+#include "tests/gui/opentimerbar.h"
+#include "tests/support/warnings.h"
+#include "timerbar/bins.h"
+
+using namespace Qt::StringLiterals;
+
+/// Taking over the bins of another day part.
+class TestTimerBarCopy : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_editor.reset(); }
+    void dialogNamesTheOthers();
+    void emptyBinsAreFilled();
+    void filledBinsAreReplacedWhenConfirmed_data();
+    void filledBinsAreReplacedWhenConfirmed();
+    void leavingTheDialogChangesNothing_data();
+    void leavingTheDialogChangesNothing();
+    void notWhileRemoving();
+
+private:
+    void clickCopy() { ui::click(**m_editor, "btnCopyDaypart"); }
+
+    cbr::Menu m_menu;
+    std::unique_ptr<OpenTimerBar> m_editor;
+};
+
+namespace {
+
+const ModalAnswers::Box question{.title = u"Copy"_s,
+                                 .text = u"Replace the bins of Lunch by those of Breakfast?"_s,
+                                 .buttons = QMessageBox::Yes | QMessageBox::No,
+                                 .defaultButton = QMessageBox::No,
+                                 .icon = QMessageBox::Question};
+
+void expectChoice(ModalAnswers &answers, const QString &name)
+{
+    answers.expect<QInputDialog>([name](QInputDialog &dialog) {
+        QTest::keyClicks(dialog.findChild<QComboBox *>(), name);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+}
+
+} // namespace
+
+void TestTimerBarCopy::init()
+{
+    failOnWarnings();
+    m_menu = baconHamChili(u"KTR22"_s);
+    m_menu.dayparts[0] = {0, 1, 100, 2};
+    m_menu.dayparts[2] = {100, 100, 2, 100};
+    m_editor = std::make_unique<OpenTimerBar>(m_menu);
+}
+
+void TestTimerBarCopy::dialogNamesTheOthers()
+{
+    m_editor->showDaypart(u"Lunch"_s);
+    ModalAnswers answers;
+    answers.expect<QInputDialog>([](QInputDialog &dialog) {
+        QCOMPARE(dialog.windowTitle(), u"Copy Bins"_s);
+        QCOMPARE(dialog.labelText(), u"Take over the bins of"_s);
+        QStringList others = timerbar::daypartNames();
+        others.removeOne(u"Lunch"_s);
+        QCOMPARE(dialog.comboBoxItems(), others);
+        const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
+        for (const QPushButton *button : buttons)
+            QCOMPARE(button->autoDefault(), button->isDefault());
+        QCOMPARE(std::count_if(buttons.begin(), buttons.end(),
+                               [](const QPushButton *button) { return button->isDefault(); }),
+                 1);
+        dialog.reject();
+    });
+    clickCopy();
+}
+
+void TestTimerBarCopy::emptyBinsAreFilled()
+{
+    m_editor->showDaypart(u"Dinner"_s);
+    ModalAnswers answers;
+    expectChoice(answers, u"Breakfast"_s);
+    clickCopy();
+    QCOMPARE(m_editor->button("btnDaypartSelect0_1").text(), u"CHIL"_s);
+    m_menu.dayparts[4] = m_menu.dayparts[0];
+    QCOMPARE(m_editor->saved(), hex(m_menu));
+}
+
+void TestTimerBarCopy::filledBinsAreReplacedWhenConfirmed_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::newRow("Yes") << QMessageBox::Yes;
+    QTest::newRow("No") << QMessageBox::No;
+}
+
+void TestTimerBarCopy::filledBinsAreReplacedWhenConfirmed()
+{
+    QFETCH(const QMessageBox::StandardButton, answer);
+    m_editor->showDaypart(u"Lunch"_s);
+    ModalAnswers answers;
+    expectChoice(answers, u"Breakfast"_s);
+    answers.expectBox(question, answer);
+    clickCopy();
+    if (answer == QMessageBox::Yes)
+        m_menu.dayparts[2] = m_menu.dayparts[0];
+    QCOMPARE(m_editor->saved(), hex(m_menu));
+}
+
+void TestTimerBarCopy::leavingTheDialogChangesNothing_data()
+{
+    QTest::addColumn<bool>("byEscape");
+    QTest::newRow("Cancel") << false;
+    QTest::newRow("Escape") << true;
+}
+
+void TestTimerBarCopy::leavingTheDialogChangesNothing()
+{
+    QFETCH(const bool, byEscape);
+    m_editor->showDaypart(u"Dinner"_s);
+    ModalAnswers answers;
+    answers.expect<QInputDialog>([byEscape](QInputDialog &dialog) {
+        if (byEscape)
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        else
+            ui::click(*dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel));
+    });
+    clickCopy();
+    QCOMPARE(m_editor->saved(), hex(m_menu));
+    QCOMPARE(ui::get<QLabel>(**m_editor, "lblSaved").text(), u"Saved"_s);
+}
+
+void TestTimerBarCopy::notWhileRemoving()
+{
+    enterRemovalMode(**m_editor);
+    QVERIFY(!m_editor->button("btnCopyDaypart").isEnabled());
+    ui::click(**m_editor, "btnCancelDaypartRemove");
+    QVERIFY(m_editor->button("btnCopyDaypart").isEnabled());
+}
+
+QTEST_MAIN(TestTimerBarCopy)
+#include "tst_timerbar_copy.moc"
