@@ -17,6 +17,7 @@
 #include "app/focusinsight.h"
 #include "app/selectproductline.h"
 #include "ui_mainwindow.h"
+#include "widgets/announce.h"
 #include "widgets/longtext.h"
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
@@ -68,7 +69,7 @@ void MainWindow::prepareStatusBar()
 void MainWindow::tell(const QString &message)
 {
     const QString shown = beginningOf(message);
-    m_told->setText(shown);
+    announce::news(m_told, shown);
     m_told->setToolTip(asPlainText(shown)); // the whole path, where the bar is too short for it
     showSuffixNote();
 }
@@ -79,9 +80,12 @@ void MainWindow::showSuffixNote()
     const ProductLine *line = subWindow ? productLineOf(*subWindow) : nullptr;
     const MenuEditor *editor = line ? menuEditorIn(*subWindow) : nullptr;
     const QString path = editor ? editor->filePath() : QString();
-    m_suffixNote->setHidden(path.isEmpty() || productLineOfFile(path) == line);
-    if (!m_suffixNote->isHidden())
-        m_suffixNote->setText(tr("Without %1 this program will not open it.").arg(line->suffixes.first()));
+    const bool opens = path.isEmpty() || productLineOfFile(path) == line;
+    const QString note =
+        opens ? QString() : tr("Without %1 this program will not open it.").arg(line->suffixes.first());
+    m_suffixNote->setHidden(opens);
+    if (note != m_suffixNote->text())
+        announce::news(m_suffixNote, note);
 }
 
 void MainWindow::updateMenuItems()

@@ -9,6 +9,7 @@
 
 #include "holding/menufile.h"
 #include "holding/misfits.h"
+#include "holding/rowdescription.h"
 #include "ui_assigndaypartitem.h"
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
@@ -33,6 +34,9 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
     m_ui->details->setEmptyHint(tr("Select a product or group"));
     m_notes = addListNotes(m_ui->listWidgetProducts);
     new ListKeys(m_ui->listWidgetProducts, m_ui->btnSelect);
+    numberedrows::describe(m_ui->listWidgetProducts, [this](int row) {
+        return holding::rowDescription(m_entries.value(row), m_configuration);
+    });
     letEnterPressFocusedButton(this);
     // Room for a name of three lines below the other details, in any font.
     m_ui->spacerDetails->changeSize(0, 2 * fontMetrics().lineSpacing(), QSizePolicy::Minimum,

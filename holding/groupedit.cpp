@@ -11,7 +11,9 @@
 #include "holding/menufile.h"
 #include "holding/misfits.h"
 #include "holding/producttypes.h"
+#include "holding/rowdescription.h"
 #include "ui_groupedit.h"
+#include "widgets/announce.h"
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
 #include "widgets/fixedsize.h"
@@ -65,6 +67,7 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     m_ui->verticalLayout->insertWidget(m_ui->verticalLayout->indexOf(m_ui->layoutLists) + 1, m_notes.below);
     new ListKeys(m_ui->listWidgetProducts, m_ui->btnAddProduct);
     new ListKeys(m_ui->listWidgetGroupProducts, m_ui->btnRemoveProduct);
+    describeRows();
     letEnterPressFocusedButton(this);
     setWindowTitle(tr("Group Edit"));
     applyConfiguration();
@@ -78,6 +81,17 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
 }
 
 GroupEdit::~GroupEdit() = default;
+
+void GroupEdit::describeRows()
+{
+    numberedrows::describe(m_ui->listWidgetProducts, [this](int row) {
+        return holding::rowDescription(m_products.value(row), m_configuration);
+    });
+    numberedrows::describe(m_ui->listWidgetGroupProducts, [this](int row) {
+        const int id = m_draft.members().value(positionOf(m_ui->listWidgetGroupProducts->item(row)));
+        return holding::rowDescription(findEntry(m_productsById, id), m_configuration);
+    });
+}
 
 void GroupEdit::applyConfiguration()
 {
@@ -140,7 +154,11 @@ void GroupEdit::checkDefaultOnly()
     const QSignalBlocker blocker(list);
     for (int row = 0; row < list->count(); ++row) {
         QListWidgetItem *item = list->item(row);
-        item->setCheckState(positionOf(item) == m_draft.defaultPosition() ? Qt::Checked : Qt::Unchecked);
+        const auto state = positionOf(item) == m_draft.defaultPosition() ? Qt::Checked : Qt::Unchecked;
+        const bool changes = item->checkState() != state;
+        item->setCheckState(state); // gives a new row its box, too
+        if (changes)
+            announce::checkMark(list, row);
     }
 }
 
@@ -153,6 +171,11 @@ void GroupEdit::showSummary()
     m_ui->txtLidType->setText(holding::lidText(settings.lidType));
     m_ui->txtZoneSplits->setText(settings.zoneSplits);
     m_ui->txtFanSpeed->setText(tr("%1 RPM").arg(settings.fanSpeed));
+    announce::pair(m_ui->lblTemp1, m_ui->txtTemp1);
+    announce::pair(m_ui->lblTemp2, m_ui->txtTemp2);
+    announce::pair(m_ui->lblLidType, m_ui->txtLidType);
+    announce::pair(m_ui->lblZoneSplits, m_ui->txtZoneSplits);
+    announce::pair(m_ui->lblFanSpeed, m_ui->txtFanSpeed);
 }
 
 void GroupEdit::on_btnCancel_clicked()
@@ -217,9 +240,13 @@ void GroupEdit::on_btnRemoveProduct_clicked()
 
 void GroupEdit::on_listWidgetGroupProducts_itemChanged(QListWidgetItem *item)
 {
-    if (item == m_ui->listWidgetGroupProducts->currentItem())
+    QListWidget *list = m_ui->listWidgetGroupProducts;
+    const Qt::CheckState chosen = item->checkState();
+    if (item == list->currentItem())
         m_draft.setDefault(positionOf(item));
     checkDefaultOnly();
+    if (item->checkState() == chosen)
+        announce::checkMark(list, list->row(item));
 }
 
 void GroupEdit::on_listWidgetGroupProducts_itemClicked(QListWidgetItem *item)

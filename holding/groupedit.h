@@ -47,6 +47,7 @@ public slots:
 
 private:
     void applyConfiguration();
+    void describeRows();
     void checkDefaultOnly();
     void showSummary();
     [[nodiscard]] int nextRowToAdd(int row) const;

@@ -7,6 +7,7 @@
 #include "holding/menujson.h"
 #include "holding/menunames.h"
 #include "holding/qhximport.h"
+#include "holding/rowdescription.h"
 #include "model/files.h"
 #include "ui_menufile.h"
 #include "widgets/emptyhint.h"
@@ -47,6 +48,7 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
                   tr("No groups yet. Add makes one of products that hold at the same settings."));
     m_ui->detailsGroup->setEmptyHint(tr("Select a group"));
     new ListKeys(m_ui->listWidgetMembers, nullptr);
+    describeRows();
     setMenuValid(load(filePath));
     if (!isMenuValid())
         return;
@@ -60,6 +62,20 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
 }
 
 MenuFile::~MenuFile() = default;
+
+void MenuFile::describeRows()
+{
+    numberedrows::describe(m_ui->listWidgetProducts, [this](int row) {
+        return holding::rowDescription(entryAt(m_menu.products, row), m_menu.configuration);
+    });
+    numberedrows::describe(m_ui->listWidgetGroups, [this](int row) {
+        return holding::rowDescription(entryAt(m_menu.groups, row), m_menu.configuration);
+    });
+    numberedrows::describe(m_ui->listWidgetMembers, [this](int row) {
+        const int id = m_ui->listWidgetMembers->item(row)->data(numberedrows::idRole).toInt();
+        return holding::rowDescription(findEntry(indexById(getMenuProducts()), id), m_menu.configuration);
+    });
+}
 
 bool MenuFile::leaveMode()
 {

@@ -135,6 +135,7 @@ private:
     void loadGroupMembers();
     void reloadEntries();
 
+    void describeRows();
     void prepareGrid();
     void showRemovalMode(bool removing);
     void loadDaypartSelector();

@@ -10,6 +10,7 @@
 
 #include "holding/assigndaypartitem.h"
 #include "holding/binbuttons.h"
+#include "holding/rowdescription.h"
 #include "holding/rowlook.h"
 #include "model/times.h"
 #include "ui_menufile.h"
@@ -88,12 +89,8 @@ BinLabel binLabel(const holding::SlotContent &content, int id)
 QString settingsText(const QString &title, const ProductInfo &entry,
                      const holding::CabinetConfiguration &configuration)
 {
-    const int unit = configuration.temperatureUnit;
-    QString temperatures = temperatureText(entry.get_upperTemp(), unit);
-    if (!holding::isZpv(configuration.type))
-        temperatures += u" / "_s + temperatureText(entry.get_lowerTemp(), unit);
     return MenuFile::tr("%1\nTemperature: %2\nHolding Time: %3")
-        .arg(title, temperatures, timeText(entry.get_holdTime()));
+        .arg(title, holding::temperaturesText(entry, configuration), timeText(entry.get_holdTime()));
 }
 
 // What is painted in a bin below the name.

@@ -19,6 +19,7 @@ constexpr int maxListedMembers = 1000;
 void appendMember(QListWidget *list, const ProductInfo &member, int position, bool isDefault)
 {
     QListWidgetItem *item = numberedrows::append(list, position + 1, shownName(member.get_productName()));
+    item->setData(numberedrows::idRole, member.get_productId());
     item->setFlags(Qt::ItemIsEnabled);
     item->setCheckState(isDefault ? Qt::Checked : Qt::Unchecked);
 }

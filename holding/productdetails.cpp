@@ -10,6 +10,7 @@
 #include "holding/fields.h"
 #include "holding/timercolorsample.h"
 #include "ui_productdetails.h"
+#include "widgets/announce.h"
 #include "widgets/emptyhint.h"
 
 using namespace Qt::StringLiterals;
@@ -63,6 +64,7 @@ void ProductDetails::showEntry(const ProductInfo *entry, const holding::CabinetC
         row.label->setVisible(shown);
         row.value->setVisible(shown);
         row.value->setText(entry && row.detail->text ? row.detail->text(*entry, configuration) : QString());
+        announce::pair(row.label, row.value);
     }
     showTimerColor(entry);
     if (m_empty == static_cast<bool>(entry))
@@ -80,8 +82,9 @@ void ProductDetails::paintEvent([[maybe_unused]] QPaintEvent *event)
 
 void ProductDetails::showTimerColor(const ProductInfo *entry)
 {
-    const auto sample = entry ? holding::timerColorSample(holding::timerColorByName(entry->get_timerColor()))
-                              : holding::TimerColorSample{};
+    const auto *color = entry ? &holding::timerColorByName(entry->get_timerColor()) : nullptr;
+    const auto sample = color ? holding::timerColorSample(*color) : holding::TimerColorSample{};
     m_ui->txtTimerColor->setStyleSheet(sample.styleSheet);
     m_ui->txtTimerColor->setText(sample.text);
+    announce::pair(m_ui->lblTimerColor, m_ui->txtTimerColor, color ? holding::colorWords(*color) : QString());
 }

@@ -121,6 +121,7 @@ void ProductEdit::showTimerColor(const holding::TimerColor &entry)
     const auto sample = holding::timerColorSample(entry);
     m_ui->btnTimerColor->setStyleSheet(sample.styleSheet);
     m_ui->btnTimerColor->setText(sample.text);
+    m_ui->btnTimerColor->setAccessibleDescription(holding::colorWords(entry));
 }
 
 void ProductEdit::on_btnTimerColor_clicked()

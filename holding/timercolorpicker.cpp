@@ -64,13 +64,12 @@ ColorButton *makeButton(const holding::TimerColor &entry, QWidget *parent)
     auto *button = new ColorButton(u" "_s, parent);
     button->setFixedSize(buttonSize);
     button->setAutoDefault(false);
+    button->setAccessibleName(holding::colorWords(entry));
     if (entry.isNone()) {
         button->setIcon(QIcon(u":/images/noColor.png"_s));
         button->setIconSize(buttonSize);
-        button->setAccessibleName(TimerColorPicker::tr("No color"));
     } else {
         button->setStyleSheet(holding::backgroundStyle(entry));
-        button->setAccessibleName(entry.colorName);
     }
     return button;
 }

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace holding {
@@ -36,6 +38,40 @@ constexpr std::array<Shade, paletteRows * paletteColumns> shades{{
     // clang-format on
 }};
 
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(TimerColors)
+};
+
+// The columns go from dark to light, the last row through the greys.
+constexpr std::array<const char *, paletteColumns> shadeWords{
+    QT_TRANSLATE_NOOP("TimerColors", "very dark %1"),   QT_TRANSLATE_NOOP("TimerColors", "dark %1"),
+    QT_TRANSLATE_NOOP("TimerColors", "medium dark %1"), QT_TRANSLATE_NOOP("TimerColors", "medium %1"),
+    QT_TRANSLATE_NOOP("TimerColors", "full %1"),        QT_TRANSLATE_NOOP("TimerColors", "bright %1"),
+    QT_TRANSLATE_NOOP("TimerColors", "light %1"),       QT_TRANSLATE_NOOP("TimerColors", "very light %1"),
+    QT_TRANSLATE_NOOP("TimerColors", "pale %1")};
+constexpr std::array<const char *, paletteRows - 1> hueWords{
+    QT_TRANSLATE_NOOP("TimerColors", "red"),    QT_TRANSLATE_NOOP("TimerColors", "orange"),
+    QT_TRANSLATE_NOOP("TimerColors", "yellow"), QT_TRANSLATE_NOOP("TimerColors", "green"),
+    QT_TRANSLATE_NOOP("TimerColors", "cyan"),   QT_TRANSLATE_NOOP("TimerColors", "blue"),
+    QT_TRANSLATE_NOOP("TimerColors", "violet"), QT_TRANSLATE_NOOP("TimerColors", "magenta")};
+constexpr std::array<const char *, paletteColumns> greyWords{
+    QT_TRANSLATE_NOOP("TimerColors", "black"),
+    QT_TRANSLATE_NOOP("TimerColors", "blackish gray"),
+    QT_TRANSLATE_NOOP("TimerColors", "very dark gray"),
+    QT_TRANSLATE_NOOP("TimerColors", "dark gray"),
+    QT_TRANSLATE_NOOP("TimerColors", "gray"),
+    QT_TRANSLATE_NOOP("TimerColors", "light gray"),
+    QT_TRANSLATE_NOOP("TimerColors", "very light gray"),
+    QT_TRANSLATE_NOOP("TimerColors", "pale gray"),
+    QT_TRANSLATE_NOOP("TimerColors", "white")};
+
+QString wordsAt(std::size_t row, std::size_t column)
+{
+    return row < hueWords.size() ? Text::tr(shadeWords[column]).arg(Text::tr(hueWords[row]))
+                                 : Text::tr(greyWords[column]);
+}
+
 QString nameOf(int color)
 {
     return u"#%1"_s.arg(color, 6, 16, QLatin1Char('0'));
@@ -63,6 +99,19 @@ const TimerPalette &timerPalette()
 {
     static const TimerPalette palette = makePalette();
     return palette;
+}
+
+QString colorWords(const TimerColor &entry)
+{
+    if (entry.isNone())
+        return Text::tr("No color");
+    const TimerPalette &palette = timerPalette();
+    const auto *found = std::find_if(palette.begin(), palette.end(),
+                                     [&](const TimerColor &each) { return each.color == entry.color; });
+    if (found == palette.end())
+        return entry.colorName;
+    const auto place = static_cast<std::size_t>(found - palette.begin());
+    return Text::tr("%1, %2").arg(wordsAt(place / paletteColumns, place % paletteColumns), entry.colorName);
 }
 
 const TimerColor &timerColorByName(const QString &colorName)

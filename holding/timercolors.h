@@ -30,6 +30,9 @@ using TimerPalette = std::array<TimerColor, paletteRows * paletteColumns>;
 /// The palette row by row; it lives as long as the program.
 [[nodiscard]] const TimerPalette &timerPalette();
 
+/// What the colour is called, for those who do not see it: "dark red, #700000", or "No color".
+[[nodiscard]] QString colorWords(const TimerColor &entry);
+
 /// The entry with exactly this name, else the no-colour entry.
 [[nodiscard]] const TimerColor &timerColorByName(const QString &colorName);
 

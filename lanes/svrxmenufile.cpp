@@ -9,6 +9,7 @@
 #include "model/files.h"
 #include "model/temperature.h"
 #include "ui_svrxmenufile.h"
+#include "widgets/bingrid.h"
 #include "widgets/messages.h"
 #include "widgets/wheelfocus.h"
 
@@ -57,6 +58,8 @@ void SvrxMenuFile::prepareBoxes()
     for (int lane = 0; lane < lanes::maxLanes; ++lane) {
         const Row &row = m_rows[lane];
         row.fanSpeed->setRange(lanes::minFanSpeed, lanes::maxFanSpeed);
+        for (QLabel *note : {row.temperatureNote, row.fanSpeedNote})
+            keepRoomWhenHidden(note);
         takeWhatIsTyped(row.temperature, [this, lane](int value) { storeTemperature(lane, value); });
         takeWhatIsTyped(row.fanSpeed, [this, lane](int value) { storeFanSpeed(lane, value); });
     }
@@ -214,6 +217,17 @@ void SvrxMenuFile::enableRows()
     }
 }
 
+namespace {
+
+// A screen reader reads the note with the box, and does not stop at one that says nothing.
+void tellNote(QSpinBox *box, QLabel *note)
+{
+    note->setHidden(note->text().isEmpty());
+    box->setAccessibleDescription(note->text());
+}
+
+} // namespace
+
 // Where a box cannot show the stored value, the row says what the file holds. Lanes that are not saved say
 // nothing.
 void SvrxMenuFile::showNotes()
@@ -228,6 +242,8 @@ void SvrxMenuFile::showNotes()
         row.temperatureNote->setText(
             note(row.temperature, shownTemperature(stored.temperature, temperatureUnit())));
         row.fanSpeedNote->setText(note(row.fanSpeed, stored.fanSpeed));
+        tellNote(row.temperature, row.temperatureNote);
+        tellNote(row.fanSpeed, row.fanSpeedNote);
     }
 }
 

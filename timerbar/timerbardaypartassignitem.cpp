@@ -8,6 +8,7 @@
 #include <QListWidget>
 
 #include "model/names.h"
+#include "timerbar/rowdescription.h"
 #include "timerbar/timerbarmenufile.h"
 #include "ui_timerbardaypartassignitem.h"
 #include "widgets/emptyhint.h"
@@ -27,6 +28,9 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     m_notes = addListNotes(m_ui->listWidgetProducts);
     new ListKeys(m_ui->listWidgetProducts, m_ui->btnSelect);
+    numberedrows::describe(m_ui->listWidgetProducts, [this](int row) {
+        return timerbar::rowDescription(m_products.value(row), m_temperatureUnit);
+    });
     m_ui->details->setShortNameLabel(tr("Shor Name:"));
     showWhenEmpty(m_ui->listWidgetProducts,
                   tr("This menu has no products yet. Cancel, and add some on the Products tab."));

@@ -11,10 +11,12 @@
 #include "model/files.h"
 #include "timerbar/cbrfile.h"
 #include "timerbar/defaultproducts.h"
+#include "timerbar/rowdescription.h"
 #include "timerbar/timerbarconfig.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/emptyhint.h"
 #include "widgets/messages.h"
+#include "widgets/numberedrows.h"
 
 namespace {
 
@@ -45,6 +47,9 @@ TimerBarMenuFile::TimerBarMenuFile(const QString &filePath, QWidget *parent)
 {
     showWhenEmpty(m_ui->listWidgetProducts, tr("No products yet. Add makes one."));
     takeFrame(m_ui->lblSaved, m_ui->btnClose);
+    numberedrows::describe(m_ui->listWidgetProducts, [this](int row) {
+        return timerbar::rowDescription(entryAt(m_menu.products, row), m_menu.temperatureUnit);
+    });
     m_ui->btnExportFile->hide(); // there is nothing to export to yet
     setMenuValid(filePath.isEmpty() ? createMenu() : readInto(m_menu));
     if (!isMenuValid())

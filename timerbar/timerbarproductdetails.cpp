@@ -10,6 +10,7 @@
 #include "model/temperature.h"
 #include "model/times.h"
 #include "ui_timerbarproductdetails.h"
+#include "widgets/announce.h"
 #include "widgets/emptyhint.h"
 
 namespace {
@@ -40,9 +41,20 @@ void TimerBarProductDetails::showProduct(const ProductInfo *product, int tempera
     show(m_ui->txtTempLower, [&](const ProductInfo &shown) { return temperature(shown.get_lowerTemp()); });
     show(m_ui->txtHoldTime, [&](const ProductInfo &shown) { return time(shown.get_holdTime()); });
     show(m_ui->txtWarningTime, [&](const ProductInfo &shown) { return time(shown.get_warningTime()); });
+    tellPairs();
     if (m_empty == static_cast<bool>(product))
         update();
     m_empty = !product;
+}
+
+void TimerBarProductDetails::tellPairs()
+{
+    announce::pair(m_ui->lblName, m_ui->txtName);
+    announce::pair(m_ui->lblShortName, m_ui->txtShortName);
+    announce::pair(m_ui->lblTempUpper, m_ui->txtTempUpper);
+    announce::pair(m_ui->lblTempLower, m_ui->txtTempLower);
+    announce::pair(m_ui->lblHoldTime, m_ui->txtHoldTime);
+    announce::pair(m_ui->lblWarningTime, m_ui->txtWarningTime);
 }
 
 void TimerBarProductDetails::paintEvent([[maybe_unused]] QPaintEvent *event)

@@ -31,6 +31,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void tellPairs();
+
     std::unique_ptr<Ui::TimerBarProductDetails> m_ui;
     bool m_empty = true;
 };

@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 
+#include "widgets/announce.h"
 #include "widgets/longtext.h"
 
 using namespace std::chrono_literals;
@@ -175,8 +176,8 @@ QList<Bin> BinGrid::checkedBins() const
 
 void BinGrid::showHint(QLabel *label, bool removing)
 {
-    label->setText(removing ? tr("Choose the bins to clear, then press Remove.")
-                            : tr("Click a bin to assign it. Hold a filled bin to clear bins."));
+    announce::news(label, removing ? tr("Choose the bins to clear, then press Remove.")
+                                   : tr("Click a bin to assign it. Hold a filled bin to clear bins."));
     QFont font = label->font();
     font.setBold(removing);
     label->setFont(font);

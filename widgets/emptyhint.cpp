@@ -22,15 +22,13 @@ public:
         , m_hint(hint)
     {
         list->viewport()->installEventFilter(this);
-        const auto tell = [this] {
-            if (m_toldEmpty == isEmpty())
-                return;
-            m_toldEmpty = isEmpty();
-            m_list->setAccessibleDescription(m_toldEmpty ? m_hint : QString());
+        connect(list->model(), &QAbstractItemModel::rowsInserted, this, &EmptyListPainter::tell);
+        // A list that is filled anew is empty for a moment, which is not to be told.
+        const auto tellSoon = [this] {
+            QMetaObject::invokeMethod(this, &EmptyListPainter::tell, Qt::QueuedConnection);
         };
-        connect(list->model(), &QAbstractItemModel::rowsInserted, this, tell);
-        connect(list->model(), &QAbstractItemModel::rowsRemoved, this, tell);
-        connect(list->model(), &QAbstractItemModel::modelReset, this, tell);
+        connect(list->model(), &QAbstractItemModel::rowsRemoved, this, tellSoon);
+        connect(list->model(), &QAbstractItemModel::modelReset, this, tellSoon);
         tell();
     }
 
@@ -46,6 +44,14 @@ public:
 
 private:
     [[nodiscard]] bool isEmpty() const { return m_list->count() == 0; }
+
+    void tell()
+    {
+        if (m_toldEmpty == isEmpty())
+            return;
+        m_toldEmpty = isEmpty();
+        m_list->setAccessibleDescription(m_toldEmpty ? m_hint : QString());
+    }
 
     QListWidget *m_list;
     QString m_hint;

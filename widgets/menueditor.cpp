@@ -15,6 +15,7 @@
 #include <QMdiSubWindow>
 
 #include "model/files.h"
+#include "widgets/announce.h"
 #include "widgets/messages.h"
 #include "widgets/plainfont.h"
 
@@ -31,6 +32,9 @@ MenuEditor::MenuEditor(const QString &filePath, QWidget *parent)
 {
     // An editor has a hundred texts, which are measured when it opens and painted when the day part changes.
     setFont(plainFont({}));
+    // Inside a sub-window a dialog has no name of its own. A title has "[*][*]" where a name has "[*]".
+    connect(this, &QWidget::windowTitleChanged, this,
+            [this](QString title) { setAccessibleName(title.replace("[*][*]"_L1, "[*]"_L1)); });
 }
 
 bool MenuEditor::save()
@@ -75,7 +79,15 @@ void MenuEditor::takeFrame(QLabel *saved, QAbstractButton *close)
 
 void MenuEditor::showSaved(const QString &text)
 {
-    m_savedLabel->setText(text);
+    if (m_savedLabel->text() != text)
+        announce::news(m_savedLabel, text);
+}
+
+void MenuEditor::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous() && !m_importedFrom.isEmpty())
+        announce::news(m_savedLabel, m_savedLabel->text()); // what was told before nobody could hear
 }
 
 void MenuEditor::noteRead(const QByteArray &bytes)
@@ -87,6 +99,7 @@ void MenuEditor::noteRead(const QByteArray &bytes)
 
 void MenuEditor::noteSaved(const QByteArray &bytes, const QString &message)
 {
+    announce::news(m_savedLabel, tr("Saved"));
     noteRead(bytes);
     emit told(message);
 }

@@ -93,6 +93,7 @@ protected:
     virtual bool leaveMode() { return false; }
     void keyPressEvent(QKeyEvent *event) override;
 
+    void showEvent(QShowEvent *event) override;
     /// Asks whether to save first; ignored while a modal dialog is open. The editor schedules its own
     /// deletion, except after a save in place.
     void closeEvent(QCloseEvent *event) override;

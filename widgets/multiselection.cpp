@@ -11,6 +11,8 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 
+#include "widgets/announce.h"
+
 namespace {
 
 // Rows that follow each other are one range: selecting rows one by one takes longer with every row that is
@@ -58,6 +60,22 @@ void MultiSelection::setActive(bool active)
         m_list->item(row)->setData(Qt::CheckStateRole, {});
     m_active = active;
     restoreChecks({});
+    tellMode();
+}
+
+void MultiSelection::tellMode()
+{
+    const QString hint = tr("Multiple selection: Space marks rows.");
+    if (m_active && m_list->count() > 0)
+        describe(hint);
+    else if (m_list->accessibleDescription() == hint) // one that is empty may tell what to do about that
+        describe({});
+}
+
+void MultiSelection::describe(const QString &text)
+{
+    if (m_list->accessibleDescription() != text)
+        m_list->setAccessibleDescription(text);
 }
 
 bool MultiSelection::isAnyChecked() const
@@ -89,6 +107,7 @@ void MultiSelection::restoreChecks(const QList<int> &rows)
         item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
     }
     m_list->selectionModel()->select(rangesOf(*m_list->model(), rows), QItemSelectionModel::ClearAndSelect);
+    tellMode(); // a list that was empty for a moment has forgotten it
 }
 
 void MultiSelection::check(const QItemSelection &rows, Qt::CheckState state)
@@ -96,8 +115,10 @@ void MultiSelection::check(const QItemSelection &rows, Qt::CheckState state)
     if (!m_active)
         return;
     const QModelIndexList indexes = rows.indexes();
-    for (const QModelIndex &index : indexes)
+    for (const QModelIndex &index : indexes) {
         m_list->item(index.row())->setCheckState(state);
+        announce::checkMark(m_list, index.row());
+    }
 }
 
 // Left to itself the view also searches for what is typed, a blank included, and toggles the row it finds.

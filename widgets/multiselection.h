@@ -38,6 +38,8 @@ protected:
 
 private:
     void check(const QItemSelection &rows, Qt::CheckState state);
+    void tellMode();
+    void describe(const QString &text);
 
     QListWidget *m_list;
     QAbstractButton *m_button;

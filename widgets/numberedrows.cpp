@@ -48,6 +48,8 @@ public:
         const QSize hint = QStyledItemDelegate::sizeHint(option, index);
         return hint.expandedTo({0, option.fontMetrics.height() + rowMargin});
     }
+
+    std::function<QString(int row)> description; ///< none where rows have none
 };
 
 qreal pointSizeOf(const QFont &font)
@@ -55,23 +57,48 @@ qreal pointSizeOf(const QFont &font)
     return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
 }
 
-/// Makes its tool tip and its description when they are asked for.
-class PickRow final : public QListWidgetItem
+/// A row that is described when somebody asks.
+class Row : public QListWidgetItem
+{
+public:
+    using QListWidgetItem::QListWidgetItem;
+
+    [[nodiscard]] QVariant data(int role) const override
+    {
+        return role == Qt::AccessibleDescriptionRole ? description() : QListWidgetItem::data(role);
+    }
+
+protected:
+    [[nodiscard]] virtual QString description() const
+    {
+        const QListWidget *list = listWidget();
+        const auto *painter = list ? dynamic_cast<const RowPainter *>(list->itemDelegate()) : nullptr;
+        return painter && painter->description ? painter->description(list->row(this)) : QString();
+    }
+};
+
+/// Makes its tool tip when it is asked for, too.
+class PickRow final : public Row
 {
 public:
     PickRow(const QString &text, const Pick &pick)
-        : QListWidgetItem(text)
+        : Row(text)
         , m_title(pick.title)
         , m_misfit(pick.fits ? nullptr : pick.misfit)
     {}
 
     [[nodiscard]] QVariant data(int role) const override
     {
-        if (role == Qt::ToolTipRole)
-            return toolTipText();
-        if (role == Qt::AccessibleDescriptionRole && m_misfit)
-            return m_misfit();
-        return QListWidgetItem::data(role);
+        return role == Qt::ToolTipRole ? toolTipText() : Row::data(role);
+    }
+
+protected:
+    [[nodiscard]] QString description() const override
+    {
+        const QString settings = Row::description();
+        if (!m_misfit)
+            return settings;
+        return settings.isEmpty() ? m_misfit() : Text::tr("%1. %2").arg(settings, m_misfit());
     }
 
 private:
@@ -138,6 +165,12 @@ void preparePlainList(QListWidget *list)
     list->setAlternatingRowColors(true);
 }
 
+void describe(QListWidget *list, const std::function<QString(int row)> &description)
+{
+    if (auto *painter = dynamic_cast<RowPainter *>(list->itemDelegate()))
+        painter->description = description;
+}
+
 QString text(int number, const QString &name)
 {
     return QString::number(number).rightJustified(3) + u' ' + name;
@@ -150,7 +183,7 @@ QListWidgetItem *append(QListWidget *list, const QString &name)
 
 QListWidgetItem *append(QListWidget *list, int number, const QString &name)
 {
-    auto *item = new QListWidgetItem(text(number, name));
+    auto *item = new Row(text(number, name));
     item->setSizeHint(rowSize);
     item->setToolTip(asPlainText(beginningOf(name)));
     list->addItem(item);

@@ -25,6 +25,10 @@ void prepareColouredList(QListWidget *list);
 /// colours, with every other row in the alternate one.
 void preparePlainList(QListWidget *list);
 
+/// What is told of each row besides its text, to screen readers only. It is asked when somebody listens: a
+/// list may have thousands of rows. The list has to be prepared before.
+void describe(QListWidget *list, const std::function<QString(int row)> &description);
+
 /// "  1 Bacon": the number right-aligned in three characters, a blank, the name.
 [[nodiscard]] QString text(int number, const QString &name);
 
@@ -38,8 +42,8 @@ struct Pick
     QString name;
     QString title; ///< in the tool tip; where the row shows a short name, the full one
     bool fits = true;
-    /// Says why it does not fit, in tool tip and accessible description. It is asked when somebody looks, as
-    /// long as the row is there: most rows of a long list are never looked at.
+    /// Says why it does not fit, in tool tip and behind the accessible description. It is asked when somebody
+    /// looks, as long as the row is there: most rows of a long list are never looked at.
     std::function<QString()> misfit = {};
 };
 

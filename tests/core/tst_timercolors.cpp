@@ -121,6 +121,9 @@ private slots:
     void onlyFirstIsNone();
     void unknownNames_data();
     void unknownNames();
+    void words_data();
+    void words();
+    void wordsTellColorsApart();
 };
 
 void TestTimerColors::palette_data()
@@ -171,6 +174,36 @@ void TestTimerColors::unknownNames()
 {
     QFETCH(QString, name);
     QCOMPARE(&timerColorByName(name), &timerPalette().front());
+}
+
+void TestTimerColors::words_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("none") << 0 << u"No color"_s;
+    QTest::newRow("first") << 1 << u"dark red, #700000"_s;
+    QTest::newRow("end of the row") << 8 << u"pale red, #ffc0c0"_s;
+    QTest::newRow("darkest") << 9 << u"very dark orange, #402100"_s;
+    QTest::newRow("full") << 49 << u"full blue, #0000ff"_s;
+    QTest::newRow("last but one row") << 66 << u"medium magenta, #cf00cf"_s;
+    QTest::newRow("black") << 72 << u"black, #000000"_s;
+    QTest::newRow("gray") << 76 << u"gray, #808080"_s;
+    QTest::newRow("white") << 80 << u"white, #ffffff"_s;
+}
+
+void TestTimerColors::words()
+{
+    QFETCH(const int, index);
+    QFETCH(const QString, words);
+    QCOMPARE(colorWords(timerPalette()[std::size_t(index)]), words);
+}
+
+void TestTimerColors::wordsTellColorsApart()
+{
+    QSet<QString> words;
+    for (const TimerColor &entry : timerPalette())
+        words.insert(colorWords(entry).section(u',', 0, 0));
+    QCOMPARE(words.size(), 81);
 }
 
 QTEST_APPLESS_MAIN(TestTimerColors)

@@ -110,7 +110,10 @@ void TestTimerColor::pickerShowsThePalette()
         QCOMPARE(button->text(), u" "_s);
         QCOMPARE(button->size(), QSize(25, 25));
         QCOMPARE(button->icon().isNull(), index != 0);
-        QCOMPARE(button->accessibleName(), index == 0 ? u"No color"_s : colorName(index));
+        if (index == 0)
+            QCOMPARE(button->accessibleName(), u"No color"_s);
+        else
+            QVERIFY(button->accessibleName().endsWith(u", "_s + colorName(index)));
         QCOMPARE(button->toolTip(), QString()); // it would be drawn on the button's colour
     }
     QCOMPARE(colorButton(picker, 0)->iconSize(), QSize(25, 25));

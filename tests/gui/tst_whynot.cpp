@@ -26,9 +26,10 @@ QString textOf(const QDialog &dialog, const char *label)
     return shown.isVisible() ? shown.text() : u"(hidden)"_s;
 }
 
+// Behind the settings that every row tells.
 QString reasonOf(const QDialog &dialog, int row)
 {
-    return listOf(dialog).item(row)->data(Qt::AccessibleDescriptionRole).toString();
+    return listOf(dialog).item(row)->data(Qt::AccessibleDescriptionRole).toString().section(u". "_s, 1);
 }
 
 /// As it is read on the screen.

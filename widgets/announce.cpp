@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "widgets/announce.h"
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QListWidget>
+
+#include "widgets/longtext.h"
+
+namespace announce {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Announce)
+};
+
+void send(QObject *about, QAccessible::Event what)
+{
+    QAccessibleEvent event(about, what);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
+
+// Readers on Linux are passed the changed name, others the alert.
+void news(QLabel *label, const QString &text)
+{
+    const bool isSame = label->text() == text;
+    label->setText(text); // tells of another name by itself
+    if (!label->isVisible())
+        return;
+    if (isSame)
+        send(label, QAccessible::NameChanged);
+    send(label, QAccessible::Alert);
+}
+
+void checkMark(QListWidget *list, int row)
+{
+    if (!QAccessible::isActive() || !list->isVisible())
+        return;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(list, changed);
+    event.setChild(row);
+    QAccessible::updateAccessibility(&event);
+}
+
+void pair(const QLabel *label, QLabel *value)
+{
+    pair(label, value, value->text());
+}
+
+void pair(const QLabel *label, QLabel *value, const QString &told)
+{
+    const QString name = told.isEmpty() ? QString() : Text::tr("%1 %2").arg(label->text(), beginningOf(told));
+    if (name != value->accessibleName())
+        value->setAccessibleName(name);
+}
+
+} // namespace announce
