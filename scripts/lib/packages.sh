@@ -10,6 +10,8 @@
                     qt6-tools-dev-tools)
     # The lists ask for "Courier New", for which fontconfig takes Liberation Mono.
     packages_fonts=(fonts-dejavu-core fonts-liberation fonts-noto-core)
+    # A screen reader's side of the programs, on a display of its own.
+    packages_access=(at-spi2-core dbus-daemon libx11-6 libxtst6 openbox python3-gi xvfb)
     packages_display=(x11-utils)
     packages_wayland=(qt6-wayland)
     packages_tour=(openbox x11-utils xvfb)
