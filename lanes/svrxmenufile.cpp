@@ -223,7 +223,8 @@ namespace {
 void tellNote(QSpinBox *box, QLabel *note)
 {
     note->setHidden(note->text().isEmpty());
-    box->setAccessibleDescription(note->text());
+    if (note->text() != box->accessibleDescription())
+        box->setAccessibleDescription(note->text());
 }
 
 } // namespace

@@ -86,8 +86,10 @@ void BinGrid::showContent(Bin bin, const QString &text, const QString &remark) c
     shown->setText(text);
     shown->setShortcut({}); // an ampersand is part of the name, no key opens a bin
     const QString content = text.isEmpty() ? tr("Empty") : beginningOf(text);
-    const QString name = tr("Row %1, Bin %2: %3").arg(bin.row + 1).arg(bin.slot + 1).arg(content);
-    shown->setAccessibleName(remark.isEmpty() ? name : tr("%1, %2").arg(name, remark));
+    const QString place = tr("Row %1, Bin %2: %3").arg(bin.row + 1).arg(bin.slot + 1).arg(content);
+    const QString name = remark.isEmpty() ? place : tr("%1, %2").arg(place, remark);
+    if (name != shown->accessibleName()) // else the whole grid would be told of at each change
+        shown->setAccessibleName(name);
 }
 
 std::optional<Bin> BinGrid::binOf(const QPushButton *button) const

@@ -16,7 +16,7 @@ from gi.repository import Gio, GLib
 ROOT = "/org/a11y/atspi/accessible/root"
 NULL = "/org/a11y/atspi/null"
 REGISTRY = "org.a11y.atspi.Registry"
-DEADLINE = 60  # in seconds; what has not come by then does not come
+DEADLINE = 20  # in seconds; what has not come by then does not come
 
 # Those that a table tells, by their number on the bus.
 STATES = {"active": 1, "checked": 4, "enabled": 8, "focusable": 11, "focused": 12, "modal": 16, "selected": 23,
@@ -116,6 +116,9 @@ class Node:
     def children(self):
         return [Node(self._bus, *each) for each in self._ask("GetChildren")[0] if each[1] != NULL]
 
+    def parent(self):
+        return Node(self._bus, *self._property("Parent"))
+
     def role(self):
         return self._ask("GetRoleName")[0]
 
@@ -130,10 +133,13 @@ class Node:
         bits = low | high << 32
         return {state for state, bit in STATES.items() if bits >> bit & 1}
 
-    def act(self, wanted):
-        """Does what a screen reader offers to do with the object, such as "Press"."""
-        actions = [each[0] for each in self._ask("GetActions", interface="org.a11y.atspi.Action")[0]]
-        self._ask("DoAction", GLib.Variant("(i)", (actions.index(wanted),)), "org.a11y.atspi.Action")
+    def act(self, *wanted):
+        """Does the first of these that a screen reader offers to do with the object, such as "Press"."""
+        offered = [each[0] for each in self._ask("GetActions", interface="org.a11y.atspi.Action")[0]]
+        index = next((offered.index(each) for each in wanted if each in offered), None)
+        if index is None:
+            raise AssertionError(f"{self.name()} offers {offered}")
+        self._ask("DoAction", GLib.Variant("(i)", (index,)), "org.a11y.atspi.Action")
 
     def enter(self, text):
         self._ask("SetTextContents", GLib.Variant("(s)", (text,)), "org.a11y.atspi.EditableText")

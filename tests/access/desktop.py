@@ -5,7 +5,14 @@
 
 import ctypes
 import os
+import signal
 import subprocess
+
+
+def _end_with_parent():
+    """A test that is killed because it hangs leaves nothing behind."""
+    set_parent_death_signal = 1
+    ctypes.CDLL(None).prctl(set_parent_death_signal, signal.SIGTERM)
 
 
 class Desktop:
@@ -18,6 +25,7 @@ class Desktop:
             "PATH": os.environ["PATH"], "HOME": folder, "XDG_RUNTIME_DIR": folder, "TMPDIR": folder,
             "LANG": "C.UTF-8", "LC_ALL": "C.UTF-8", "GSETTINGS_BACKEND": "memory", "QT_QPA_PLATFORM": "xcb",
             "QT_SCALE_FACTOR": "1"}
+        self.environment |= {name: value for name, value in os.environ.items() if name.endswith("SAN_OPTIONS")}
         self.keyboard = None
         self.bus_address = None
 
@@ -39,7 +47,7 @@ class Desktop:
 
     def start(self, arguments, **options):
         """A process that is ended with the desktop."""
-        process = subprocess.Popen(arguments, env=self.environment, **options)
+        process = subprocess.Popen(arguments, env=self.environment, preexec_fn=_end_with_parent, **options)
         self._processes.append(process)
         return process
 
@@ -80,8 +88,6 @@ class Desktop:
 class Keyboard:
     """Keys as from a keyboard, named as X names them: "Down", "Alt_L", "a"."""
 
-    _extended = {" ": "space", "/": "slash", ".": "period", "-": "minus", "_": "underscore"}
-
     def __init__(self, display_name):
         self._x11 = ctypes.CDLL("libX11.so.6")
         self._xtst = ctypes.CDLL("libXtst.so.6")
@@ -90,6 +96,7 @@ class Keyboard:
         self._display = ctypes.c_void_p(self._x11.XOpenDisplay(display_name.encode()))
         if not self._display:
             raise RuntimeError("no display for keys")
+        self._x11.XAutoRepeatOff(self._display)
 
     def set(self, key, down):
         keysym = self._x11.XStringToKeysym(key.encode())
@@ -105,11 +112,3 @@ class Keyboard:
             self.set(key, True)
         for key in reversed(keys):
             self.set(key, False)
-
-    def type(self, text):
-        for letter in text:
-            key = self._extended.get(letter, letter)
-            if letter == "_" or letter.isupper():
-                self.press("Shift_L", key)
-            else:
-                self.press(key)

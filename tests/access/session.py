@@ -9,205 +9,215 @@ Each step does something, waits for what has to come of it, and for as many even
 that shows a window lists what is in it. --write makes the table anew: read the difference before you commit it.
 """
 
+import copy
 import difflib
+import json
 import os
-import shutil
 import sys
 import tempfile
-import time
 
 from bus import Bus, Gone
 from desktop import Desktop
+from reader import MAIN, Expected, Reader
 
-QUIET = 1.5  # in seconds; only while the table is written: then all events of a step have come
-
-MOST_STOPS = 120  # of Tab in a window
-TOLD_STATES = ("checked", "selected", "focused")
+QUESTION = "Save..."
 
 
-class Session:
-    def __init__(self, desktop, bus, program, expected):
-        self.keys = desktop.keyboard
-        self._bus = bus
-        self._program = program
-        self._expected = expected
-        self.told = []
-
-    # What is there
-
-    def windows(self):
-        try:
-            return [each for each in self._program.children() if "showing" in each.states()]
-        except Gone:
-            return []
-
-    def window(self, title):
-        """The window, once it can be worked with."""
-        def active():
-            try:
-                return next((each for each in self.windows() if each.name() == title and (title == MAIN or "active" in each.states())),
-                            None)
-            except Gone:
-                return None
-        return self._bus.wait_for(f"the window {title}", active)
-
-    def find(self, role, name):
-        def found():
-            return next((node for each in reversed(self.windows()) if (node := each.find(role, name))), None)
-        return self._bus.wait_for(f"{role} {name}", found)
-
-    # What is done
-
-    def focus(self, role, name):
-        """Goes there with Tab; to a list even where Qt has the focus on one of its rows."""
-        node = self.find(role, name)
-        for _ in range(MOST_STOPS):
-            if self._has_focus(node):
-                return
-            before = self._focus_count()
-            self.keys.press("Tab")
-            self._bus.wait_for("the next stop", lambda: self._focus_count() > before)
-        raise AssertionError(f"Tab does not come to {role} {name}")
-
-    @staticmethod
-    def _has_focus(node):
-        return any("focused" in each.states() for each in [node, *(node.children() if node.role() == "list" else [])])
-
-    def _focus_count(self):
-        return sum(each.kind == "StateChanged" and each.detail == "focused" and each.value for each in
-                   self._bus.events)
-
-    def wait_for_focus(self, role, name):
-        node = self.find(role, name)
-        self._bus.wait_for(f"focus on {role} {name}", lambda: "focused" in node.states())
-
-    def press(self, role, name):
-        self.find(role, name).act("Press")
-
-    def turn_to(self, tab):
-        self.find("page tab", tab).act("Press")
-
-    def closed(self, title):
-        self._bus.wait_for(f"the end of {title}", lambda: all(each.name() != title for each in self.windows()))
-
-    def choose(self, menu, letter):
-        """An entry of the menu bar, by its letter."""
-        self.find("menu item", menu).act("ShowMenu")
-        self.find("menu item", {"File": "New", "Help": "About"}[menu])
-        self.keys.press(letter)
-
-    def enter_path(self, title, path):
-        self.window(title)
-        self.find("text", "File name:").enter(path)
-        self.find("push button", "Open").act("Press")
-
-    # What is told
-
-    def step(self, title, act, until, shows=None):
-        """`until` waits for what the step has to come to; `shows` is the title of a window to list."""
-        self._bus.take_what_came()
-        del self._bus.events[:]
-        act()
-        until()
-        self._wait_for_events(self._expected.get(title), opens=shows)
-        self.told.append(f"== {title}")
-        self.told += [self._describe(event) for event in self._told_events(opens=shows)]
-        if shows:
-            self.told += self._list(self.window(shows))
-
-    def show(self, title, window):
-        """Lists a window, whatever was told before."""
-        self.told.append(f"== {title}")
-        self.told += self._list(self.window(window))
-
-    def _told_events(self, opens):
-        """What is told while a window is built nobody hears: of that only where the focus is counts."""
-        told = [event for event in self._bus.events
-                if event.kind == "StateChanged" and event.detail in (("focused",) if opens else TOLD_STATES)
-                or not opens and event.kind in ("PropertyChange", "SelectionChanged")]
-        # The window manager gives the focus back when it gets to it: that comes in an order of its own.
-        return sorted(told, key=lambda event: event.detail == "focused")
-
-    def _wait_for_events(self, expected, opens):
-        if expected is None:
-            end = time.monotonic() + QUIET
-            while time.monotonic() < end:
-                self._bus.take_what_came()
-                time.sleep(0.01)
-            return
-        try:
-            self._bus.wait_for("events", lambda: len(self._told_events(opens)) >= expected)
-        except AssertionError:
-            pass  # the comparison says which are missing
-        self._program.name()  # what was told before the answer has come with it
-        self._bus.take_what_came()
-
-    @staticmethod
-    def _describe(event):
-        what = event.detail or event.kind
-        if event.kind == "StateChanged":
-            what += " on" if event.value else " off"
-        try:
-            return f"! {what}: {event.node.role()} \"{event.node.name()}\""
-        except Gone:
-            return f"! {what}: (closed)"
-
-    @staticmethod
-    def _list(window):
-        lines = []
-        for depth, node in window.walk():
-            states = node.states() - {"showing", "active"}
-            told = sorted(states - {"enabled"}) + ([] if "enabled" in states else ["disabled"])
-            line = f"{'  ' * depth}{node.role()} \"{node.name()}\""
-            if description := node.description().replace("\n", ", "):
-                line += f" - {description}"
-            lines.append(line + (f" [{' '.join(told)}]" if told else ""))
-        return lines
+def start(r):
+    r.show("the program starts", MAIN)
+    r.step("Help, About", lambda: r.choose("Help", "a"), shows="About...")
+    r.step("Escape", lambda: r.keys.press("Escape"), lambda: r.closed("About..."))
+    r.step("File, New", lambda: r.choose("File", "n"), shows="Select Product Line")
 
 
-MAIN = "Varno Plexora"
+def choose_line(r, line, title):
+    """From the chooser to the first window of a line, of that title."""
+    if line != "QHX/ZPV":
+        r.choose("File", "n")
+        r.window("Select Product Line")
+    name = r.find("combo box", "").name()
+    while name != line:
+        before = name
+        r.keys.press("Down")
+        name = r.wait_for("another line", lambda: (now := r.find("combo box", "").name()) != before and now)
+    r.step(f"a new menu: {line}", lambda: r.press("push button", "Save"), lambda: r.closed("Select Product Line"),
+           shows=title)
 
 
-def work(session, menu):
-    """The session: every kind of window, and a menu that is worked on."""
-    s = session
-    s.show("the program starts", MAIN)
-    s.step("File, New", lambda: s.choose("File", "n"), lambda: s.window("Select Product Line"), "Select Product Line")
-    s.step("Escape", lambda: s.keys.press("Escape"), lambda: s.window(MAIN))
-    s.choose("File", "o")  # what the file dialog tells is not the program's
-    s.enter_path("Open JSON Menu", menu)
-    s.find("label", "Opened ")
-    s.wait_for_focus("push button", "Configuration")
-    s.show("a menu is open", MAIN)
-    s.step("multiple selection", lambda: s.press("push button", "Multiple Selection"),
-           lambda: s.find("push button", "Cancel Selection"))
-    s.step("the selection is cancelled", lambda: s.press("push button", "Cancel Selection"),
-           lambda: s.find("push button", "Multiple Selection"))
-    s.step("the groups", lambda: s.turn_to("Groups"), lambda: s.find("list", "Groups"), MAIN)
-    bins(s)
-    s.step("File, Save", lambda: s.choose("File", "s"), lambda: s.find("label", "Saved "))
+def open_menu(r, path):
+    r.choose("File", "o")  # what the file dialog tells is not the program's
+    r.window("Open JSON Menu")
+    r.find("text", "File name:").enter(path)
+    r.press("push button", "Open")
+    r.closed("Open JSON Menu")
+    r.find("label", "Opened ")
+    r.show("a menu is open", MAIN)
 
 
-def bins(s):
-    s.step("the day parts", lambda: s.turn_to("Day Parts"), lambda: s.find("push button", "Row 1, Bin 1"), MAIN)
-    s.step("a bin is pressed", lambda: s.press("push button", "Row 1, Bin 1: Empty"),
-           lambda: s.window("Assign Product/Group"), "Assign Product/Group")
-    s.step("an entry is selected", lambda: (s.focus("list", "Products and Groups"), s.keys.press("Down"), s.keys.press("Up")),
-           lambda: s.find("label", "Holding Time: "))
-    s.step("the entry is chosen", lambda: s.press("push button", "Select"), lambda: (s.closed("Assign Product/Group"), s.wait_for_focus("push button", "Configuration")))
+def select_row(r, title, name, row):
+    """Selects a row of a list with the keyboard, after which the details tell of it."""
+    def act():
+        r.focus("list", name)
+        r.keys.press("Home")
+    r.step(title, act, lambda: r.wait_for("the row", lambda: "selected" in r.find("list item", row).states()))
 
 
-def expected_events(table):
-    """The number of events of each step."""
-    counts = {}
-    title = None
-    for line in table:
-        if line.startswith("== "):
-            title = line[3:]
-            counts[title] = 0
-        elif line.startswith("! "):
-            counts[title] += 1
-    return counts
+def products(r):
+    select_row(r, "a product is selected", "Products", "  1")
+    r.step("the product is edited", lambda: r.press("push button", "Edit"), shows="Product Edit")
+    r.step("its color is chosen", lambda: r.press("push button", "Timer Color"), shows="Colors")
+    r.step("a color is picked", lambda: r.press("push button", "full blue"), lambda: r.closed("Colors"))
+    r.step("the product is saved", lambda: r.press("push button", "Save"), lambda: r.closed("Product Edit"))
+    multiple_selection(r)
+
+
+def multiple_selection(r):
+    def mark():
+        r.focus("list", "Products")
+        r.keys.press("Down")
+        r.keys.press("space")
+    r.step("multiple selection", lambda: r.press("push button", "Multiple Selection"),
+           lambda: r.find("push button", "Cancel Selection"))
+    r.step("a row is marked", mark,
+           lambda: r.wait_for("the mark", lambda: r.find("push button", "Delete").states() >= {"enabled"}))
+    r.step("Escape leaves the mode", lambda: r.keys.press("Escape"),
+           lambda: r.find("push button", "Multiple Selection"))
+
+
+def groups(r):
+    r.step("the groups", lambda: r.press("page tab", "Groups"), lambda: r.find("list", "Groups"), shows=MAIN)
+    select_row(r, "a group is selected", "Groups", "  1")
+    r.step("the group is edited", lambda: r.press("push button", "Edit"), shows="Group Edit")
+    r.find("text", "Name").enter("")
+    r.step("it cannot be saved without a name", lambda: r.press("push button", "Save"), shows="Error")
+    r.step("the error is closed", lambda: r.press("push button", "Close"), lambda: r.closed("Error"))
+    r.find("text", "Name").enter("Meats")
+    default_member(r)
+    r.step("the group is saved", lambda: r.press("push button", "Save"), lambda: r.closed("Group Edit"))
+
+
+def default_member(r):
+    def act():
+        r.focus("list", "Group Products")
+        r.keys.press("End")
+        r.keys.press("space")
+
+    def is_default():
+        return "checked" in r.find("list", "Group Products").children()[-1].states()
+    r.step("another member is the default", act, lambda: r.wait_for("the default", is_default))
+
+
+def bins(r):
+    first = "Row 1, Bin 1: "
+    r.step("the day parts", lambda: r.press("page tab", "Day Parts"), lambda: r.find("push button", first), shows=MAIN)
+    r.step("a bin is pressed", lambda: r.press("push button", first), shows="Assign Product/Group")
+    select_row(r, "an entry is selected", "Products and Groups", "  1")
+    r.step("the entry is chosen", lambda: r.press("push button", "Select"), lambda: r.closed("Assign Product/Group"))
+    removal(r, first)
+    r.step("another day part is shown", lambda: (r.focus("combo box", "BREAKFAST"), r.keys.press("Down")),
+           lambda: r.find("combo box", "LUNCH"))
+    r.step("the day part is edited", lambda: r.press("push button", "Edit"), shows="Edit Day Part")
+    r.step("that is cancelled", lambda: r.press("push button", "Cancel"), lambda: r.closed("Edit Day Part"))
+    r.step("back to the first day part", lambda: (r.focus("combo box", "LUNCH"), r.keys.press("Up")),
+           lambda: r.find("combo box", "BREAKFAST"))
+
+
+def removal(r, name):
+    """In the mode a filled bin is a check box."""
+    def hold():
+        r.focus("push button", name)
+        r.keys.set("space", True)
+
+    def press_second():
+        r.press("check box", "Row 1, Bin 2: ")
+
+    def marked(count):
+        r.wait_for(f"{count} marks", lambda: sum("checked" in r.find("check box", f"Row 1, Bin {number}: ").states()
+                                                 for number in (1, 2)) == count)
+    r.step("a bin is held", hold, lambda: marked(1))
+    r.keys.set("space", False)
+    r.step("another bin is marked", press_second, lambda: marked(2))
+    r.step("its mark is taken off", press_second, lambda: marked(1))
+    r.step("the bin is emptied", lambda: r.press("push button", "Remove"),
+           lambda: r.find("push button", name + "Empty"))
+
+
+def holding(r, menu):
+    choose_line(r, "QHX/ZPV", "Configuration")
+    r.step("the configuration is cancelled", lambda: r.keys.press("Escape"), lambda: r.closed("Configuration"))
+    open_menu(r, menu)
+    products(r)
+    groups(r)
+    bins(r)
+    r.step("File, Save", lambda: r.choose("File", "s"), lambda: r.find("label", "Saved "))
+    r.step("the menu is closed", lambda: r.press("push button", "Close"), shows=QUESTION)
+    leave(r)
+
+
+def leave(r):
+    """Answers the question that closing asks."""
+    r.press("push button", "No")
+    r.closed(QUESTION)
+    r.wait_for("an empty area", lambda: not any(node.role() == "dialog" for _, node in r.window(MAIN).walk()))
+
+
+def timer_bar(r):
+    choose_line(r, "Timer Bar Cabinet", "Configuration")
+    r.step("a Timer Bar menu is made", lambda: r.press("push button", "Save"), shows=MAIN)
+    select_row(r, "a Timer Bar product is selected", "Products", "  1")
+    r.step("the Timer Bar product is edited", lambda: r.press("push button", "Edit"), shows="Product Edit")
+    r.step("the edit is cancelled", lambda: r.press("push button", "Cancel"), lambda: r.closed("Product Edit"))
+    r.step("the Timer Bar day parts", lambda: r.press("page tab", "Day Parts"),
+           lambda: r.find("push button", "Row 1, Bin 1: "), shows=MAIN)
+    r.step("a Timer Bar bin is pressed", lambda: r.press("push button", "Row 1, Bin 1: "), shows="Assign Product")
+    select_row(r, "a Timer Bar entry is selected", "Products", "  1")
+    r.step("the Timer Bar entry is chosen", lambda: r.press("push button", "Select"),
+           lambda: r.closed("Assign Product"))
+    r.press("push button", "Close")
+    leave(r)
+
+
+def lanes(r):
+    choose_line(r, "Savorix", MAIN)
+
+    def has_three():
+        return "enabled" in r.find("spin box", "Temperature of lane 3").states()
+    r.step("another number of lanes", lambda: (r.focus("combo box", "Double Lane"), r.keys.press("Down")),
+           lambda: r.wait_for("three lanes", has_three))
+
+
+def work(r, menu):
+    """The session: every window, and a menu that is worked on."""
+    start(r)
+    holding(r, menu)
+    timer_bar(r)
+    lanes(r)
+
+
+def named(entry, field, name):
+    copied = copy.deepcopy(entry)
+    copied[field] = {language: name for language in entry[field]}
+    return copied
+
+
+def write_menu(sample, path):
+    """A menu like the sample, with a product that stands in a bin, one that fits no other, and a group."""
+    with open(sample, encoding="utf-8") as file:
+        whole = json.load(file)
+    menu = whole["menu"]
+    product, group = menu["products"][0], menu["productGroups"][0]
+    menu["products"] = [named(product, "productName", name) | {"productId": number}
+                        for number, name in enumerate(("Bacon", "Chili", "Ham", "Gravy"), start=1)]
+    menu["products"][3] |= {"upperTemp": 190, "lowerTemp": 180}
+    members = {"groupId": 9, "products": [1, 2, 3], "defaultProd": 0}
+    menu["productGroups"] = [named(group, "groupName", "Meats") | members]
+    menu["layout"] = [named(daypart, "daypartName", name)
+                      for daypart, name in zip(menu["layout"], ("BREAKFAST", "LUNCH"))]
+    for daypart in menu["layout"]:
+        for location in daypart["productLocations"]:
+            location["productId"] = 2 if location["bin"] == 2 else 0
+    with open(path, "w", encoding="utf-8") as file:
+        json.dump(whole, file)
 
 
 def main(program, folder, write=False):
@@ -217,17 +227,17 @@ def main(program, folder, write=False):
         with open(path, encoding="utf-8") as file:
             table = file.read().splitlines()
     with tempfile.TemporaryDirectory() as home, Desktop(home) as desktop:
-        menu = shutil.copy(os.path.join(folder, "..", "data", "rich.json"), os.path.join(home, "menu.json"))
+        menu = os.path.join(home, "menu.json")
+        write_menu(os.path.join(folder, "..", "data", "rich.json"), menu)
         bus = Bus(desktop.bus_address)
         desktop.start([program])
-        session = Session(desktop, bus, bus.wait_for("the program", bus.program), expected_events(table))
+        reader = Reader(bus, desktop.keyboard, home, None if write else Expected(table))
         try:
-            work(session, menu)
+            work(reader, menu)
         except (AssertionError, Gone) as error:
-            session.told.append(f"The session ended: {error}")
-            if write:
-                session.told += [line for each in session.windows() for line in session._list(each)]
-    told = [line.replace(home, "HOME") for line in session.told]
+            reader.told.append(f"The session ended: {error}")
+            reader.told += [line for each in reader.windows() for line in reader.list(each)]
+    told = reader.told
     if write:
         with open(path, "w", encoding="utf-8") as file:
             file.write("\n".join(told) + "\n")
