@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QListWidget>
 
+#include "widgets/announce.h"
 #include "widgets/namelabel.h"
 
 using namespace Qt::StringLiterals;
@@ -76,8 +77,9 @@ void takeAnyWidth(QWidget &widget)
 
 void show(QLabel &label, const QString &text)
 {
-    label.setText(text);
     label.setHidden(text.isEmpty());
+    if (text != label.text())
+        announce::news(&label, text);
 }
 
 } // namespace

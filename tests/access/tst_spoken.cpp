@@ -49,6 +49,7 @@ private slots:
     void multipleSelectionIsTold();
     void pickersRowsTellWhatTheyHold();
     void groupEditorTellsWhatItHolds();
+    void demandOfTheFirstMemberIsTold();
     void defaultMemberIsTold();
     void removalModeIsTold();
     void otherDaypartIsTold();
@@ -156,6 +157,19 @@ void TestSpoken::groupEditorTellsWhatItHolds()
                       "Does not fit: 210 °F / 200 °F, this group holds 200 °F / 200 °F"_s);
         REQUIRE_EQUAL(spokenDescription(groupedit::members(dialog), 1), settings);
         REQUIRE_EQUAL(spokenName(ui::get<QLabel>(dialog, "txtTemp1")), u"Upper Temperature: 200°F"_s);
+        groupedit::cancel(dialog);
+    });
+}
+
+void TestSpoken::demandOfTheFirstMemberIsTold()
+{
+    OpenEditor editor(groupedit::menuWith(groupedit::emptyGroup()));
+    groupedit::edit(editor, [](GroupEdit &dialog, ModalAnswers &) {
+        Heard heard;
+        groupedit::add(dialog, 0);
+        REQUIRE_EQUAL(heard.take().filter(u"alert lblDemand: Needs 200 °F / 200 °F"_s).size(), 1);
+        groupedit::add(dialog, 1);
+        REQUIRE_EQUAL(heard.take().filter(u"alert lblDemand"_s).size(), 0);
         groupedit::cancel(dialog);
     });
 }
