@@ -9,8 +9,8 @@
 
 #include "tests/support/require.h"
 
-/// What a screen reader is told while this lives, of objects that are shown: "name lblSaved: Saved",
-/// "check listWidgetProducts/1: on". There may be one at a time.
+/// What a screen reader is told while this lives, of objects that are shown, and any alert: "name lblSaved:
+/// Saved", "check listWidgetProducts/1: on". There may be one at a time.
 class Heard
 {
 public:
@@ -40,7 +40,8 @@ private:
     static void note(QAccessibleEvent *event)
     {
         const auto *widget = qobject_cast<QWidget *>(event->object());
-        if (!widget || !widget->isVisible())
+        // An alert of what nobody sees is never right.
+        if (!widget || (!widget->isVisible() && event->type() != QAccessible::Alert))
             return;
         const QString what = textOf(*event);
         if (!what.isEmpty())

@@ -29,10 +29,10 @@ private slots:
 void TestSpokenLines::editorsHaveTheirTitles()
 {
     OpenTimerBar timerBar(baconHamChili());
-    QCOMPARE(spokenName(*timerBar), u"Menu File - menu.cbr"_s);
+    QCOMPARE(timerBar->accessibleName(), u"Menu File - menu.cbr"_s);
     OpenLaneEditor lanes;
-    QCOMPARE(spokenName(*lanes), (*lanes).windowTitle());
-    QVERIFY(!spokenName(*lanes).isEmpty());
+    QCOMPARE((*lanes).accessibleName(), (*lanes).windowTitle());
+    QVERIFY(!(*lanes).accessibleName().isEmpty());
 }
 
 // While the old menu is read there is no window yet.
