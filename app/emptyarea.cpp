@@ -22,7 +22,7 @@ constexpr QColor textColor(0x20, 0x20, 0x20); // on the area's grey, which no pa
 
 void paintHowToBegin(QPainter &painter, const QRect &area, const QIcon &windowIcon)
 {
-    const QString text = Text::tr("File > New starts a menu, File > Open opens one");
+    const QString text = Text::tr("File > New starts a menu, File > Open opens one, or drop a file here");
     QRect place(0, 0, area.width(), iconSize + gap + 2 * painter.fontMetrics().lineSpacing());
     place.moveCenter(area.center());
     const QRect icon(place.center().x() - iconSize / 2, place.top(), iconSize, iconSize);

@@ -5,11 +5,14 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
+#include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMdiSubWindow>
+#include <QMimeData>
 #include <QScreen>
 
 #include "app/aboutapp.h"
@@ -28,6 +31,19 @@ namespace {
 
 constexpr int titleRoom = 32; // roughly what a window manager puts above a window
 
+// The paths of what Open would open.
+QStringList menuFilesIn(const QMimeData &data)
+{
+    QStringList paths;
+    const QList<QUrl> urls = data.urls();
+    for (const QUrl &url : urls) {
+        const QString path = url.toLocalFile();
+        if (productLineOfFile(path) && !QFileInfo(path).isDir())
+            paths.append(path);
+    }
+    return paths;
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
@@ -35,6 +51,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
 {
     m_ui->setupUi(this);
+    setAcceptDrops(true);
     // On a screen that is too low for its least size the status bar would lie below the edge.
     setMinimumSize(minimumSize().boundedTo(screen()->availableSize() - QSize(0, titleRoom)));
     setCentralWidget(m_ui->mdiArea);
@@ -137,6 +154,30 @@ void MainWindow::on_actionOpen_triggered()
     const QString path = QFileDialog::getOpenFileName(this, tr("Open JSON Menu"), {}, openFilter());
     if (const ProductLine *line = productLineOfFile(path))
         openEditor(*line, path);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (QApplication::activeModalWidget() || menuFilesIn(*event->mimeData()).isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction); // a move would take the file away from where it is
+    event->accept();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    if (QApplication::activeModalWidget())
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // Later, as the other program waits until the drop has been taken, and a file may bring up a message.
+    QMetaObject::invokeMethod(
+        this,
+        [this, paths = menuFilesIn(*event->mimeData())] {
+            for (const QString &path : paths)
+                openEditor(*productLineOfFile(path), path);
+        },
+        Qt::QueuedConnection);
 }
 
 void MainWindow::openEditor(const ProductLine &line, const QString &path)

@@ -40,6 +40,12 @@ public slots:
     void on_action_Save_triggered();
     void on_actionSaveAs_triggered();
 
+protected:
+    /// The pointer shows whether Open would open any of what is dragged; never while a dialog is open.
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    /// Opens each file as if it had been chosen in Open.
+    void dropEvent(QDropEvent *event) override;
+
 private:
     void prepareStatusBar();
     void tell(const QString &message);
