@@ -86,7 +86,10 @@ void MainWindow::prepareStatusBar()
 void MainWindow::tell(const QString &message)
 {
     const QString shown = beginningOf(message);
-    announce::news(m_told, shown);
+    if (shown.isEmpty())
+        m_told->clear();
+    else
+        announce::news(m_told, shown);
     m_told->setToolTip(asPlainText(shown)); // the whole path, where the bar is too short for it
     showSuffixNote();
 }
@@ -97,7 +100,8 @@ void MainWindow::showSuffixNote()
     const ProductLine *line = subWindow ? productLineOf(*subWindow) : nullptr;
     const MenuEditor *editor = line ? menuEditorIn(*subWindow) : nullptr;
     const QString path = editor ? editor->filePath() : QString();
-    const bool opens = path.isEmpty() || productLineOfFile(path) == line;
+    // An old menu's ending would be found, but it is not what a save writes.
+    const bool opens = path.isEmpty() || path.endsWith(line->suffixes.first(), Qt::CaseInsensitive);
     const QString note =
         opens ? QString() : tr("Without %1 this program will not open it.").arg(line->suffixes.first());
     m_suffixNote->setHidden(opens);

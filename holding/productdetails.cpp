@@ -63,13 +63,16 @@ void ProductDetails::showEntry(const ProductInfo *entry, const holding::CabinetC
         const bool shown = row.detail->isShown(configuration);
         row.label->setVisible(shown);
         row.value->setVisible(shown);
-        row.value->setText(entry && row.detail->text ? row.detail->text(*entry, configuration) : QString());
+        if (!row.detail->text)
+            continue; // the timer color, which is more than a text
+        row.value->setText(entry ? row.detail->text(*entry, configuration) : QString());
         announce::pair(row.label, row.value);
     }
     showTimerColor(entry);
     if (m_empty == static_cast<bool>(entry))
         update();
     m_empty = !entry;
+    announce::description(this, m_empty ? m_emptyHint : QString());
 }
 
 void ProductDetails::paintEvent([[maybe_unused]] QPaintEvent *event)

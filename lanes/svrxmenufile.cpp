@@ -112,24 +112,25 @@ bool SvrxMenuFile::readMenuFile()
 
 bool SvrxMenuFile::save()
 {
-    return !filePath().isEmpty() && writeConfigurationFile(filePath());
+    return !filePath().isEmpty() && writeOnlyConfiguration(filePath());
 }
 
 bool SvrxMenuFile::writeToFile(const QString &path)
 {
     if (!checkName(path))
         return false;
+    if (!writeConfigurationFile(path))
+        return false;
     const QString production = lanes::productionPath(path);
-    const bool saved = writeConfigurationFile(path) && writeEolProdMenuFile(production);
-    if (saved)
-        emit told(tr("Saved %1 and %2").arg(path, production));
+    const bool saved = writeEolProdMenuFile(production);
+    emit told(saved ? tr("Saved %1 and %2").arg(path, production) : savedAlone(path));
     return saved;
 }
 
 // Closing leaves the production file as it is: only a name that is chosen in the main window writes both.
 bool SvrxMenuFile::writeOnClosing(const QString &path)
 {
-    return checkName(path) && writeConfigurationFile(path);
+    return checkName(path) && writeOnlyConfiguration(path);
 }
 
 bool SvrxMenuFile::checkName(const QString &path)
@@ -145,13 +146,26 @@ QByteArray SvrxMenuFile::contents() const
     return lanes::writeConfiguration(m_configuration);
 }
 
+QString SvrxMenuFile::savedAlone(const QString &path)
+{
+    return tr("Saved %1. The production file was not written.").arg(path);
+}
+
+bool SvrxMenuFile::writeOnlyConfiguration(const QString &path)
+{
+    const bool saved = writeConfigurationFile(path);
+    if (saved)
+        emit told(savedAlone(path));
+    return saved;
+}
+
 bool SvrxMenuFile::writeConfigurationFile(const QString &path)
 {
     if (path != filePath())
         setFilePath(path);
     const QByteArray text = contents();
     if (writeFile(path, text)) {
-        noteSaved(text, tr("Saved %1. The production file was not written.").arg(path));
+        noteSaved(text, {});
         return true;
     }
     noteChange();

@@ -83,6 +83,9 @@ private:
     [[nodiscard]] bool isEntry(const QSpinBox *box, int value, int stored) const;
     void storeFanSpeed(int lane, int value);
     void storeTemperature(int lane, int value);
+    [[nodiscard]] static QString savedAlone(const QString &path);
+    bool writeOnlyConfiguration(const QString &path);
+    /// Tells nothing yet: what to tell depends on the production file.
     bool writeConfigurationFile(const QString &path);
     [[nodiscard]] bool checkName(const QString &path);
 

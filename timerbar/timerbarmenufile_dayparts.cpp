@@ -18,6 +18,7 @@
 #include "timerbar/timerbardaypartassignitem.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/binbutton.h"
+#include "widgets/enterkey.h"
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
 
@@ -121,8 +122,9 @@ void TimerBarMenuFile::copyBins()
         return;
     const QStringList names = timerbar::daypartNames();
     if (m_menu.hasFilledBins(daypart) &&
-        !messages::confirm(this, tr("Copy"),
-                           tr("Replace the bins of %1 by those of %2?").arg(names[daypart], names[*source])))
+        !messages::confirm(
+            this, tr("Copy Bins"),
+            tr("Replace the bins of %1 with those of %2?").arg(names[daypart], names[*source])))
         return;
     m_menu.copyBins(*source, daypart);
     loadCurrentDaypart();
@@ -140,6 +142,7 @@ std::optional<int> TimerBarMenuFile::askOtherDaypart(int daypart)
     dialog.setComboBoxItems(others);
     (void)dialog.minimumSizeHint(); // makes the buttons
     dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
+    letEnterPressFocusedButton(&dialog);
     if (dialog.exec() != Accepted)
         return std::nullopt;
     return names.indexOf(dialog.textValue());

@@ -17,6 +17,11 @@ namespace {
 
 constexpr QStringView hoursAndMinutes = u"HH:mm";
 
+QString emptyHint()
+{
+    return TimerBarProductDetails::tr("Select a product");
+}
+
 } // namespace
 
 TimerBarProductDetails::TimerBarProductDetails(QWidget *parent)
@@ -45,6 +50,7 @@ void TimerBarProductDetails::showProduct(const ProductInfo *product, int tempera
     if (m_empty == static_cast<bool>(product))
         update();
     m_empty = !product;
+    announce::description(this, m_empty ? emptyHint() : QString());
 }
 
 void TimerBarProductDetails::tellPairs()
@@ -62,7 +68,7 @@ void TimerBarProductDetails::paintEvent([[maybe_unused]] QPaintEvent *event)
     if (!m_empty)
         return;
     QPainter painter(this);
-    paintEmptyHint(painter, *this, rect().adjusted(m_ui->txtName->x(), 0, 0, 0), tr("Select a product"));
+    paintEmptyHint(painter, *this, rect().adjusted(m_ui->txtName->x(), 0, 0, 0), emptyHint());
 }
 
 void TimerBarProductDetails::setShortNameLabel(const QString &label)

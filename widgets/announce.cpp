@@ -62,4 +62,10 @@ void pair(const QLabel *label, QLabel *value, const QString &told)
         value->setAccessibleName(name);
 }
 
+void description(QWidget *widget, const QString &text)
+{
+    if (text != widget->accessibleDescription())
+        widget->setAccessibleDescription(text);
+}
+
 } // namespace announce

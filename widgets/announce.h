@@ -6,6 +6,7 @@
 class QLabel;
 class QListWidget;
 class QString;
+class QWidget;
 
 /// What a screen reader is to hear where Qt by itself tells it nothing, or too little. Nothing costs time
 /// while none is listening.
@@ -22,5 +23,8 @@ void checkMark(QListWidget *list, int row);
 void pair(const QLabel *label, QLabel *value);
 /// The same for a value that is shown by something else than its text.
 void pair(const QLabel *label, QLabel *value, const QString &told);
+
+/// What is painted in a widget while it is empty; told only where that changes.
+void description(QWidget *widget, const QString &text);
 
 } // namespace announce

@@ -106,8 +106,9 @@ void MenuEditor::noteSaved(const QByteArray &bytes, const QString &message)
 
 void MenuEditor::noteBroken()
 {
-    m_saved = SaveMark({});
-    showSaved(tr("Changed since the last save"));
+    if (m_saved)
+        m_saved = SaveMark({});
+    noteChange();
 }
 
 void MenuEditor::noteImported(const QString &fileName)

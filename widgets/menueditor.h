@@ -70,7 +70,7 @@ protected:
     /// To be called when the menu has been read from its current path, or written to it.
     void noteRead(const QByteArray &bytes);
     void noteSaved(const QByteArray &bytes, const QString &message);
-    /// The file is there, but holds something else, as after a write in place that failed.
+    /// What was last read or written may not be in the file any more, as after a write in place that failed.
     void noteBroken();
     /// The menu comes from an old one. It stays unsaved until it is saved under a name of its own.
     void noteImported(const QString &fileName);

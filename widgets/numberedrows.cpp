@@ -115,6 +115,7 @@ private:
 void prepare(QListWidget *list)
 {
     list->setItemDelegate(new RowPainter(list));
+    list->setIconSize({0, 0}); // an id under the decoration role takes no room
     list->setDragDropMode(QAbstractItemView::NoDragDrop);
     list->setDragEnabled(false);
     list->setUniformItemSizes(true);

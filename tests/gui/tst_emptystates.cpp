@@ -92,10 +92,12 @@ void TestEmptyStates::detailsAskForAChoice()
     // Right of the values, where no label reaches while something is shown.
     const QRect values(name.x(), 0, details.width() - name.x(), details.height());
     QVERIFY(name.text().isEmpty() && !isPlain(details, values));
+    QCOMPARE(details.accessibleDescription(), u"Select a product"_s);
     const QImage before = details.grab(values).toImage();
     ui::get<QListWidget>(*editor, "listWidgetProducts").setCurrentRow(0);
     QVERIFY(!name.text().isEmpty());
     QVERIFY(details.grab(values).toImage() != before);
+    QCOMPARE(details.accessibleDescription(), QString());
     ui::get<QListWidget>(*editor, "listWidgetProducts").clearSelection();
     QCOMPARE(details.grab(values).toImage(), before);
 }

@@ -45,6 +45,7 @@ private slots:
     void everyStopOfTheTabKey_data();
     void everyStopOfTheTabKey();
     void everyRow();
+    void scrollsNoFurtherThanNeeded();
     void clickIsNotCarriedAway();
 };
 
@@ -83,6 +84,23 @@ void TestFocusInSight::everyRow()
     QVERIFY(down(program).value() > 0);
     keyboard::press(Qt::Key_Home);
     keyboard::press(Qt::Key_End);
+}
+
+void TestFocusInSight::scrollsNoFurtherThanNeeded()
+{
+    Program program;
+    program.window().setMinimumSize(300, 200);
+    openLargeEditor(program);
+    keyboard::showPage(u"Day Parts"_s);
+    keyboard::tabTo(u"btnDaypartSelect0_0"_s);
+    const int before = down(program).value();
+    for (int row = 1; row < 8 && down(program).value() == before; ++row)
+        keyboard::press(Qt::Key_Down);
+    QVERIFY(down(program).value() > before);
+    QVERIFY(down(program).value() < down(program).maximum());
+    const QWidget &bin = *QApplication::focusWidget();
+    const QWidget &area = *program.area().viewport();
+    QCOMPARE(bin.mapTo(&area, QPoint(0, bin.height())).y(), area.height());
 }
 
 // A bin of which half is seen.

@@ -64,6 +64,7 @@ class TestGuideBins : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void daypartsAreMadeAndDeleted();
+    void daypartIsDuplicated();
     void daypartIsPutOutOfUse();
     void binsOfADaypartAreFilled();
     void lastBinIsFilled();
@@ -95,6 +96,22 @@ void TestGuideBins::daypartsAreMadeAndDeleted()
     QCOMPARE(layout.size(), 2);
     QCOMPARE(layout[0][u"daypartName"_s].toObject(), samplefile::names(u"Noon"_s));
     QCOMPARE(layout[1][u"daypartName"_s].toObject(), samplefile::names(u"Night"_s));
+}
+
+void TestGuideBins::daypartIsDuplicated()
+{
+    Guide guide;
+    openBins(guide, {});
+    keyboard::choose(u"comboDaypartSelect"_s, u"Morning"_s);
+    guide.expect<DaypartEdit>([] {
+        keyboard::enter(u"txtName"_s, u"Sunday"_s);
+        keyboard::press(Qt::Key_Return);
+    });
+    keyboard::pushButton(u"btnDuplicateDaypart"_s);
+    const QJsonArray layout = guide::savedMenu(guide).value(u"layout"_s).toArray();
+    QCOMPARE(layout.size(), 3);
+    QCOMPARE(layout[2][u"daypartName"_s].toObject(), samplefile::names(u"Sunday"_s));
+    QCOMPARE(layout[2][u"productLocations"_s], layout[0][u"productLocations"_s]);
 }
 
 void TestGuideBins::daypartIsPutOutOfUse()

@@ -62,6 +62,7 @@ private slots:
     void acceptedConfigurationShowsNoCurrentRow();
     void newMenuAsksForItsCabinet();
     void cancelledNewMenuIsNotValid();
+    void chosenCabinetMakesTheMenuValidAgain();
 };
 
 void TestMenuFileConfiguration::editorHandsOverItsValues()
@@ -240,6 +241,24 @@ void TestMenuFileConfiguration::cancelledNewMenuIsNotValid()
     MenuFile editor({});
     QVERIFY(!editor.isMenuValid());
     QVERIFY(editor.getMenuProducts().isEmpty());
+}
+
+void TestMenuFileConfiguration::chosenCabinetMakesTheMenuValidAgain()
+{
+    const TestFolder folder;
+    const QByteArray bytes = samplefile::Menu().bytes();
+    const QString path = folder.make(u"menu.json"_s, bytes);
+    MenuFile editor(path);
+    ModalAnswers answers;
+    answers.expectBox(ModalAnswers::fileFault(u"File format is corrupted!"_s), QMessageBox::Ok);
+    folder.make(u"menu.json"_s, "{");
+    QVERIFY(!editor.readMenuFile());
+    QVERIFY(!editor.isMenuValid());
+    answers.expect<Configuration>([](Configuration &dialog) { ui::click(dialog, "btnAccept"); });
+    // The model that is known stays when a file names none.
+    folder.make(u"menu.json"_s, QByteArray(bytes).replace(editor.getCabinetModel().toUtf8(), "other"));
+    QVERIFY(editor.readMenuFile());
+    QVERIFY(editor.isMenuValid());
 }
 
 QTEST_MAIN(TestMenuFileConfiguration)

@@ -111,7 +111,7 @@ void TestMenuFileGroups::membersOfTheChosenGroupAreShown()
     QCOMPARE(shownMembers(editor).item(1)->checkState(), Qt::Checked);
     ui::clickRowBox(shownMembers(editor), 0); // only the group editor changes the default
     QCOMPARE(shownMembers(editor).item(0)->checkState(), Qt::Unchecked);
-    QCOMPARE(shownMembers(editor).focusPolicy(), Qt::NoFocus);
+    QCOMPARE(shownMembers(editor).focusPolicy(), Qt::StrongFocus);
     choose(editor, 1);
     QCOMPARE(ui::textsOf(shownMembers(editor)), QStringList{u"  1 Gravy"_s});
     ui::clickRow(editor.groups(), 1, Qt::ControlModifier);

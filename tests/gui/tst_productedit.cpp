@@ -144,6 +144,7 @@ void TestProductEdit::recordIsShown()
         QCOMPARE(shownIn(dialog, "comboBottomType"), u"False"_s);
         const auto &color = ui::get<QPushButton>(dialog, "btnTimerColor");
         QCOMPARE(color.text(), u"SampleText"_s);
+        QCOMPARE(color.accessibleName(), u"Timer Color"_s);
         QCOMPARE(color.styleSheet(), u"background-color: rgb(0,0,207); color: rgb(160, 160, 160);"_s);
         cancel(dialog);
     });

@@ -89,6 +89,7 @@ private slots:
     void failedSaveUnderANewNameIsNotSaved();
     void editEndsWhatWasTold();
     void suffixNoteFollowsTheActiveMenu();
+    void endingOfAnOldMenuIsToldOf();
     void closeButtonAsks();
 };
 
@@ -158,7 +159,8 @@ void TestSaved::failedSaveUnderANewNameIsNotSaved()
         line == Line::TimerBar ? u"Failed to open the file:"_s : u"Failed to create/open the file:"_s;
     program.answers().expectBox(ModalAnswers::fileFault(fault + path), QMessageBox::Ok);
     program.saveAs();
-    QCOMPARE(stateOf(program), line == Line::TimerBar ? changed : notSaved);
+    QCOMPARE(stateOf(program), notSaved);
+    QCOMPARE(told(program), QString());
 }
 
 void TestSaved::editEndsWhatWasTold()
@@ -191,6 +193,19 @@ void TestSaved::suffixNoteFollowsTheActiveMenu()
     QCOMPARE(suffixNote(program), QString());
     program.area().setActiveSubWindow(program.subWindow());
     QCOMPARE(suffixNote(program), note);
+}
+
+// Open would take such a file for an old menu.
+void TestSaved::endingOfAnOldMenuIsToldOf()
+{
+    QFETCH_GLOBAL(const Line, line);
+    if (line != Line::Holding)
+        return;
+    Program program;
+    program.newMenu(line);
+    program.expectSaveDialog(line, Asking::Save, program.path(u"menu.qhx"_s));
+    program.save();
+    QCOMPARE(suffixNote(program), u"Without .json this program will not open it."_s);
 }
 
 void TestSaved::closeButtonAsks()

@@ -181,8 +181,8 @@ void addTimerBarRows()
     QTest::newRow("Timer Bar: copy bins") << Line::TimerBar << Act([](Program &program) {
         showTab(program, 1);
         program.answers().expect<QDialog>([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        program.answers().expectBox({.title = u"Copy"_s,
-                                     .text = u"Replace the bins of Breakfast by those of ChangeOver 1?"_s,
+        program.answers().expectBox({.title = u"Copy Bins"_s,
+                                     .text = u"Replace the bins of Breakfast with those of ChangeOver 1?"_s,
                                      .icon = QMessageBox::Question},
                                     QMessageBox::Yes);
         ui::click(editor(program), "btnCopyDaypart");

@@ -17,6 +17,7 @@ class TestStartup : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void fileSizeLimitDoesNotEndTheProgram();
+    void desktopFindsTheProgram();
 };
 
 void TestStartup::fileSizeLimitDoesNotEndTheProgram()
@@ -24,6 +25,13 @@ void TestStartup::fileSizeLimitDoesNotEndTheProgram()
     std::signal(SIGXFSZ, SIG_DFL);
     prepareApplication();
     QVERIFY(std::signal(SIGXFSZ, SIG_DFL) == SIG_IGN);
+}
+
+void TestStartup::desktopFindsTheProgram()
+{
+    QGuiApplication::setDesktopFileName({});
+    prepareApplication();
+    QCOMPARE(QGuiApplication::desktopFileName(), QStringLiteral("varnoplexora"));
 }
 
 QTEST_MAIN(TestStartup)

@@ -35,8 +35,8 @@ private:
 
 namespace {
 
-const ModalAnswers::Box question{.title = u"Copy"_s,
-                                 .text = u"Replace the bins of Lunch by those of Breakfast?"_s,
+const ModalAnswers::Box question{.title = u"Copy Bins"_s,
+                                 .text = u"Replace the bins of Lunch with those of Breakfast?"_s,
                                  .buttons = QMessageBox::Yes | QMessageBox::No,
                                  .defaultButton = QMessageBox::No,
                                  .icon = QMessageBox::Question};
@@ -114,21 +114,21 @@ void TestTimerBarCopy::filledBinsAreReplacedWhenConfirmed()
 
 void TestTimerBarCopy::leavingTheDialogChangesNothing_data()
 {
-    QTest::addColumn<bool>("byEscape");
-    QTest::newRow("Cancel") << false;
-    QTest::newRow("Escape") << true;
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Escape") << Qt::Key_Escape;
+    QTest::newRow("Space on Cancel") << Qt::Key_Space;
+    QTest::newRow("Enter on Cancel") << Qt::Key_Return;
 }
 
 void TestTimerBarCopy::leavingTheDialogChangesNothing()
 {
-    QFETCH(const bool, byEscape);
+    QFETCH(const Qt::Key, key);
     m_editor->showDaypart(u"Dinner"_s);
     ModalAnswers answers;
-    answers.expect<QInputDialog>([byEscape](QInputDialog &dialog) {
-        if (byEscape)
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-        else
-            ui::click(*dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel));
+    answers.expect<QInputDialog>([key](QInputDialog &dialog) {
+        QPushButton *cancel = dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel);
+        cancel->setFocus();
+        QTest::keyClick(cancel, key);
     });
     clickCopy();
     QCOMPARE(m_editor->saved(), hex(m_menu));

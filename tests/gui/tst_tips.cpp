@@ -136,11 +136,11 @@ void TestTips::tips_data()
     add("day part", "txtName", u"every language"_s);
     add("holding editor, all fields", "btnConfig", u"cabinet"_s);
     add("holding editor, all fields", "btnSelectMultiProduct", u"delete them together"_s);
-    add("holding editor, all fields", "listWidgetMembers", u"checked member is the default"_s);
-    add("holding editor, all fields", "checkBoxDaypartInUse", u"only the day parts that are in use"_s);
+    add("holding editor, all fields", "listWidgetMembers", u"checked member is the default of the group"_s);
+    add("holding editor, all fields", "checkBoxDaypartInUse", u"whether this day part counts"_s);
     add("holding editor, all fields", "btnDaypartRemove", u"bins that are marked"_s);
     add("lane editor, new", "comboModelSelect", u"comes back"_s);
-    add("Timer Bar configuration", "comboUnitModel", u"what they hold stays"_s);
+    add("Timer Bar configuration", "comboUnitModel", u"not written to the file"_s);
     add("Timer Bar product", "txtShortName", u"the bins of the cabinet show"_s);
     add("Timer Bar product", "timeHoldTime", u"whole minutes"_s);
     add("Timer Bar bin", "listWidgetProducts", u"temperature of the neighbour"_s);
