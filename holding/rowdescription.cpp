@@ -24,7 +24,7 @@ struct Text
 
 QString temperaturesText(const ProductInfo &entry, const CabinetConfiguration &configuration)
 {
-    const QString upper = temperatureText(entry.get_upperTemp(), configuration.temperatureUnit);
+    QString upper = temperatureText(entry.get_upperTemp(), configuration.temperatureUnit);
     if (isZpv(configuration.type))
         return upper;
     return upper + u" / "_s + temperatureText(entry.get_lowerTemp(), configuration.temperatureUnit);

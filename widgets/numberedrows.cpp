@@ -95,7 +95,7 @@ public:
 protected:
     [[nodiscard]] QString description() const override
     {
-        const QString settings = Row::description();
+        QString settings = Row::description();
         if (!m_misfit)
             return settings;
         return settings.isEmpty() ? m_misfit() : Text::tr("%1. %2").arg(settings, m_misfit());
