@@ -52,15 +52,6 @@ QByteArray bytesOf(const timerbar::Menu &menu)
     return buffer.data();
 }
 
-template <typename Dialog>
-std::function<void(Dialog &)> leftAfter(std::function<void(Dialog &)> act)
-{
-    return [act](Dialog &dialog) {
-        act(dialog);
-        ui::click(dialog, "btnCancel");
-    };
-}
-
 } // namespace
 
 void GuideChapter::looks()
@@ -98,43 +89,54 @@ void GuideChapter::openBreakfast(const QString &fileName, const QByteArray &byte
     REQUIRE(activeSubWindow());
 }
 
+template <typename Dialog>
+void GuideChapter::pictureDialog(const char *button, const QString &name,
+                                 const std::function<void(const Dialog &)> &fillIn)
+{
+    ModalAnswers answers;
+    answers.expect<Dialog>([&](Dialog &dialog) {
+        if (fillIn)
+            fillIn(dialog);
+        picture(name, dialog);
+        ui::click(dialog, "btnCancel");
+    });
+    ui::click(*activeSubWindow()->widget(), button);
+}
+
 void GuideChapter::productLine()
 {
     ModalAnswers answers;
-    answers.expect<SelectProductLine>(
-        leftAfter<SelectProductLine>([this](auto &dialog) { picture(u"product-line"_s, dialog); }));
+    answers.expect<SelectProductLine>([this](SelectProductLine &dialog) {
+        picture(u"product-line"_s, dialog);
+        ui::click(dialog, "btnCancel");
+    });
     ui::clickMenu(window(), "menuFile", "actionNew");
 }
 
-void GuideChapter::pictureHoldingEntries(QWidget &editor)
+namespace {
+
+void fillGroup(const GroupEdit &dialog)
 {
-    ModalAnswers answers;
-    answers.expect<Configuration>(
-        leftAfter<Configuration>([this](auto &dialog) { picture(u"holding-configuration"_s, dialog); }));
-    ui::click(editor, "btnConfig");
-    ui::clickRow(ui::get<QListWidget>(editor, "listWidgetProducts"), 0);
-    pictureEditor(u"holding-products"_s);
-    answers.expect<ProductEdit>(
-        leftAfter<ProductEdit>([this](auto &dialog) { picture(u"holding-product"_s, dialog); }));
-    ui::click(editor, "btnEditProduct");
-    clickTab(1);
-    answers.expect<GroupEdit>(leftAfter<GroupEdit>([this](auto &dialog) {
-        ui::type(dialog, "txtName", u"Sausage"_s);
-        auto &products = ui::get<QListWidget>(dialog, "listWidgetProducts");
-        for (const QString &name : {u"Sausage Patties"_s, u"Sausage Crumbles"_s}) {
-            const QList<QListWidgetItem *> rows = products.findItems(name, Qt::MatchContains);
-            ui::clickRow(products, products.row(rows.constFirst()));
-            ui::click(dialog, "btnAddProduct");
-        }
-        picture(u"holding-group"_s, dialog);
-    }));
-    ui::click(editor, "btnAddGroup");
+    ui::type(dialog, "txtName", u"Sausage"_s);
+    auto &products = ui::get<QListWidget>(dialog, "listWidgetProducts");
+    for (const QString &name : {u"Sausage Patties"_s, u"Sausage Crumbles"_s}) {
+        const QList<QListWidgetItem *> rows = products.findItems(name, Qt::MatchContains);
+        ui::clickRow(products, products.row(rows.constFirst()));
+        ui::click(dialog, "btnAddProduct");
+    }
 }
+
+} // namespace
 
 void GuideChapter::holdingEntries()
 {
     openBreakfast(u"breakfast.json"_s, holding::writeMenu(breakfastOfHolding()));
-    pictureHoldingEntries(*activeSubWindow()->widget());
+    pictureDialog<Configuration>("btnConfig", u"holding-configuration"_s);
+    ui::clickRow(ui::get<QListWidget>(*activeSubWindow(), "listWidgetProducts"), 0);
+    pictureEditor(u"holding-products"_s);
+    pictureDialog<ProductEdit>("btnEditProduct", u"holding-product"_s);
+    clickTab(1);
+    pictureDialog<GroupEdit>("btnAddGroup", u"holding-group"_s, fillGroup);
     closeEditor(QMessageBox::No);
 }
 
@@ -143,14 +145,10 @@ void GuideChapter::holdingBins()
     openBreakfast(u"breakfast.json"_s, holding::writeMenu(breakfastOfHolding()));
     clickTab(2);
     pictureEditor(u"holding-dayparts"_s);
-    {
-        ModalAnswers answers;
-        answers.expect<AssignDaypartItem>(leftAfter<AssignDaypartItem>([this](auto &dialog) {
-            ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 8);
-            picture(u"holding-picker"_s, dialog);
-        }));
-        ui::click(*activeSubWindow()->widget(), "btnDaypartSelectB3_1");
-    }
+    pictureDialog<AssignDaypartItem>("btnDaypartSelectB3_1", u"holding-picker"_s,
+                                     [](const AssignDaypartItem &dialog) {
+                                         ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 8);
+                                     });
     holdBin("btnDaypartSelect1_1");
     pictureEditor(u"holding-removal"_s);
     ui::click(*activeSubWindow()->widget(), "btnCancelDaypartRemove");
@@ -160,25 +158,15 @@ void GuideChapter::holdingBins()
 void GuideChapter::timerBar()
 {
     openBreakfast(u"breakfast.cbr"_s, bytesOf(breakfastOfTimerBar()));
-    QWidget &editor = *activeSubWindow()->widget();
-    ui::clickRow(ui::get<QListWidget>(editor, "listWidgetProducts"), 0);
+    ui::clickRow(ui::get<QListWidget>(*activeSubWindow(), "listWidgetProducts"), 0);
     pictureEditor(u"timerbar-products"_s);
-    {
-        ModalAnswers answers;
-        answers.expect<TimerBarConfig>(leftAfter<TimerBarConfig>(
-            [this](auto &dialog) { picture(u"timerbar-configuration"_s, dialog); }));
-        ui::click(editor, "btnConfig");
-    }
+    pictureDialog<TimerBarConfig>("btnConfig", u"timerbar-configuration"_s);
     clickTab(1);
     pictureEditor(u"timerbar-dayparts"_s);
-    {
-        ModalAnswers answers;
-        answers.expect<TimerBarDaypartAssignItem>(leftAfter<TimerBarDaypartAssignItem>([this](auto &dialog) {
+    pictureDialog<TimerBarDaypartAssignItem>(
+        "btnDaypartSelectB1_1", u"timerbar-picker"_s, [](const TimerBarDaypartAssignItem &dialog) {
             ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 0);
-            picture(u"timerbar-picker"_s, dialog);
-        }));
-        ui::click(editor, "btnDaypartSelectB1_1");
-    }
+        });
     closeEditor(QMessageBox::No);
 }
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "tour/chapter.h"
+#include <functional>
 
-class QDialog;
+#include "tour/chapter.h"
 
 /// Makes the pictures of the documents, each in a light and in a dark palette. Comes last, as it leaves the
 /// program dark.
@@ -34,6 +34,9 @@ private:
     /// Only what is named here is pictured, not each dialog.
     void picture(const QString &name, const QWidget &of);
     void pictureEditor(const QString &name);
-    void pictureHoldingEntries(QWidget &editor);
+    /// Of a dialog that a button of the active editor opens, with what is filled in; then it is cancelled.
+    template <typename Dialog>
+    void pictureDialog(const char *button, const QString &name,
+                       const std::function<void(const Dialog &)> &fillIn = {});
     void openBreakfast(const QString &fileName, const QByteArray &bytes);
 };
