@@ -4,7 +4,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 
 #include "timerbar/binbuttons.h"
 #include "timerbar/menu.h"
@@ -94,7 +93,6 @@ private:
     void registerBins(const timerbar::CabinetShape &shape);
     [[nodiscard]] timerbar::DaypartCells *currentCells(); ///< null while no day part is selected
     void copyBins();
-    [[nodiscard]] std::optional<int> askOtherDaypart(int daypart);
 
     std::unique_ptr<Ui::TimerBarMenuFile> m_ui;
     timerbar::Menu m_menu;

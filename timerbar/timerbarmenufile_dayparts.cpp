@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <array>
 
-#include <QDialogButtonBox>
-#include <QInputDialog>
 #include <QSignalBlocker>
 
 #include "model/names.h"
@@ -15,10 +13,10 @@
 #include "model/times.h"
 #include "timerbar/binbuttons.h"
 #include "timerbar/bins.h"
+#include "timerbar/copybins.h"
 #include "timerbar/timerbardaypartassignitem.h"
 #include "ui_timerbarmenufile.h"
 #include "widgets/binbutton.h"
-#include "widgets/enterkey.h"
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
 
@@ -117,35 +115,18 @@ void TimerBarMenuFile::copyBins()
     const int daypart = m_ui->comboDaypartSelect->currentIndex();
     if (daypart < 0)
         return;
-    const std::optional<int> source = askOtherDaypart(daypart);
-    if (!source)
+    CopyBins dialog(daypart, this);
+    if (dialog.exec() != Accepted)
         return;
+    const int source = dialog.source();
     const QStringList names = timerbar::daypartNames();
     if (m_menu.hasFilledBins(daypart) &&
-        !messages::confirm(
-            this, tr("Copy Bins"),
-            tr("Replace the bins of %1 with those of %2?").arg(names[daypart], names[*source])))
+        !messages::confirm(this, tr("Copy Bins"),
+                           tr("Replace the bins of %1 with those of %2?").arg(names[daypart], names[source])))
         return;
-    m_menu.copyBins(*source, daypart);
+    m_menu.copyBins(source, daypart);
     loadCurrentDaypart();
     noteChange();
-}
-
-std::optional<int> TimerBarMenuFile::askOtherDaypart(int daypart)
-{
-    const QStringList names = timerbar::daypartNames();
-    QStringList others = names;
-    others.removeAt(daypart);
-    QInputDialog dialog(this);
-    dialog.setWindowTitle(tr("Copy Bins"));
-    dialog.setLabelText(tr("Take over the bins of"));
-    dialog.setComboBoxItems(others);
-    (void)dialog.minimumSizeHint(); // makes the buttons
-    dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
-    letEnterPressFocusedButton(&dialog);
-    if (dialog.exec() != Accepted)
-        return std::nullopt;
-    return names.indexOf(dialog.textValue());
 }
 
 void TimerBarMenuFile::loadDayparts()

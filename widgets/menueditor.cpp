@@ -79,8 +79,16 @@ void MenuEditor::takeFrame(QLabel *saved, QAbstractButton *close)
 
 void MenuEditor::showSaved(const QString &text)
 {
-    if (m_savedLabel->text() != text)
-        announce::news(m_savedLabel, text);
+    if (m_savedLabel->text() == text)
+        return;
+    const bool fitted = m_designedSize.isValid();
+    if (fitted)
+        layout()->activate(); // else the label may have no width yet
+    const int before = m_savedLabel->heightForWidth(m_savedLabel->width());
+    announce::news(m_savedLabel, text);
+    // In a large font a longer text takes another line.
+    if (fitted && m_savedLabel->heightForWidth(m_savedLabel->width()) > before)
+        fitContent();
 }
 
 void MenuEditor::showEvent(QShowEvent *event)
@@ -180,7 +188,10 @@ void MenuEditor::fitContent()
     else
         m_designedSize = size();
     const QSize before = size();
-    setFixedSize(m_designedSize.expandedTo(layout()->totalSizeHint()));
+    QSize needed = layout()->sizeHint();
+    if (layout()->hasHeightForWidth()) // the hint is for a width at which texts take more lines
+        needed.setHeight(layout()->totalHeightForWidth(qMax(needed.width(), m_designedSize.width())));
+    setFixedSize(m_designedSize.expandedTo(needed));
     if (auto *subWindow = qobject_cast<QMdiSubWindow *>(parentWidget()))
         subWindow->resize(subWindow->size() + size() - before);
 }

@@ -173,6 +173,8 @@ def timer_bar(r):
     select_row(r, "a Timer Bar entry is selected", "Products", "  1")
     r.step("the Timer Bar entry is chosen", lambda: r.press("push button", "Select"),
            lambda: r.closed("Assign Product"))
+    r.step("its bins are to be copied", lambda: r.press("push button", "Copy From…"), shows="Copy Bins")
+    r.step("the copying is cancelled", lambda: r.press("push button", "Cancel"), lambda: r.closed("Copy Bins"))
     r.press("push button", "Close")
     leave(r)
 

@@ -19,6 +19,8 @@ struct Form
     QString className;
     QSize size;
     QMap<QString, QString> texts; ///< by object name
+    QList<int> margins;           ///< in pixels, those around the window first
+    QList<int> spacings;
 };
 
 // The reader stands at the start of a property.
@@ -27,6 +29,10 @@ void readProperty(QXmlStreamReader &xml, const QString &widget, Form &form)
     const QString name = xml.attributes().value("name"_L1).toString();
     if (name == "text"_L1 && xml.readNextStartElement()) {
         form.texts.insert(widget, xml.readElementText());
+    } else if (name.endsWith("Margin"_L1) && xml.readNextStartElement()) {
+        form.margins.append(xml.readElementText().toInt());
+    } else if (name.endsWith("pacing"_L1) && xml.readNextStartElement()) {
+        form.spacings.append(xml.readElementText().toInt());
     } else if (name == "geometry"_L1 && form.size.isEmpty() && xml.readNextStartElement()) {
         while (xml.readNextStartElement()) {
             const QString part = xml.name().toString();
@@ -79,6 +85,8 @@ private slots:
     void init() { failOnWarnings(); }
     void windowsHaveTheirDesignedSize_data() { addWindowRows(); }
     void windowsHaveTheirDesignedSize();
+    void distancesAreOfOneGrid_data();
+    void distancesAreOfOneGrid();
     void designerTexts_data();
     void designerTexts();
 };
@@ -91,6 +99,29 @@ void TestForms::windowsHaveTheirDesignedSize()
     const Form form = formOf(QString::fromLatin1(open.window().metaObject()->className()));
     QVERIFY(!form.size.isEmpty());
     QCOMPARE(open.window().size(), form.size);
+}
+
+void TestForms::distancesAreOfOneGrid_data()
+{
+    QTest::addColumn<QString>("path");
+    const QFileInfoList forms = QDir(u":/forms"_s).entryInfoList();
+    QVERIFY(!forms.isEmpty());
+    for (const QFileInfo &form : forms)
+        QTest::newRow(qPrintable(form.fileName())) << form.filePath();
+}
+
+// Within what belongs together they may be smaller.
+void TestForms::distancesAreOfOneGrid()
+{
+    static const QList<int> steps{8, 12, 16};
+    static const QList<int> within{0, 2, 4};
+    QFETCH(const QString, path);
+    const Form form = formIn(path);
+    QVERIFY(!form.className.isEmpty());
+    const QList<int> distances = form.margins + form.spacings;
+    for (const int distance : distances)
+        QVERIFY2(steps.contains(distance) || within.contains(distance),
+                 qPrintable(QString::number(distance)));
 }
 
 void TestForms::designerTexts_data()

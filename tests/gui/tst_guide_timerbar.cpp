@@ -6,6 +6,7 @@
 
 #include "tests/gui/guide.h"
 #include "tests/gui/opentimerbar.h"
+#include "timerbar/copybins.h"
 #include "timerbar/timerbarconfig.h"
 #include "timerbar/timerbardaypartassignitem.h"
 #include "timerbar/timerbarproductedit.h"
@@ -59,6 +60,7 @@ private slots:
     void binsAreFilled();
     void binsAreEmptied();
     void emptyingIsCancelled();
+    void binsAreCopied();
 };
 
 void TestGuideTimerBar::menuIsStarted()
@@ -251,6 +253,27 @@ void TestGuideTimerBar::emptyingIsCancelled()
     keyboard::press(Qt::Key_Escape);
     QVERIFY(!remove.isVisible());
     QCOMPARE(savedBytes(guide), hex(menuWith({0, 1})));
+}
+
+// The day part that takes them over has bins of its own, so the program asks.
+void TestGuideTimerBar::binsAreCopied()
+{
+    Guide guide;
+    cbr::Menu menu = menuWith({0, 1});
+    menu.dayparts[2] = {2};
+    open(guide, menu);
+    keyboard::showPage(u"Day Parts"_s);
+    keyboard::tabTo(u"comboDaypartSelect"_s);
+    keyboard::pressOften(Qt::Key_Down, 2);
+    guide.expect<CopyBins>([] {
+        keyboard::choose(u"comboDaypart"_s, u"Breakfast"_s);
+        keyboard::press(Qt::Key_Return);
+    });
+    guide.expectBox(u"Copy Bins"_s, u"Replace the bins of Lunch with those of Breakfast?"_s,
+                    QMessageBox::Yes);
+    keyboard::pushButton(u"btnCopyDaypart"_s);
+    menu.dayparts[2] = menu.dayparts[0];
+    QCOMPARE(savedBytes(guide), hex(menu));
 }
 
 int main(int argc, char *argv[])

@@ -191,7 +191,7 @@ void TestOwners::ofATimerBarMenu()
     clickEach(program, escaped, {"btnCopyDaypart", "btnDaypartSelect0_0"});
     QStringList expected{u"TimerBarConfig, Configuration"_s};
     expected += QStringList(3, u"TimerBarProductEdit, Product Edit"_s) +
-                QStringList{u"QMessageBox, Delete"_s, u"QInputDialog, Copy Bins"_s,
+                QStringList{u"QMessageBox, Delete"_s, u"CopyBins, Copy Bins"_s,
                             u"TimerBarDaypartAssignItem, Assign Product"_s};
     for (QString &dialog : expected)
         dialog += u", of TimerBarMenuFile"_s;

@@ -207,7 +207,10 @@ QByteArray bytesOf(Line line)
 
 QString stateOf(Program &program)
 {
-    return ui::get<QLabel>(editor(program), "lblSaved").text();
+    QCoreApplication::sendPostedEvents(); // the layout follows
+    const auto &label = ui::get<QLabel>(editor(program), "lblSaved");
+    REQUIRE(label.height() >= label.heightForWidth(label.width()), label.text());
+    return label.text();
 }
 
 } // namespace

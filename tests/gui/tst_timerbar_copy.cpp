@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QDialogButtonBox>
-#include <QInputDialog>
-
 #include "tests/gui/opentimerbar.h"
 #include "tests/support/warnings.h"
 #include "timerbar/bins.h"
+#include "timerbar/copybins.h"
 
 using namespace Qt::StringLiterals;
 
@@ -43,8 +41,8 @@ const ModalAnswers::Box question{.title = u"Copy Bins"_s,
 
 void expectChoice(ModalAnswers &answers, const QString &name)
 {
-    answers.expect<QInputDialog>([name](QInputDialog &dialog) {
-        QTest::keyClicks(dialog.findChild<QComboBox *>(), name);
+    answers.expect<CopyBins>([name](CopyBins &dialog) {
+        QTest::keyClicks(&ui::get<QComboBox>(dialog, "comboDaypart"), name);
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
 }
@@ -64,18 +62,11 @@ void TestTimerBarCopy::dialogNamesTheOthers()
 {
     m_editor->showDaypart(u"Lunch"_s);
     ModalAnswers answers;
-    answers.expect<QInputDialog>([](QInputDialog &dialog) {
+    answers.expect<CopyBins>([](CopyBins &dialog) {
         QCOMPARE(dialog.windowTitle(), u"Copy Bins"_s);
-        QCOMPARE(dialog.labelText(), u"Take over the bins of"_s);
         QStringList others = timerbar::daypartNames();
         others.removeOne(u"Lunch"_s);
-        QCOMPARE(dialog.comboBoxItems(), others);
-        const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
-        for (const QPushButton *button : buttons)
-            QCOMPARE(button->autoDefault(), button->isDefault());
-        QCOMPARE(std::count_if(buttons.begin(), buttons.end(),
-                               [](const QPushButton *button) { return button->isDefault(); }),
-                 1);
+        QCOMPARE(ui::textsOf(ui::get<QComboBox>(dialog, "comboDaypart")), others);
         dialog.reject();
     });
     clickCopy();
@@ -125,10 +116,10 @@ void TestTimerBarCopy::leavingTheDialogChangesNothing()
     QFETCH(const Qt::Key, key);
     m_editor->showDaypart(u"Dinner"_s);
     ModalAnswers answers;
-    answers.expect<QInputDialog>([key](QInputDialog &dialog) {
-        QPushButton *cancel = dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel);
-        cancel->setFocus();
-        QTest::keyClick(cancel, key);
+    answers.expect<CopyBins>([key](CopyBins &dialog) {
+        auto &cancel = ui::get<QPushButton>(dialog, "btnCancel");
+        cancel.setFocus();
+        QTest::keyClick(&cancel, key);
     });
     clickCopy();
     QCOMPARE(m_editor->saved(), hex(m_menu));

@@ -56,11 +56,10 @@ namespace {
 const QStringList &plainControls()
 {
     static const QStringList names{
-        u"btnAccept"_s,        u"btnAddDaypart"_s,     u"btnAddGroup"_s,
-        u"btnAddProduct"_s,    u"btnCancel"_s,         u"btnDeleteDaypart"_s,
-        u"btnDeleteGroup"_s,   u"btnDeleteProduct"_s,  u"btnEditDaypart"_s,
-        u"btnEditGroup"_s,     u"btnEditProduct"_s,    u"btnExportFile"_s,
-        u"btnSave"_s,          u"btnSelect"_s,         u"comboProductLineSelect"_s,
+        u"btnAccept"_s,        u"btnAddDaypart"_s,     u"btnAddGroup"_s,        u"btnAddProduct"_s,
+        u"btnCancel"_s,        u"btnCopy"_s,           u"btnDeleteDaypart"_s,   u"btnDeleteGroup"_s,
+        u"btnDeleteProduct"_s, u"btnEditDaypart"_s,    u"btnEditGroup"_s,       u"btnEditProduct"_s,
+        u"btnExportFile"_s,    u"btnSave"_s,           u"btnSelect"_s,          u"comboProductLineSelect"_s,
         u"listWidgetGroups"_s, u"listWidgetMembers"_s, u"listWidgetProducts"_s,
     };
     return names;

@@ -3,8 +3,10 @@
 
 #include "tests/support/everywindow.h"
 
+#include <QCheckBox>
 #include <QFile>
 #include <QListWidget>
+#include <QSpinBox>
 #include <QTest>
 
 #include "app/aboutapp.h"
@@ -20,9 +22,11 @@
 #include "lanes/svrxmenufile.h"
 #include "tests/support/cbrbuilder.h"
 #include "tests/support/lanefile.h"
+#include "tests/support/qhxbuilder.h"
 #include "tests/support/testfolder.h"
 #include "tests/support/uidriver.h"
 #include "tests/support/windowmenu.h"
+#include "timerbar/copybins.h"
 #include "timerbar/timerbarconfig.h"
 #include "timerbar/timerbardaypartassignitem.h"
 #include "timerbar/timerbarmenufile.h"
@@ -76,12 +80,27 @@ std::unique_ptr<QWidget> makeEditor(MenuFile &editor)
     return window;
 }
 
+// With the longest word on whether it is saved, but for the next.
+std::unique_ptr<QWidget> makeChangedEditor(MenuFile &editor)
+{
+    auto window = makeEditor(editor);
+    ui::get<QCheckBox>(*window, "checkBoxDaypartInUse").toggle();
+    return window;
+}
+
 QString writeBeside(const MenuFile &editor, const QString &suffix, const QByteArray &content)
 {
     QFile file(editor.filePath() + suffix);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) < content.size())
         qFatal("Cannot write a file beside the menu");
     return file.fileName();
+}
+
+// It has to be saved under another name, and says so.
+std::unique_ptr<QWidget> makeOldMenuEditor(MenuFile &editor)
+{
+    const QByteArray contents = qhx::sample().bytes();
+    return std::make_unique<MenuFile>(writeBeside(editor, u" of last summer.qhx"_s, contents));
 }
 
 // Two products of which the first fills a bin.
@@ -127,9 +146,22 @@ std::unique_ptr<QWidget> makeTimerBarEditor(MenuFile &editor)
     return window;
 }
 
+std::unique_ptr<QWidget> makeCopyBins(MenuFile &editor)
+{
+    return std::make_unique<CopyBins>(0, &timerBarOwner(editor));
+}
+
 std::unique_ptr<QWidget> makeLaneEditor(MenuFile &)
 {
     return std::make_unique<SvrxMenuFile>(QString());
+}
+
+std::unique_ptr<QWidget> makeChangedLaneEditor(MenuFile &editor)
+{
+    const QByteArray contents = lanefile::text("T1=350,T2=350,T3=350,T4=350,F1=1800,F2=1800,F3=1800,F4=1800");
+    auto window = std::make_unique<SvrxMenuFile>(writeBeside(editor, u".txt"_s, contents));
+    ui::get<QSpinBox>(*window, "numTemperature1").stepUp();
+    return window;
 }
 
 // Beside every box stands that the file holds another number.
@@ -158,12 +190,16 @@ const std::vector<WindowKind> &everyWindow()
         {"bin, fewest fields", "btnSelect", windowmenu::plainCabinet(), makeAssignDaypartItem},
         {"holding editor, all fields", nullptr, windowmenu::fullCabinet(), makeEditor, false},
         {"holding editor, fewest fields", nullptr, windowmenu::plainCabinet(), makeEditor, false},
+        {"holding editor, changed", nullptr, windowmenu::fullCabinet(), makeChangedEditor, false},
+        {"holding editor, old menu", nullptr, windowmenu::fullCabinet(), makeOldMenuEditor, false},
         {"lane editor, new", nullptr, windowmenu::plainCabinet(), makeLaneEditor, false},
         {"lane editor, values beyond the limits", nullptr, windowmenu::plainCabinet(),
          makeLaneEditorWithNotes, false},
+        {"lane editor, changed", nullptr, windowmenu::plainCabinet(), makeChangedLaneEditor, false},
         {"Timer Bar configuration", "btnAccept", windowmenu::plainCabinet(), makeTimerBarConfig},
         {"Timer Bar product", "btnSave", windowmenu::plainCabinet(), makeTimerBarProductEdit},
         {"Timer Bar bin", "btnSelect", windowmenu::plainCabinet(), makeTimerBarAssignItem},
+        {"Timer Bar bins to copy", "btnCopy", windowmenu::plainCabinet(), makeCopyBins},
         {"Timer Bar editor", nullptr, windowmenu::plainCabinet(), makeTimerBarEditor, false},
     };
     return kinds;
