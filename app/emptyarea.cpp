@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QIcon>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPainter>
 
 namespace {
@@ -20,16 +21,20 @@ constexpr int iconSize = 64; // in pixels
 constexpr int gap = 16;
 constexpr QColor textColor(0x20, 0x20, 0x20); // on the area's grey, which no palette changes
 
+QString howToBegin()
+{
+    return Text::tr("File > New starts a menu, File > Open opens one, or drop a file here");
+}
+
 void paintHowToBegin(QPainter &painter, const QRect &area, const QIcon &windowIcon)
 {
-    const QString text = Text::tr("File > New starts a menu, File > Open opens one, or drop a file here");
     QRect place(0, 0, area.width(), iconSize + gap + 2 * painter.fontMetrics().lineSpacing());
     place.moveCenter(area.center());
     const QRect icon(place.center().x() - iconSize / 2, place.top(), iconSize, iconSize);
     windowIcon.paint(&painter, icon);
     painter.setPen(textColor);
     painter.drawText(place.adjusted(gap, iconSize + gap, -gap, 0),
-                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, howToBegin());
 }
 
 class EmptyAreaPainter final : public QObject
@@ -66,4 +71,9 @@ private:
 void showHowToBegin(QMdiArea *area)
 {
     new EmptyAreaPainter(area);
+    const auto describe = [area] {
+        area->setAccessibleDescription(area->subWindowList().isEmpty() ? howToBegin() : QString());
+    };
+    describe();
+    QObject::connect(area, &QMdiArea::subWindowActivated, area, describe);
 }

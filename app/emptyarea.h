@@ -5,6 +5,6 @@
 
 class QMdiArea;
 
-/// Paints the program's icon and how to begin into a document area while no menu is open in it. To be called
-/// once; it goes with the area.
+/// Paints the program's icon and how to begin into a document area while no menu is open in it, and tells
+/// screen readers so. To be called once; it goes with the area.
 void showHowToBegin(QMdiArea *area);

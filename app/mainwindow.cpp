@@ -21,6 +21,7 @@
 #include "app/selectproductline.h"
 #include "ui_mainwindow.h"
 #include "widgets/announce.h"
+#include "widgets/fixedsize.h"
 #include "widgets/longtext.h"
 #include "widgets/messages.h"
 #include "widgets/plaintext.h"
@@ -28,8 +29,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int titleRoom = 32; // roughly what a window manager puts above a window
 
 // The paths of what Open would open.
 QStringList menuFilesIn(const QMimeData &data)
@@ -53,7 +52,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_ui->setupUi(this);
     setAcceptDrops(true);
     // On a screen that is too low for its least size the status bar would lie below the edge.
-    setMinimumSize(minimumSize().boundedTo(screen()->availableSize() - QSize(0, titleRoom)));
+    setMinimumSize(minimumSize().boundedTo(screen()->availableSize() - QSize(0, frameRoom.height())));
     setCentralWidget(m_ui->mdiArea);
     setWindowIcon(QIcon(u":/myapp.ico"_s));
     showHowToBegin(m_ui->mdiArea);
@@ -75,6 +74,7 @@ void MainWindow::prepareStatusBar()
     m_told->setObjectName(u"lblTold"_s);
     m_told->setTextFormat(Qt::PlainText);
     m_told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a path never widens the window
+    m_told->hide();
     m_ui->statusbar->addWidget(m_told, 1);
     m_suffixNote = new QLabel(this);
     m_suffixNote->setObjectName(u"lblSuffixNote"_s);
@@ -86,6 +86,8 @@ void MainWindow::prepareStatusBar()
 void MainWindow::tell(const QString &message)
 {
     const QString shown = beginningOf(message);
+    m_ui->statusbar->clearMessage(); // the line would come to stand beside a tip
+    m_told->setHidden(shown.isEmpty());
     if (shown.isEmpty())
         m_told->clear();
     else

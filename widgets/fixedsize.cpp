@@ -14,9 +14,6 @@
 
 namespace {
 
-// What a window manager puts around a dialog, roughly: nobody knows before it is shown.
-constexpr QSize frameRoom(8, 32);
-
 void move(QBoxLayout &from, QBoxLayout &to)
 {
     const int stretch = from.stretch(0);

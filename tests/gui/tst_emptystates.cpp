@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 
 #include "holding/assigndaypartitem.h"
 #include "holding/groupedit.h"
@@ -23,8 +24,10 @@ class TestEmptyStates : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void areaTellsHowToBegin();
+    void areaIsDescribedWhileItIsEmpty();
     void groupListTellsHowToBegin();
     void detailsAskForAChoice();
+    void timerBarDetailsAskForAChoice();
     void emptyPickersTellWhatToDo();
 };
 
@@ -70,6 +73,19 @@ void TestEmptyStates::areaTellsHowToBegin()
     QVERIFY(!isPlain(*area.viewport()));
 }
 
+void TestEmptyStates::areaIsDescribedWhileItIsEmpty()
+{
+    const QString howToBegin = u"File > New starts a menu, File > Open opens one, or drop a file here"_s;
+    Program program;
+    QMdiArea &area = program.area();
+    QCOMPARE(area.accessibleDescription(), howToBegin);
+    QMdiSubWindow *subWindow = area.addSubWindow(new QLabel);
+    subWindow->show();
+    QCOMPARE(area.accessibleDescription(), QString());
+    delete subWindow;
+    QCOMPARE(area.accessibleDescription(), howToBegin);
+}
+
 void TestEmptyStates::groupListTellsHowToBegin()
 {
     samplefile::Menu menu = bins::menuOf(u"KTR22"_s, {});
@@ -100,6 +116,19 @@ void TestEmptyStates::detailsAskForAChoice()
     QCOMPARE(details.accessibleDescription(), QString());
     ui::get<QListWidget>(*editor, "listWidgetProducts").clearSelection();
     QCOMPARE(details.grab(values).toImage(), before);
+}
+
+void TestEmptyStates::timerBarDetailsAskForAChoice()
+{
+    OpenTimerBar editor(cbr::Menu{.products = {{.name = "Bacon", .shortName = "BACN"}}});
+    auto &details = ui::get<QWidget>(*editor, "details");
+    const auto &name = ui::get<QLabel>(details, "txtName");
+    const QRect values(name.x(), 0, details.width() - name.x(), details.height());
+    QVERIFY(name.text().isEmpty() && !isPlain(details, values));
+    QCOMPARE(details.accessibleDescription(), u"Select a product"_s);
+    ui::get<QListWidget>(*editor, "listWidgetProducts").setCurrentRow(0);
+    QCOMPARE(name.text(), u"Bacon"_s);
+    QCOMPARE(details.accessibleDescription(), QString());
 }
 
 void TestEmptyStates::emptyPickersTellWhatToDo()

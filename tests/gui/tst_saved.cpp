@@ -87,6 +87,7 @@ private slots:
     void changeTakenBackIsSaved();
     void savingSays();
     void failedSaveUnderANewNameIsNotSaved();
+    void failedProductionFileIsToldOf();
     void editEndsWhatWasTold();
     void suffixNoteFollowsTheActiveMenu();
     void endingOfAnOldMenuIsToldOf();
@@ -99,7 +100,7 @@ void TestSaved::newMenuIsNotSaved()
     Program program;
     program.newMenu(line);
     QCOMPARE(stateOf(program), notSaved);
-    QCOMPARE(told(program), QString());
+    QCOMPARE(told(program), u"(hidden)"_s);
     change(program, line);
     QCOMPARE(stateOf(program), notSaved);
     program.expectSaveDialog(line, Asking::Save, program.path(fileOf(line)));
@@ -160,7 +161,24 @@ void TestSaved::failedSaveUnderANewNameIsNotSaved()
     program.answers().expectBox(ModalAnswers::fileFault(fault + path), QMessageBox::Ok);
     program.saveAs();
     QCOMPARE(stateOf(program), notSaved);
-    QCOMPARE(told(program), QString());
+    QCOMPARE(told(program), u"(hidden)"_s);
+}
+
+// The lanes' editor alone writes a second file.
+void TestSaved::failedProductionFileIsToldOf()
+{
+    QFETCH_GLOBAL(const Line, line);
+    if (line != Line::Lanes)
+        return;
+    Program program;
+    program.newMenu(line);
+    const QString production = program.path(u"svrxprod_a.txt"_s);
+    QVERIFY(QDir().mkdir(production)); // no file can take its place
+    const QString path = program.path(u"svrxconfig_a.txt"_s);
+    program.expectSaveDialog(line, Asking::SaveAs, path);
+    program.answers().expectBox(ModalAnswers::writeFault(production), QMessageBox::Ok);
+    program.saveAs();
+    QCOMPARE(told(program), u"Saved %1. The production file was not written."_s.arg(path));
 }
 
 void TestSaved::editEndsWhatWasTold()
@@ -168,9 +186,9 @@ void TestSaved::editEndsWhatWasTold()
     QFETCH_GLOBAL(const Line, line);
     Program program;
     openOwn(program, line);
-    QVERIFY(!told(program).isEmpty());
+    QVERIFY(told(program) != u"(hidden)"_s);
     change(program, line);
-    QCOMPARE(told(program), QString());
+    QCOMPARE(told(program), u"(hidden)"_s);
 }
 
 void TestSaved::suffixNoteFollowsTheActiveMenu()
