@@ -75,6 +75,14 @@ void takeAnyWidth(QWidget &widget)
     widget.setSizePolicy(policy);
 }
 
+// Screen readers go through a window in the order in which its widgets lie on each other.
+void readAround(QListWidget &list, const ListNotes &notes)
+{
+    notes.below->stackUnder(&list);
+    list.stackUnder(notes.below);
+    notes.above->stackUnder(&list);
+}
+
 void show(QLabel &label, const QString &text)
 {
     label.setHidden(text.isEmpty());
@@ -108,6 +116,7 @@ ListNotes addListNotes(QListWidget *list, int linesBelow)
     notes.below->setMinimumHeight(linesBelow * notes.below->fontMetrics().lineSpacing());
     takeAnyWidth(*notes.above);
     takeAnyWidth(*notes.below);
+    readAround(*list, notes);
     auto *column = new QVBoxLayout;
     replace(list, column);
     column->addWidget(notes.above);

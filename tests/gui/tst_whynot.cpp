@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QAccessible>
 #include <QTextDocument>
 
 #include "holding/assigndaypartitem.h"
@@ -41,6 +42,15 @@ QString toolTipOf(const QDialog &dialog, int row)
     QTextDocument document;
     document.setHtml(toolTip);
     return document.toPlainText();
+}
+
+QStringList childrenInReadingOrder(QWidget &window)
+{
+    QStringList names;
+    const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&window);
+    for (int i = 0; i < interface->childCount(); ++i)
+        names.append(interface->child(i)->object()->objectName());
+    return names;
 }
 
 // Whatever the reasons are: a row has one exactly when it cannot be selected, and tells it in both places.
@@ -102,6 +112,7 @@ private slots:
     void init() { failOnWarnings(); }
     void rowsOfThePickerSayWhy();
     void pickerSaysWhichBinIsFilled();
+    void linesAreReadAroundTheList();
     void pickerSaysWhatTheBinDemands();
     void longNamesLeaveRoom();
     void pickerWithoutAPlaceSaysNothing();
@@ -136,6 +147,18 @@ void TestWhyNot::pickerSaysWhichBinIsFilled()
     });
     pick(editor, 0, 0, [](AssignDaypartItem &picker) {
         QCOMPARE(textOf(picker, "lblPlace"), u"Morning, Row 1, Bin 1, now Ham"_s);
+    });
+}
+
+void TestWhyNot::linesAreReadAroundTheList()
+{
+    OpenBins editor(holdingMenu());
+    pick(editor, 0, 1, [](AssignDaypartItem &picker) {
+        const QStringList names = childrenInReadingOrder(picker);
+        const qsizetype list = names.indexOf("listWidgetProducts"_L1);
+        QVERIFY(list > 0);
+        QCOMPARE(names.value(list - 1), u"lblPlace"_s);
+        QCOMPARE(names.value(list + 1), u"lblDemand"_s);
     });
 }
 
