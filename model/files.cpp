@@ -36,10 +36,8 @@ Replaced replaceWhole(const QString &path, const QByteArray &bytes)
     if (!file.open(QIODevice::WriteOnly))
         return Replaced::NotPossible;
     // commit() returns true after a short write and would put the truncated file in the good one's place.
-    if (!writeAll(file, bytes) || file.size() != bytes.size()) {
-        file.cancelWriting();
+    if (!writeAll(file, bytes) || file.size() != bytes.size())
         return Replaced::Failed;
-    }
     // Only now a nameless temporary file gets a name and the old file's place. Either may be refused: the
     // name is too long, or the folder is sticky and the file someone else's.
     return file.commit() ? Replaced::Yes : Replaced::NotPossible;

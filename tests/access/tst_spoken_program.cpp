@@ -60,6 +60,7 @@ private slots:
     void init() { failOnWarnings(); }
     void windowsHaveTheirTitles();
     void savingIsToldEachTime();
+    void savingUnderANameIsToldOnce();
     void firstChangeIsTold();
     void suffixNoteIsToldOnce();
 };
@@ -89,6 +90,16 @@ void TestSpokenProgram::savingIsToldEachTime()
         QCOMPARE(told.filter(u"alert lblTold: Saved "_s + program.path(nameOf(line))).size(), 1);
         QVERIFY(!told.filter(u"name lblTold: Saved "_s).isEmpty());
     }
+}
+
+void TestSpokenProgram::savingUnderANameIsToldOnce()
+{
+    QFETCH_GLOBAL(const Line, line);
+    Program program;
+    open(program, line);
+    Heard heard;
+    saveAs(program, line, nameOf(line));
+    QCOMPARE(heard.take().filter(u"alert lblSaved:"_s), QStringList{u"alert lblSaved: Saved"_s});
 }
 
 void TestSpokenProgram::firstChangeIsTold()

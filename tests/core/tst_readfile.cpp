@@ -33,6 +33,7 @@ private slots:
     void wholeContent();
     void throughLink();
     void ofUnknownSize();
+    void thatFailsWhileItIsRead();
     void unknownSizeIsLimited();
     void largestSize();
     void refused_data();
@@ -95,6 +96,15 @@ void TestReadFile::ofUnknownSize()
     QVERIFY(status.has_value());
     QVERIFY(status->startsWith("Name:"));
     QVERIFY(status->endsWith('\n'));
+}
+
+// Nothing is mapped where it begins.
+void TestReadFile::thatFailsWhileItIsRead()
+{
+    const QString memory = u"/proc/self/mem"_s;
+    QVERIFY(QFileInfo(memory).isFile());
+    QVERIFY(QFile(memory).open(QIODevice::ReadOnly));
+    QVERIFY(!readFile(memory));
 }
 
 // The list of this process's mappings, in which each one of a file is told with its path.

@@ -53,6 +53,7 @@ private slots:
     void cleanup() { m_folder.reset(); }
     void sharedByGroup();
     void someoneElses();
+    void sharedByGroupBehindALink();
     void severalNames();
     void ownFileIsReplacedWhole();
     void nothingIsLeftBeside();
@@ -100,6 +101,22 @@ void TestWriteFileOwners::someoneElses()
     QCOMPARE(after.st_gid, before.st_gid);
     if (owner != geteuid())
         QCOMPARE(after.st_ino, before.st_ino);
+}
+
+// New files in the link's folder get the group, those beside the file itself do not.
+void TestWriteFileOwners::sharedByGroupBehindALink()
+{
+    const gid_t group = anotherGroup();
+    const QByteArray folder = m_folder->native(u"links"_s);
+    const QByteArray linked = folder + "/b.json";
+    QCOMPARE(mkdir(folder.constData(), 0770), 0);
+    QCOMPARE(chown(folder.constData(), uid_t(-1), group), 0);
+    QCOMPARE(chmod(folder.constData(), 02770), 0);
+    QCOMPARE(chown(native().constData(), uid_t(-1), group), 0);
+    QCOMPARE(symlink(native().constData(), linked.constData()), 0);
+    QVERIFY(writeFile(QFile::decodeName(linked), "new"));
+    QCOMPARE(m_folder->content(u"a.json"_s), "new");
+    QCOMPARE(statusOf(native()).st_gid, group);
 }
 
 void TestWriteFileOwners::severalNames()

@@ -188,6 +188,8 @@ void TestMenuFileConfiguration::cancelChangesNothing()
 void TestMenuFileConfiguration::celsiusOnlyChangesWhatIsShown()
 {
     OpenEditor editor(filledMenu(u"KTR22"_s));
+    const auto &cabinet = ui::get<QLabel>(*editor, "lblCabinet");
+    QCOMPARE(cabinet.text(), u"Cabinet: QHX KTR22, °F"_s);
     const QJsonObject before = editor.saved();
     ModalAnswers answers;
     answers.expect<Configuration>([](Configuration &dialog) {
@@ -195,6 +197,7 @@ void TestMenuFileConfiguration::celsiusOnlyChangesWhatIsShown()
         ui::click(dialog, "btnAccept");
     });
     configure(answers, editor);
+    QCOMPARE(cabinet.text(), u"Cabinet: QHX KTR22, °C"_s);
     ui::clickRow(editor.products(), 0);
     QCOMPARE(editor.productDetail("txtTemp1").text(), u"93°C"_s);
     QCOMPARE(editor.saved(), before);

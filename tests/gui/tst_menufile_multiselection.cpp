@@ -51,6 +51,7 @@ private slots:
     void editNeedsTheModeOff();
     void addKeepsTheMarks();
     void programmaticMarksCount();
+    void detailsFollowTheArrowKeys();
     void leavingClearsEverything();
     void configurationLeavesTheMode();
     void otherTabIsUntouched();
@@ -340,6 +341,19 @@ void TestMenuFileMultiSelection::leavingClearsEverything()
     QCOMPARE(list().currentRow(), -1);
     QCOMPARE(enabledButtons(), u"Add..."_s);
     ui::click(button("SelectMulti"));
+    QCOMPARE(checkedRows(), QList<int>());
+}
+
+// They move the current row and mark none.
+void TestMenuFileMultiSelection::detailsFollowTheArrowKeys()
+{
+    ui::click(button("SelectMulti"));
+    QTest::keyClick(&list(), Qt::Key_Home);
+    const QLabel &name = m_tab == 0 ? m_editor->productDetail("txtName") : m_editor->groupDetail("txtName");
+    const QString entry = m_tab == 0 ? u"Product %1"_s : u"Group %1"_s;
+    QCOMPARE(name.text(), entry.arg(1));
+    QTest::keyClick(&list(), Qt::Key_Down);
+    QCOMPARE(name.text(), entry.arg(2));
     QCOMPARE(checkedRows(), QList<int>());
 }
 
