@@ -50,7 +50,7 @@ void TestSvrxMenuFileEntry::wheelPassesOverBoxes()
     ui::get<QRadioButton>(editor, "rbTempUnitF").setFocus();
     for (int steps : {1, -1}) {
         for (QWidget *box : boxes) {
-            QVERIFY(!turnWheel(*box, steps)); // what scrolls is to have it
+            QVERIFY(!turnWheel(*box, steps));              // what scrolls is to have it
             QCOMPARE(box->focusPolicy(), Qt::StrongFocus); // the wheel gives no focus either
         }
         QCOMPARE(lanes.currentIndex(), 0);
