@@ -13,9 +13,12 @@
 #include "ui_assigndaypartitem.h"
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
+#include "widgets/findrows.h"
 #include "widgets/fixedsize.h"
 #include "widgets/listkeys.h"
 #include "widgets/numberedrows.h"
+
+using namespace Qt::StringLiterals;
 
 AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int upperTemp, int lowerTemp,
                                      int fanSpeed, bool singleBinSecondZone, MenuFile *menuFile)
@@ -33,6 +36,8 @@ AssignDaypartItem::AssignDaypartItem(const QStringList &allowedZoneSplits, int u
                   tr("This menu has no products yet. Cancel, and add some on the Products tab."));
     m_ui->details->setEmptyHint(tr("Select a product or group"));
     m_notes = addListNotes(m_ui->listWidgetProducts);
+    m_find = new FindRows(m_ui->listWidgetProducts, u"txtFind"_s, m_ui->btnSelect);
+    m_find->setFocus();
     new ListKeys(m_ui->listWidgetProducts, m_ui->btnSelect);
     numberedrows::describe(m_ui->listWidgetProducts, [this](int row) {
         return holding::rowDescription(m_entries.value(row), m_configuration);
@@ -57,6 +62,11 @@ void AssignDaypartItem::setPlace(const QString &daypart, Bin bin, const QString 
     fixSizeOnScreen(this); // a long name in a large font takes lines of its own
 }
 
+void AssignDaypartItem::find(const QString &text)
+{
+    m_find->find(text);
+}
+
 QString AssignDaypartItem::misfitOf(const ProductInfo &entry) const
 {
     return holding::binMisfitText(entry, m_limits, m_allowedZoneSplits, m_configuration);
@@ -78,6 +88,7 @@ void AssignDaypartItem::loadProducts()
     }
     m_notes.setBelow(demandLine(holding::binDemandText(m_limits, m_allowedZoneSplits, m_configuration),
                                 fitting, list->count()));
+    m_find->refresh();
 }
 
 const ProductInfo *AssignDaypartItem::selectedEntry() const

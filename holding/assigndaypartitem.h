@@ -12,6 +12,7 @@
 #include "holding/bins.h"
 #include "widgets/listnotes.h"
 
+class FindRows;
 class MenuFile;
 class ProductInfo;
 
@@ -33,6 +34,8 @@ public:
 
     /// Says which bin is being filled: the day part's name, the place and the name of what stands there now.
     void setPlace(const QString &daypart, Bin bin, const QString &content);
+    /// Looks for what was typed before the dialog came up.
+    void find(const QString &text);
 
     /// The id of the chosen product or group, after an accepted run.
     [[nodiscard]] int resultId() const { return m_resultId; }
@@ -52,6 +55,7 @@ private:
 
     std::unique_ptr<Ui::AssignDaypartItem> m_ui;
     ListNotes m_notes;
+    FindRows *m_find = nullptr; ///< the list owns it
     const holding::CabinetConfiguration m_configuration;
     QStringList m_allowedZoneSplits;
     holding::BinLimits m_limits;

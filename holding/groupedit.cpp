@@ -16,6 +16,7 @@
 #include "widgets/announce.h"
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
+#include "widgets/findrows.h"
 #include "widgets/fixedsize.h"
 #include "widgets/listkeys.h"
 #include "widgets/messages.h"
@@ -65,6 +66,7 @@ GroupEdit::GroupEdit(ProductInfo &group, MenuFile *menuFile)
     m_notes = addListNotes(m_ui->listWidgetProducts, 1);
     // As wide as the dialog, as a demand names up to five settings.
     m_ui->verticalLayout->insertWidget(m_ui->verticalLayout->indexOf(m_ui->layoutLists) + 1, m_notes.below);
+    m_find = new FindRows(m_ui->listWidgetProducts, u"txtFind"_s, m_ui->btnAddProduct);
     new ListKeys(m_ui->listWidgetProducts, m_ui->btnAddProduct);
     new ListKeys(m_ui->listWidgetGroupProducts, m_ui->btnRemoveProduct);
     describeRows();
@@ -127,6 +129,7 @@ void GroupEdit::loadProducts()
     }
     m_notes.setBelow(
         demandLine(holding::groupDemandText(m_draft.settings(), m_configuration), fitting, list->count()));
+    m_find->refresh();
 }
 
 void GroupEdit::loadGroupProducts()
@@ -211,13 +214,14 @@ void GroupEdit::on_btnAddProduct_clicked()
     loadGroupProducts();
 }
 
-// So that products are added one after the other; the row itself where nothing is left behind it.
+// So that products are added one after the other; the row itself where nothing in sight is left behind it.
 int GroupEdit::nextRowToAdd(int row) const
 {
     const QSet<int> members(m_draft.members().begin(), m_draft.members().end());
     for (int next = row + 1; next < m_products.size(); ++next) {
         const ProductInfo &product = *m_products[next];
-        if (m_draft.fits(product) && !members.contains(product.get_productId()))
+        const bool inSight = !m_ui->listWidgetProducts->isRowHidden(next);
+        if (inSight && m_draft.fits(product) && !members.contains(product.get_productId()))
             return next;
     }
     return row;

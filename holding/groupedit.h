@@ -12,6 +12,7 @@
 #include "widgets/listnotes.h"
 #include "widgets/refusabledialog.h"
 
+class FindRows;
 class MenuFile;
 class ProductInfo;
 class QListWidgetItem;
@@ -56,6 +57,7 @@ private:
 
     std::unique_ptr<Ui::GroupEdit> m_ui;
     ListNotes m_notes;
+    FindRows *m_find = nullptr; ///< the list of all products owns it
     ProductInfo &m_group;
     const holding::CabinetConfiguration m_configuration;
     const QList<ProductInfo *> m_products; ///< the menu's, in its order

@@ -37,9 +37,9 @@ MenuFile::MenuFile(const QString &filePath, QWidget *parent)
     : MenuEditor(isOldMenu(filePath) ? QString() : filePath, parent)
     , m_ui(makeForm(this))
     , m_products({m_ui->listWidgetProducts, m_ui->btnEditProduct, m_ui->btnDuplicateProduct,
-                  m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct})
+                  m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct, u"txtFindProducts"_s})
     , m_groups({m_ui->listWidgetGroups, m_ui->btnEditGroup, m_ui->btnDuplicateGroup, m_ui->btnDeleteGroup,
-                m_ui->btnSelectMultiGroup})
+                m_ui->btnSelectMultiGroup, u"txtFindGroups"_s})
 {
     takeFrame(m_ui->lblSaved, m_ui->btnClose);
     numberedrows::preparePlainList(m_ui->listWidgetMembers);

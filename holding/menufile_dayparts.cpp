@@ -229,6 +229,7 @@ void MenuFile::assignProductToBin(int rowIndex, int binIndex)
                              limits.lowerTemp, limits.fanSpeed, m_shape.singleBinSecondZone, this);
     const Bin bin{rowIndex, binIndex};
     dialog.setPlace(shownName(daypart->names), bin, binLabel(row[binIndex], daypart->bins[bin]).name);
+    dialog.find(m_grid.typed());
     if (dialog.exec() != Accepted)
         return;
     daypart->bins[bin] = dialog.resultId();

@@ -13,9 +13,12 @@
 #include "ui_timerbardaypartassignitem.h"
 #include "widgets/emptyhint.h"
 #include "widgets/enterkey.h"
+#include "widgets/findrows.h"
 #include "widgets/fixedsize.h"
 #include "widgets/listkeys.h"
 #include "widgets/numberedrows.h"
+
+using namespace Qt::StringLiterals;
 
 TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTemp, TimerBarMenuFile *menuFile)
     : QDialog(menuFile)
@@ -27,6 +30,8 @@ TimerBarDaypartAssignItem::TimerBarDaypartAssignItem(int upperTemp, int lowerTem
     m_ui->setupUi(this);
     numberedrows::prepareColouredList(m_ui->listWidgetProducts);
     m_notes = addListNotes(m_ui->listWidgetProducts);
+    m_find = new FindRows(m_ui->listWidgetProducts, u"txtFind"_s, m_ui->btnSelect);
+    m_find->setFocus();
     new ListKeys(m_ui->listWidgetProducts, m_ui->btnSelect);
     numberedrows::describe(m_ui->listWidgetProducts, [this](int row) {
         return timerbar::rowDescription(m_products.value(row), m_temperatureUnit);
@@ -50,6 +55,11 @@ void TimerBarDaypartAssignItem::setPlace(const QString &daypart, Bin bin, const 
     fixSizeOnScreen(this); // a long name in a large font takes lines of its own
 }
 
+void TimerBarDaypartAssignItem::find(const QString &text)
+{
+    m_find->find(text);
+}
+
 void TimerBarDaypartAssignItem::loadProducts()
 {
     QListWidget *list = m_ui->listWidgetProducts;
@@ -67,6 +77,7 @@ void TimerBarDaypartAssignItem::loadProducts()
     }
     m_notes.setBelow(
         demandLine(timerbar::demandText(m_reference, m_temperatureUnit), fitting, list->count()));
+    m_find->refresh();
 }
 
 const ProductInfo *TimerBarDaypartAssignItem::selectedProduct() const

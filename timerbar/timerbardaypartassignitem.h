@@ -11,6 +11,7 @@
 #include "timerbar/bins.h"
 #include "widgets/listnotes.h"
 
+class FindRows;
 class TimerBarMenuFile;
 
 namespace Ui {
@@ -30,6 +31,8 @@ public:
 
     /// Says which bin is being filled: the day part's name, the place and the name of what stands there now.
     void setPlace(const QString &daypart, Bin bin, const QString &content);
+    /// Looks for what was typed before the dialog came up.
+    void find(const QString &text);
 
     /// The chosen product's id; timerbar::emptyCell for none.
     [[nodiscard]] int chosenId() const { return m_chosenId; }
@@ -47,6 +50,7 @@ private:
 
     std::unique_ptr<Ui::TimerBarDaypartAssignItem> m_ui;
     ListNotes m_notes;
+    FindRows *m_find = nullptr;      ///< the list owns it
     QList<ProductInfo *> m_products; ///< the editor's
     timerbar::ReferenceTemperatures m_reference;
     int m_temperatureUnit;

@@ -18,6 +18,8 @@
 #include "widgets/messages.h"
 #include "widgets/numberedrows.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::unique_ptr<Ui::TimerBarMenuFile> makeForm(TimerBarMenuFile *editor)
@@ -43,7 +45,7 @@ TimerBarMenuFile::TimerBarMenuFile(const QString &filePath, QWidget *parent)
     : MenuEditor(filePath, parent)
     , m_ui(makeForm(this))
     , m_products({m_ui->listWidgetProducts, m_ui->btnEditProduct, m_ui->btnDuplicateProduct,
-                  m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct})
+                  m_ui->btnDeleteProduct, m_ui->btnSelectMultiProduct, u"txtFindProducts"_s})
 {
     showWhenEmpty(m_ui->listWidgetProducts, tr("No products yet. Add makes one."));
     takeFrame(m_ui->lblSaved, m_ui->btnClose);

@@ -187,6 +187,7 @@ void TimerBarMenuFile::assignProductToBin(int rowIndex, int binIndex)
     const ProductInfo *product = id == timerbar::emptyCell ? nullptr : getProductObject(id);
     dialog.setPlace(m_ui->comboDaypartSelect->currentText(), bin,
                     product ? shownName(product->get_productName()) : QString());
+    dialog.find(m_grid.typed());
     if (dialog.exec() != Accepted)
         return;
     (*cells)[bin] = dialog.chosenId();

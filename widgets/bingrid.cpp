@@ -49,6 +49,7 @@ BinGrid::BinGrid(QObject *parent)
     m_holdTimer.setTimerType(Qt::PreciseTimer); // a coarse one may be early
     m_holdTimer.setInterval(holdTime);
     connect(&m_holdTimer, &QTimer::timeout, this, &BinGrid::holdDetected);
+    connect(&m_keys, &GridKeys::typed, this, &BinGrid::assignByTyping);
 }
 
 void BinGrid::clear()
@@ -122,6 +123,17 @@ void BinGrid::release()
 std::optional<Bin> BinGrid::clickedBin(const QPushButton *button) const
 {
     return button->isCheckable() ? std::nullopt : binOf(button);
+}
+
+// In removal mode a click means something else.
+void BinGrid::assignByTyping(QWidget *widget, const QString &text)
+{
+    auto *button = qobject_cast<QPushButton *>(widget);
+    if (!button || isRemoving())
+        return;
+    m_typed = text;
+    button->click();
+    m_typed.clear();
 }
 
 void BinGrid::settleHold(const std::function<bool(Bin)> &isFilled)

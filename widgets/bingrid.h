@@ -20,7 +20,8 @@ class QWidget;
 /// Which button is which bin, and the two modes of the buttons: a click assigns, until a bin is held for
 /// 800 ms; in removal mode clicks choose the bins to clear.
 ///
-/// Arrow keys go from bin to bin, and Tab stops at one of them.
+/// Arrow keys go from bin to bin, and Tab stops at one of them. Typing on a bin clicks it and is kept for the
+/// one who assigns.
 ///
 /// The editor forwards what happens to its buttons and answers holdDetected(). The grid knows nothing of
 /// products; it owns no buttons.
@@ -46,6 +47,8 @@ public:
 
     void press(QPushButton *button);
     void release();
+    /// What was typed on the bin whose assignment is under way; empty where it was clicked.
+    [[nodiscard]] QString typed() const { return m_typed; }
     /// The bin that a click on the button assigns; nothing in removal mode, where it changes the check mark.
     [[nodiscard]] std::optional<Bin> clickedBin(const QPushButton *button) const;
 
@@ -73,11 +76,13 @@ private:
     };
     [[nodiscard]] std::optional<Bin> binOf(const QPushButton *button) const;
     void enterRemovalMode(const QPushButton *held, const std::function<bool(Bin)> &isFilled);
+    void assignByTyping(QWidget *widget, const QString &text);
 
     QList<Place> m_places;
     QPushButton *m_pressed = nullptr; ///< while it may become held
     QTimer m_holdTimer;
     GridKeys m_keys{GridKeys::TabStops::One};
+    QString m_typed;
 };
 
 /// A hidden widget keeps its room, so that entering removal mode moves no bin from under the pointer.

@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 
+#include "widgets/findrows.h"
 #include "widgets/listkeys.h"
 #include "widgets/multiselection.h"
 #include "widgets/numberedrows.h"
@@ -14,9 +15,11 @@
 EntryPane::EntryPane(const Parts &parts)
     : m_parts(parts)
     , m_multiSelection(new MultiSelection(parts.list, parts.multiSelection))
+    , m_find(new FindRows(parts.list, parts.findName))
 {
     numberedrows::preparePlainList(parts.list);
     new ListKeys(parts.list, parts.edit);
+    QObject::connect(m_find, &FindRows::changed, m_find, [this] { updateButtons(); });
 }
 
 void EntryPane::setCurrentRow(const QListWidgetItem *item)
@@ -43,6 +46,7 @@ void EntryPane::showNames(const QStringList &names)
         m_parts.list->setCurrentRow(m_row, QItemSelectionModel::ClearAndSelect);
     else
         m_parts.list->setCurrentIndex({}); // else the first row would become current with the focus
+    m_find->refresh(m_row);
 }
 
 void EntryPane::updateButtons()
@@ -50,7 +54,20 @@ void EntryPane::updateButtons()
     const bool single = m_row >= 0 && !m_multiSelection->isActive();
     m_parts.edit->setEnabled(single);
     m_parts.duplicate->setEnabled(single);
-    m_parts.remove->setEnabled(single || m_multiSelection->isAnyChecked());
+    m_parts.remove->setEnabled(single || isAnyCheckedInSight());
+}
+
+// Asked for each row of thousands that are checked at once: the first one in sight mostly tells.
+bool EntryPane::isAnyCheckedInSight() const
+{
+    if (!m_find->isHiding() || !m_multiSelection->isAnyChecked())
+        return m_multiSelection->isAnyChecked();
+    const QListWidget &list = *m_parts.list;
+    for (int row = m_find->firstRow(); row >= 0 && row < list.count(); ++row) {
+        if (!list.isRowHidden(row) && list.item(row)->checkState() == Qt::Checked)
+            return true;
+    }
+    return false;
 }
 
 void EntryPane::followSelection()
@@ -68,11 +85,15 @@ void EntryPane::setMultiSelecting(bool multiSelecting)
 {
     m_multiSelection->setActive(multiSelecting);
     m_row = -1;
+    m_find->refresh();
 }
 
 QList<int> EntryPane::rowsToDelete() const
 {
-    if (m_multiSelection->isActive())
-        return m_multiSelection->checkedRows();
+    if (m_multiSelection->isActive()) {
+        QList<int> rows = m_multiSelection->checkedRows();
+        rows.removeIf([this](int row) { return m_parts.list->isRowHidden(row); });
+        return rows;
+    }
     return m_row >= 0 ? QList<int>{m_row} : QList<int>{};
 }

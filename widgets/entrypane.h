@@ -6,13 +6,15 @@
 #include <QList>
 #include <QStringList>
 
+class FindRows;
 class MultiSelection;
 class QAbstractButton;
 class QListWidget;
 class QListWidgetItem;
 
-/// The list of a tab and the buttons that act on it: which row is current, which rows are chosen in multiple
-/// selection, which buttons that enables. It knows rows, not products; the form owns the widgets.
+/// The list of a tab, the field above it that finds rows, and the buttons that act on it: which row is
+/// current, which rows are chosen in multiple selection, which buttons that enables. Buttons act on rows in
+/// sight only. It knows rows, not products; the form owns the widgets.
 class EntryPane
 {
 public:
@@ -23,9 +25,11 @@ public:
         QAbstractButton *duplicate;
         QAbstractButton *remove;
         QAbstractButton *multiSelection;
+        QString findName = QStringLiteral("txtFind"); ///< the object name of the field
     };
 
     explicit EntryPane(const Parts &parts);
+    Q_DISABLE_COPY_MOVE(EntryPane)
 
     /// The current row, -1 for none.
     [[nodiscard]] int currentRow() const { return m_row; }
@@ -34,7 +38,8 @@ public:
 
     void focusList() const;
 
-    /// Refills the list with numbered rows; the current row and the check marks stay.
+    /// Refills the list with numbered rows; the current row and the check marks stay, and what is hidden
+    /// stays so, unless it were the current row.
     void showNames(const QStringList &names);
     /// Enables the buttons that have something to act on.
     void updateButtons();
@@ -43,11 +48,15 @@ public:
 
     [[nodiscard]] bool isMultiSelecting() const;
     void setMultiSelecting(bool multiSelecting);
-    /// What Delete acts on: the chosen rows in multiple selection, else the current one; in ascending order.
+    /// What Delete acts on: the chosen rows in sight in multiple selection, else the current one; in
+    /// ascending order.
     [[nodiscard]] QList<int> rowsToDelete() const;
 
 private:
+    [[nodiscard]] bool isAnyCheckedInSight() const;
+
     Parts m_parts;
     MultiSelection *m_multiSelection; ///< the list owns it
+    FindRows *m_find;                 ///< likewise
     int m_row = -1;
 };

@@ -17,6 +17,15 @@ bool isUsable(const QWidget &widget)
     return !widget.isHidden() && widget.isEnabled();
 }
 
+// Space presses buttons.
+bool isTyped(const QKeyEvent &press)
+{
+    const bool plain = !(press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    const QString text = press.text();
+    return plain && !press.isAutoRepeat() && !text.isEmpty() && text.front().isPrint() &&
+           !text.front().isSpace();
+}
+
 } // namespace
 
 GridKeys::GridKeys(TabStops stops, QObject *parent)
@@ -97,6 +106,10 @@ bool GridKeys::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress: {
         const auto *press = static_cast<QKeyEvent *>(event);
+        if (isTyped(*press)) {
+            emit typed(place->widget, press->text());
+            return false;
+        }
         return !(press->modifiers() & ~Qt::KeypadModifier) && takeKey(*place, press->key());
     }
     case QEvent::FocusIn:

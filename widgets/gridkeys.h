@@ -29,6 +29,10 @@ public:
     /// Where Tab enters; null while nothing is shown. Without a single stop: what last had the focus.
     [[nodiscard]] QWidget *stop() const;
 
+signals:
+    /// A character that no widget of the grid has a use for.
+    void typed(QWidget *widget, const QString &text);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -10,29 +10,18 @@
 #include <QKeyEvent>
 #include <QListWidget>
 
+#include "widgets/numberedrows.h"
+
+using numberedrows::firstRowInSight;
+using numberedrows::isSelectable;
+using numberedrows::lastRowInSight;
+
 namespace {
 
 bool isEnter(int key)
 {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
-
-/// A row's text, "  1 Bacon", in its two parts.
-struct RowText
-{
-    explicit RowText(const QString &text)
-    {
-        const auto isBlank = [](QChar character) { return character == u' '; };
-        const auto isDigit = [](QChar character) { return character.isDigit(); };
-        const auto number = std::find_if_not(text.begin(), text.end(), isBlank);
-        const auto end = std::find_if_not(number, text.end(), isDigit);
-        digits = QStringView(number, end);
-        name = QStringView(end == text.end() ? end : end + 1, text.end());
-    }
-
-    QStringView digits;
-    QStringView name;
-};
 
 bool hasCheckBox(const QListWidgetItem &item)
 {
@@ -73,6 +62,8 @@ bool ListKeys::takeKey(const QKeyEvent &press)
             m_enterButton->click();
         return true;
     }
+    if (takeHiddenEnd(press.key()))
+        return true;
     const bool plain = !(press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
     if (!plain || m_list->selectionMode() != QAbstractItemView::SingleSelection)
         return false;
@@ -81,21 +72,34 @@ bool ListKeys::takeKey(const QKeyEvent &press)
     return takeArrow(press.key()) || takeText(press);
 }
 
+// The view by itself goes to the first or the last row although it is hidden.
+bool ListKeys::takeHiddenEnd(int key)
+{
+    const bool isEnd = key == Qt::Key_Home || key == Qt::Key_End;
+    if (!isEnd || m_list->count() == 0 || !m_list->isRowHidden(key == Qt::Key_Home ? 0 : m_list->count() - 1))
+        return false;
+    const int row = key == Qt::Key_Home ? firstRowInSight(m_list) : lastRowInSight(m_list);
+    if (row >= 0 && m_list->selectionMode() == QAbstractItemView::SingleSelection)
+        goTo(row);
+    else if (row >= 0)
+        m_list->setCurrentRow(row, QItemSelectionModel::NoUpdate);
+    return true;
+}
+
 bool ListKeys::takeArrow(int key)
 {
-    const int last = m_list->count() - 1;
-    if (last < 0 || !m_list->selectedItems().isEmpty())
+    if (!m_list->selectedItems().isEmpty())
         return false;
     const int current = m_list->currentRow();
     int row = -1;
     if (key == Qt::Key_Up || key == Qt::Key_Down)
-        row = std::max(current, 0);
+        row = current >= 0 ? current : firstRowInSight(m_list);
     else if (key == Qt::Key_Home)
-        row = 0;
+        row = firstRowInSight(m_list);
     else if (key == Qt::Key_End)
-        row = last;
+        row = lastRowInSight(m_list);
     // The view by itself moves on from a row that has the focus and cannot be selected.
-    if (row < 0 || (row == current && !isSelectable(row)))
+    if (row < 0 || (row == current && !isSelectable(m_list, row)))
         return false;
     goTo(row);
     return true;
@@ -111,7 +115,7 @@ bool ListKeys::takeSpace()
     const QListWidgetItem *item = m_list->currentItem();
     if (item && hasCheckBox(*item))
         return false; // it changes the check mark, and the view then looks for nothing
-    if (item && isSelectable(m_list->currentRow()))
+    if (item && isSelectable(m_list, m_list->currentRow()))
         goTo(m_list->currentRow());
     return true;
 }
@@ -144,15 +148,10 @@ void ListKeys::search(bool onward)
         goTo(row);
 }
 
-bool ListKeys::isSelectable(int row) const
-{
-    return m_list->item(row)->flags().testFlag(Qt::ItemIsSelectable);
-}
-
 void ListKeys::goTo(int row)
 {
-    m_list->setCurrentRow(row, isSelectable(row) ? QItemSelectionModel::ClearAndSelect
-                                                 : QItemSelectionModel::Clear);
+    m_list->setCurrentRow(row, isSelectable(m_list, row) ? QItemSelectionModel::ClearAndSelect
+                                                         : QItemSelectionModel::Clear);
 }
 
 // A number is looked for before names that begin with it.
@@ -163,8 +162,10 @@ int ListKeys::foundRow(const QString &text, int from) const
     const bool number = isNumber(text);
     for (int i = 0; i < count; ++i) {
         const int row = (from + i) % count;
+        if (m_list->isRowHidden(row))
+            continue;
         const QString shown = m_list->item(row)->text();
-        const RowText parts(shown);
+        const numberedrows::RowText parts(shown);
         if (number && parts.digits == text)
             return row;
         if (named < 0 && parts.name.startsWith(text, Qt::CaseInsensitive))

@@ -8,6 +8,7 @@
 #include <QListWidget>
 
 #include "widgets/announce.h"
+#include "widgets/layouts.h"
 #include "widgets/namelabel.h"
 
 using namespace Qt::StringLiterals;
@@ -25,18 +26,6 @@ constexpr qsizetype longestContent = 40;
 QString shortened(const QString &name, qsizetype longest)
 {
     return name.size() <= longest ? name : name.first(longest) + u'\u2026';
-}
-
-QLayout *layoutOf(QLayout *layout, QWidget *widget)
-{
-    if (layout->indexOf(widget) >= 0)
-        return layout;
-    for (int i = 0; i < layout->count(); ++i) {
-        QLayout *inner = layout->itemAt(i)->layout();
-        if (QLayout *found = inner ? layoutOf(inner, widget) : nullptr)
-            return found;
-    }
-    return nullptr;
 }
 
 void replaceInBox(QBoxLayout &box, QWidget *widget, QLayout *by)
@@ -60,7 +49,7 @@ void replaceInGrid(QGridLayout &grid, QWidget *widget, QLayout *by)
 
 void replace(QWidget *widget, QLayout *by)
 {
-    QLayout *place = layoutOf(widget->parentWidget()->layout(), widget);
+    QLayout *place = layoutOf(widget);
     if (auto *box = qobject_cast<QBoxLayout *>(place))
         replaceInBox(*box, widget, by);
     else if (auto *grid = qobject_cast<QGridLayout *>(place))

@@ -121,6 +121,17 @@ void MultiSelection::check(const QItemSelection &rows, Qt::CheckState state)
     }
 }
 
+// The view by itself would also select rows that are hidden.
+void MultiSelection::selectAllInSight()
+{
+    QList<int> rows;
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (!m_list->isRowHidden(row))
+            rows.append(row);
+    }
+    m_list->selectionModel()->select(rangesOf(*m_list->model(), rows), QItemSelectionModel::Select);
+}
+
 // Left to itself the view also searches for what is typed, a blank included, and toggles the row it finds.
 bool MultiSelection::eventFilter(QObject *watched, QEvent *event)
 {
@@ -130,6 +141,10 @@ bool MultiSelection::eventFilter(QObject *watched, QEvent *event)
     if (press->key() == Qt::Key_Space) {
         if (QListWidgetItem *item = m_list->currentItem())
             item->setSelected(!item->isSelected());
+        return true;
+    }
+    if (press->matches(QKeySequence::SelectAll)) {
+        selectAllInSight();
         return true;
     }
     const bool isCommand = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);

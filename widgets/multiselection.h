@@ -27,7 +27,7 @@ public:
 
     /// Told without looking at the rows; false outside the mode.
     [[nodiscard]] bool isAnyChecked() const;
-    /// The checked rows in ascending order; none outside the mode.
+    /// The checked rows, hidden ones too, in ascending order; none outside the mode.
     [[nodiscard]] QList<int> checkedRows() const;
     /// Gives the rows of a refilled list their check boxes, with these rows, in ascending order, checked.
     /// Does nothing outside the mode.
@@ -38,6 +38,7 @@ protected:
 
 private:
     void check(const QItemSelection &rows, Qt::CheckState state);
+    void selectAllInSight();
     void tellMode();
     void describe(const QString &text);
 

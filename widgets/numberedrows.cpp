@@ -3,6 +3,8 @@
 
 #include "widgets/numberedrows.h"
 
+#include <algorithm>
+
 #include <QBrush>
 #include <QCoreApplication>
 #include <QFont>
@@ -89,6 +91,8 @@ public:
 
     [[nodiscard]] QVariant data(int role) const override
     {
+        if (role == titleRole)
+            return m_title;
         return role == Qt::ToolTipRole ? toolTipText() : Row::data(role);
     }
 
@@ -177,6 +181,16 @@ QString text(int number, const QString &name)
     return QString::number(number).rightJustified(3) + u' ' + name;
 }
 
+RowText::RowText(QStringView text)
+{
+    const auto isBlank = [](QChar character) { return character == u' '; };
+    const auto isDigit = [](QChar character) { return character.isDigit(); };
+    const auto number = std::find_if_not(text.begin(), text.end(), isBlank);
+    const auto end = std::find_if_not(number, text.end(), isDigit);
+    digits = QStringView(number, end);
+    name = QStringView(end == text.end() ? end : end + 1, text.end());
+}
+
 QListWidgetItem *append(QListWidget *list, const QString &name)
 {
     return append(list, list->count() + 1, name);
@@ -207,6 +221,27 @@ QListWidgetItem *appendToPick(QListWidget *list, const Pick &pick)
 void colourFitting(QListWidgetItem *item, int row)
 {
     colour(item, Qt::black, isOdd(row) ? Qt::cyan : Qt::white);
+}
+
+int firstRowInSight(const QListWidget *list)
+{
+    int row = 0;
+    while (row < list->count() && list->isRowHidden(row))
+        ++row;
+    return row < list->count() ? row : -1;
+}
+
+int lastRowInSight(const QListWidget *list)
+{
+    int row = list->count() - 1;
+    while (row >= 0 && list->isRowHidden(row))
+        --row;
+    return row;
+}
+
+bool isSelectable(const QListWidget *list, int row)
+{
+    return list->item(row)->flags().testFlag(Qt::ItemIsSelectable);
 }
 
 int selectedRow(const QListWidget *list)

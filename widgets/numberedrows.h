@@ -17,6 +17,8 @@ namespace numberedrows {
 /// Where the rows of the holding line's lists to pick from keep the entry's id: on the role of a picture,
 /// where no picture is.
 inline constexpr int idRole = Qt::DecorationRole;
+/// Where rows to pick from tell the title that their tool tip shows.
+inline constexpr int titleRole = Qt::UserRole + 1;
 
 /// Sets up a list that colours its own rows: fixed-pitch font, a selected row in black on dark cyan, no drag
 /// and drop. For dialogs; its style sheet costs more than an editor should pay when it opens.
@@ -31,6 +33,15 @@ void describe(QListWidget *list, const std::function<QString(int row)> &descript
 
 /// "  1 Bacon": the number right-aligned in three characters, a blank, the name.
 [[nodiscard]] QString text(int number, const QString &name);
+
+/// Such a text in its two parts, which live as long as it.
+struct RowText
+{
+    explicit RowText(QStringView text);
+
+    QStringView digits;
+    QStringView name;
+};
 
 /// Appends a row of fixed height, whose number is one more than its row unless another one is given.
 QListWidgetItem *append(QListWidget *list, const QString &name);
@@ -52,6 +63,12 @@ QListWidgetItem *appendToPick(QListWidget *list, const Pick &pick);
 
 /// Black on a cyan or white stripe by the item's row.
 void colourFitting(QListWidgetItem *item, int row);
+
+/// The first and the last row that is not hidden; -1 for none.
+[[nodiscard]] int firstRowInSight(const QListWidget *list);
+[[nodiscard]] int lastRowInSight(const QListWidget *list);
+/// Whether the row can be selected.
+[[nodiscard]] bool isSelectable(const QListWidget *list, int row);
 
 /// The row that is picked in a list in which one can be; -1 for none.
 [[nodiscard]] int selectedRow(const QListWidget *list);

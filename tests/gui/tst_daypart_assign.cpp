@@ -271,6 +271,7 @@ void TestDaypartAssign::assignsFromTheKeyboard()
     OpenBins editor(bins::menuOf(u"KTR22"_s, {}));
     ModalAnswers answers;
     answers.expect<AssignDaypartItem>([](AssignDaypartItem &picker) {
+        QTest::keyClick(picker.focusWidget(), Qt::Key_Down);
         QVERIFY(list(picker).hasFocus());
         QTest::keyClick(&list(picker), Qt::Key_End);
         QTest::keyClick(&picker, Qt::Key_Return);

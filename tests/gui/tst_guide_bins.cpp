@@ -67,6 +67,7 @@ private slots:
     void daypartIsDuplicated();
     void daypartIsPutOutOfUse();
     void binsOfADaypartAreFilled();
+    void binsAreFilledByFinding();
     void lastBinIsFilled();
     void binsAreEmptied();
     void emptyingIsCancelled_data();
@@ -145,6 +146,27 @@ void TestGuideBins::binsOfADaypartAreFilled()
     const QJsonObject menu = guide::savedMenu(guide);
     QCOMPARE(samplefile::binsOf(menu, 0), sixteenBins({}));
     QCOMPARE(samplefile::binsOf(menu, 1), sixteenBins({{2, 5}, {3, 2}}));
+}
+
+void TestGuideBins::binsAreFilledByFinding()
+{
+    Guide guide;
+    openBins(guide, {});
+    goToBins(0);
+    guide.expect<AssignDaypartItem>([] {
+        keyboard::type(u"lves"_s);
+        keyboard::press(Qt::Key_Return);
+    });
+    keyboard::type(u"a"_s); // on the bin
+    keyboard::press(Qt::Key_Down);
+    guide.expect<AssignDaypartItem>([] {
+        keyboard::pushButton(u"checkBoxOnlyFits"_s);
+        keyboard::enter(u"txtFind"_s, u"half"_s);
+        keyboard::press(Qt::Key_Escape);
+        keyboard::press(Qt::Key_Return); // is still selected
+    });
+    keyboard::press(Qt::Key_Space);
+    QCOMPARE(savedBins(guide), sixteenBins({{0, 5}, {2, 2}}));
 }
 
 void TestGuideBins::lastBinIsFilled()

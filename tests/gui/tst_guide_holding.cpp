@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QLineEdit>
 #include <QSpinBox>
 
 #include "holding/configuration.h"
@@ -58,6 +59,7 @@ private slots:
     void productIsDuplicatedAndDeleted();
     void severalProductsAreDeleted();
     void selectionIsCancelled();
+    void productIsFound();
     void wrongTimeIsCorrected();
     void groupIsAdded();
     void groupIsEdited();
@@ -212,6 +214,20 @@ void TestGuideHolding::selectionIsCancelled()
         QCOMPARE(button.text(), u"Multiple Selection"_s);
     }
     QCOMPARE(savedProducts(guide).size(), 4);
+}
+
+void TestGuideHolding::productIsFound()
+{
+    Guide guide;
+    guide::openMenu(guide);
+    keyboard::enter(u"txtFindProducts"_s, u"OST"_s);
+    keyboard::press(Qt::Key_Down);
+    expectDelete(guide, u"Delete selected product?"_s);
+    keyboard::tabBackTo(u"btnDeleteProduct"_s);
+    keyboard::press(Qt::Key_Space);
+    keyboard::press(Qt::Key_Escape);
+    QVERIFY(guide.get<QLineEdit>("txtFindProducts").text().isEmpty());
+    QCOMPARE(savedProducts(guide), (QStringList{u"Third"_s, u"Half"_s, u"Whole"_s}));
 }
 
 void TestGuideHolding::wrongTimeIsCorrected()

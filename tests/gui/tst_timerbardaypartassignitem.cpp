@@ -198,6 +198,7 @@ void TestTimerBarDaypartAssignItem::deselectingEmptiesTheDetails()
 void TestTimerBarDaypartAssignItem::keysSelectToo()
 {
     const Picking picking(baconHamChili());
+    QTest::keyClick(picking.dialog->focusWidget(), Qt::Key_Down);
     QVERIFY(picking.list().hasFocus());
     QTest::keyClick(&picking.list(), Qt::Key_Home);
     QTest::keyClick(&picking.list(), Qt::Key_Down);

@@ -33,7 +33,17 @@ void checkRows(const EntryList &list, const QListWidget &rows, const Journal &jo
     }
 }
 
-// Returns how many are checked.
+// A hidden row is never the one that the buttons act on.
+void checkInSight(const QListWidget &rows, bool multiSelecting, const Journal &journal)
+{
+    for (int row = 0; row < rows.count(); ++row) {
+        const bool chosen = row == rows.currentRow() || (!multiSelecting && rows.item(row)->isSelected());
+        journal.check(!chosen || !rows.isRowHidden(row),
+                      u"Row %1 is chosen although it is hidden"_s.arg(row));
+    }
+}
+
+// Returns how many are checked and in sight.
 int checkMarks(const QListWidget &rows, bool multiSelecting, const Journal &journal)
 {
     int checked = 0;
@@ -44,7 +54,7 @@ int checkMarks(const QListWidget &rows, bool multiSelecting, const Journal &jour
         const bool isChecked = multiSelecting && item.checkState() == Qt::Checked;
         journal.check(!multiSelecting || isChecked == item.isSelected(),
                       u"Row %1 is checked and not selected, or the other way round"_s.arg(row));
-        checked += isChecked ? 1 : 0;
+        checked += isChecked && !rows.isRowHidden(row) ? 1 : 0;
     }
     return checked;
 }
@@ -75,6 +85,7 @@ void checkList(const EntryList &list, const Journal &journal)
     const auto &rows =
         ui::get<QListWidget>(list.editor, QByteArray("listWidget").append(list.kind).append("s").constData());
     checkRows(list, rows, journal);
+    checkInSight(rows, rows.selectionMode() == QAbstractItemView::MultiSelection, journal);
     const bool multiSelecting = rows.selectionMode() == QAbstractItemView::MultiSelection;
     const auto &mode =
         ui::get<QPushButton>(list.editor, QByteArray("btnSelectMulti").append(list.kind).constData());

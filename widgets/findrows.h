@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+class QAbstractButton;
+class QBoxLayout;
+class QCheckBox;
+class QKeyEvent;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+
+/// The field "Find" above a list of numbered rows, which hides the rows whose name or number does not contain
+/// what is typed. Rows keep their numbers and their check marks.
+///
+/// A row that becomes hidden is no longer the current one, and where one row can be selected no longer
+/// selected either: what the details show and what Edit and Delete act on is always in sight. It does not
+/// become so again by itself, as nobody could tell which row would. Check marks of hidden rows stay, and a
+/// line below the list says how many there are; who acts on them leaves hidden ones out.
+///
+/// Arrow keys and page keys go from the field into the list. Escape anywhere in the window of a list that is
+/// in sight empties the field before it does anything else.
+class FindRows final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Puts the field, of this object name, into the box layout that has the list. The list owns this.
+    ///
+    /// A list to pick from has a button that takes the selected row. Enter in the field presses it, typing
+    /// selects the first row that fits, and a box "Only what fits" hides the rows that cannot be selected.
+    explicit FindRows(QListWidget *list, const QString &name, QAbstractButton *pick = nullptr);
+
+    void setFocus() const;
+    /// As if somebody had typed it into the empty field.
+    void find(const QString &text);
+    /// Whether rows may be hidden.
+    [[nodiscard]] bool isHiding() const;
+    /// The first row that is not hidden, -1 for none; without looking at all of them.
+    [[nodiscard]] int firstRow() const { return m_firstRow; }
+
+    /// To be called when rows, their names or their check marks have changed by the program. Where the row
+    /// given would be hidden the field is emptied, so that somebody who made or renamed an entry sees it.
+    void refresh(int rowToShow = -1);
+
+signals:
+    /// Other rows are hidden than before.
+    void changed();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    [[nodiscard]] QLineEdit *makeField(const QString &name);
+    void addOnlyFits(QBoxLayout *beside);
+    [[nodiscard]] bool takeFocus();
+    [[nodiscard]] bool takeFieldKey(const QKeyEvent &press);
+    [[nodiscard]] bool takeEscape(const QKeyEvent &press);
+    void takeEnter();
+    void goToList();
+    void follow(const QString &typed);
+    void update();
+    void hideRows();
+    [[nodiscard]] bool isFound(int row) const;
+    void leaveHiddenRow();
+    void selectFirstThatFits();
+    void tellFound() const;
+    void tellHiddenChecks(int checked);
+    [[nodiscard]] QLabel *makeNote() const;
+    [[nodiscard]] QString foundText() const;
+    [[nodiscard]] QString nothingFoundText() const;
+
+    QListWidget *m_list;
+    QAbstractButton *m_pick;
+    QLineEdit *m_field;
+    QCheckBox *m_onlyFits = nullptr; ///< null where nothing is picked
+    QLabel *m_note = nullptr;        ///< null before it was first needed
+    QStringList m_words;
+    int m_found = 0;          ///< rows, when they were last looked at
+    bool m_hasHidden = false; ///< likewise
+    bool m_goesOn = false;    ///< what was typed elsewhere is to be typed on
+    int m_firstRow = 0;       ///< likewise
+};
