@@ -58,10 +58,6 @@ constexpr bool hasItsButtons(const timerbar::CabinetModel &model)
 static_assert(std::all_of(timerbar::allModels.begin(), timerbar::allModels.end(), hasItsButtons),
               "A model has a bin without a button, or with two, in timerbar/binbuttons.h");
 
-// Pairs keep their width whatever stands in them, so that filling a bin never moves another one.
-constexpr int pairWidth = 340;
-constexpr int oneBinPairWidth = 177;
-
 QString toolTipOf(const ProductInfo *product, int unit)
 {
     if (!product)
@@ -153,8 +149,8 @@ void TimerBarMenuFile::loadDayparts()
     const timerbar::CabinetShape shape = m_menu.shape();
     registerBins(shape);
     m_ui->frameRightPair->setVisible(shape.columnLayout == 2);
-    m_ui->frameLeftPair->setFixedWidth(pairWidth);
-    m_ui->frameRightPair->setFixedWidth(shape.threeColumns ? oneBinPairWidth : pairWidth);
+    m_ui->frameLeftPair->setFixedWidth(timerbar::pairWidth);
+    m_ui->frameRightPair->setFixedWidth(shape.threeColumns ? timerbar::oneBinPairWidth : timerbar::pairWidth);
     if (!shape.isKnown())
         messages::fileFault(tr("Invalid number of rows!"));
     {
