@@ -11,8 +11,10 @@
 #include "holding/assigndaypartitem.h"
 #include "holding/binbuttons.h"
 #include "holding/binlabel.h"
+#include "holding/binplan.h"
 #include "holding/rowdescription.h"
 #include "holding/rowlook.h"
+#include "model/files.h"
 #include "model/times.h"
 #include "ui_menufile.h"
 #include "widgets/longtext.h"
@@ -104,6 +106,8 @@ void MenuFile::prepareGrid()
     });
     showRemovalMode(false);
     connect(m_ui->btnDuplicateDaypart, &QPushButton::clicked, this, &MenuFile::duplicateDaypart);
+    connect(m_ui->btnBinPlan, &QPushButton::clicked, this, &MenuFile::saveBinPlan);
+    keepRoomWhenHidden(m_ui->btnBinPlan);
     connect(&m_grid, &BinGrid::holdDetected, this, &MenuFile::dayPartPressHoldDetected);
     connect(&m_grid, &BinGrid::removalModeChanged, this,
             [this](bool removing) { showRemovalMode(removing); });
@@ -114,8 +118,8 @@ void MenuFile::showRemovalMode(bool removing)
     const bool hadFocus = m_ui->btnDaypartRemove->hasFocus() || m_ui->btnCancelDaypartRemove->hasFocus();
     for (QWidget *widget : {m_ui->btnDaypartRemove, m_ui->btnCancelDaypartRemove})
         widget->setVisible(removing);
-    for (QWidget *widget :
-         {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDuplicateDaypart, m_ui->btnDeleteDaypart})
+    for (QWidget *widget : {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDuplicateDaypart,
+                            m_ui->btnDeleteDaypart, m_ui->btnBinPlan})
         widget->setHidden(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
     m_ui->checkBoxDaypartInUse->setDisabled(removing);
@@ -246,4 +250,9 @@ void MenuFile::on_btnCancelDaypartRemove_clicked()
 void MenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]] int index)
 {
     loadCurrentDaypart();
+}
+
+void MenuFile::saveBinPlan()
+{
+    writeBinPlan(holding::plannedCabinet(m_menu, lastPathPart(filePath())), tr("No day part is in use."));
 }

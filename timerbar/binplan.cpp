@@ -22,6 +22,17 @@ struct Text
 
 constexpr int pairGap = 12; ///< beside the widths of the pairs
 
+// lupdate loses the context of texts in functions whose result has a qualified type.
+QString modelText(const QString &model)
+{
+    return Text::tr("Timer Bar %1").arg(model);
+}
+
+QString idText(int id)
+{
+    return Text::tr("Id %1").arg(id);
+}
+
 QString settingsText(const ProductInfo &product, int unit)
 {
     const QStringList parts{product.get_productShortName(),
@@ -36,7 +47,7 @@ binplan::Content contentOf(const Menu &menu, int id)
         return {};
     const ProductInfo *product = menu.product(id);
     const QString name = product ? shownName(product->get_productName()) : QString();
-    return {name.isEmpty() ? Text::tr("Id %1").arg(id) : name,
+    return {name.isEmpty() ? idText(id) : name,
             product ? settingsText(*product, menu.temperatureUnit) : QString(),
             {},
             0,
@@ -59,8 +70,7 @@ binplan::GridBin gridBin(const CabinetShape &shape, Bin bin)
 binplan::Cabinet plannedCabinet(const Menu &menu, const QString &fileName)
 {
     const CabinetShape shape = menu.shape();
-    binplan::Cabinet cabinet{
-        fileName, Text::tr("Timer Bar %1").arg(menu.model), shape.rows, shape.columns(), {}};
+    binplan::Cabinet cabinet{fileName, modelText(menu.model), shape.rows, shape.columns(), {}};
     const QStringList names = daypartNames();
     for (int daypart = 0; daypart < daypartCount; ++daypart) {
         if (!menu.hasFilledBins(daypart))

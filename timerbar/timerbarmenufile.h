@@ -95,6 +95,7 @@ private:
     [[nodiscard]] timerbar::DaypartCells *currentCells(); ///< null while no day part is selected
     void copyBins();
     [[nodiscard]] std::optional<int> askOtherDaypart(int daypart);
+    void saveBinPlan();
 
     std::unique_ptr<Ui::TimerBarMenuFile> m_ui;
     timerbar::Menu m_menu;

@@ -10,10 +10,12 @@
 #include <QInputDialog>
 #include <QSignalBlocker>
 
+#include "model/files.h"
 #include "model/names.h"
 #include "model/temperature.h"
 #include "model/times.h"
 #include "timerbar/binbuttons.h"
+#include "timerbar/binplan.h"
 #include "timerbar/bins.h"
 #include "timerbar/timerbardaypartassignitem.h"
 #include "ui_timerbarmenufile.h"
@@ -85,6 +87,7 @@ void TimerBarMenuFile::prepareGrid()
     keepRoomWhenHidden(m_ui->btnCancelDaypartRemove);
     showRemovalMode(false);
     connect(m_ui->btnCopyDaypart, &QPushButton::clicked, this, &TimerBarMenuFile::copyBins);
+    connect(m_ui->btnBinPlan, &QPushButton::clicked, this, &TimerBarMenuFile::saveBinPlan);
     connect(&m_grid, &BinGrid::holdDetected, this, &TimerBarMenuFile::dayPartPressHoldDetected);
     connect(&m_grid, &BinGrid::removalModeChanged, this,
             [this](bool removing) { showRemovalMode(removing); });
@@ -97,6 +100,7 @@ void TimerBarMenuFile::showRemovalMode(bool removing)
     m_ui->btnCancelDaypartRemove->setVisible(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
     m_ui->btnCopyDaypart->setDisabled(removing);
+    m_ui->btnBinPlan->setDisabled(removing);
     BinGrid::showHint(m_ui->lblDaypartHint, removing);
     if (hadFocus)
         m_grid.setFocus();
@@ -238,4 +242,9 @@ void TimerBarMenuFile::on_btnDaypartRemove_clicked()
 void TimerBarMenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]] int index)
 {
     loadCurrentDaypart();
+}
+
+void TimerBarMenuFile::saveBinPlan()
+{
+    writeBinPlan(timerbar::plannedCabinet(m_menu, lastPathPart(filePath())), tr("No bin is filled."));
 }

@@ -59,6 +59,7 @@ private slots:
     void binsAreFilled();
     void binsAreEmptied();
     void emptyingIsCancelled();
+    void binPlanIsMade();
 };
 
 void TestGuideTimerBar::menuIsStarted()
@@ -251,6 +252,16 @@ void TestGuideTimerBar::emptyingIsCancelled()
     keyboard::press(Qt::Key_Escape);
     QVERIFY(!remove.isVisible());
     QCOMPARE(savedBytes(guide), hex(menuWith({0, 1})));
+}
+
+void TestGuideTimerBar::binPlanIsMade()
+{
+    Guide guide;
+    open(guide, menuWith({0, 1}));
+    keyboard::showPage(u"Day Parts"_s);
+    guide.expectFileName(u"plan.pdf"_s);
+    keyboard::pushButton(u"btnBinPlan"_s);
+    QVERIFY(contentOf(guide.path(u"plan.pdf"_s)).startsWith("%PDF-"));
 }
 
 int main(int argc, char *argv[])
