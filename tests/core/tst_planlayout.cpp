@@ -287,8 +287,8 @@ void TestPlanLayout::namesAreReadAcrossARoom_data()
     addCabinetRows();
 }
 
-// From two metres a person of good sight reads capitals of 3 mm: type of 12 points. A name is a quarter larger,
-// and what it is held at no smaller.
+// From two metres a person of good sight reads capitals of 3 mm: type of 12 points. A name is a quarter
+// larger, and what it is held at no smaller.
 void TestPlanLayout::namesAreReadAcrossARoom()
 {
     QFETCH(const int, rows);
