@@ -140,6 +140,7 @@ private:
     void showRemovalMode(bool removing);
     void loadDaypartSelector();
     void duplicateDaypart();
+    void saveBinPlan();
     /// Asks for the name; the day part takes the next vacant place and becomes the current one.
     void addDaypart(holding::Daypart daypart);
     void showRow(const holding::Daypart &daypart, int row);

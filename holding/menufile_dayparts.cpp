@@ -10,8 +10,11 @@
 
 #include "holding/assigndaypartitem.h"
 #include "holding/binbuttons.h"
+#include "holding/binlabel.h"
+#include "holding/binplan.h"
 #include "holding/rowdescription.h"
 #include "holding/rowlook.h"
+#include "model/files.h"
 #include "model/times.h"
 #include "ui_menufile.h"
 #include "widgets/longtext.h"
@@ -67,25 +70,6 @@ constexpr bool hasItsButtons(const holding::CabinetModel &model)
 static_assert(std::all_of(holding::allModels.begin(), holding::allModels.end(), hasItsButtons),
               "a model has a bin without a button, or with two, in holding/binbuttons.h");
 
-/// What a bin tells of the entry in it.
-struct BinLabel
-{
-    QString name;
-    QString remark; ///< why the name is an id
-};
-
-// A bin whose entry is missing or has no name is no empty bin; its id is all there is to show.
-BinLabel binLabel(const holding::SlotContent &content, int id)
-{
-    if (!content.filled)
-        return {};
-    const QString name = content.entry ? shownName(content.entry->get_productName()) : QString();
-    if (!name.isEmpty())
-        return {name, {}};
-    return {MenuFile::tr("Id %1").arg(id),
-            content.entry ? MenuFile::tr("no name") : MenuFile::tr("not in this menu")};
-}
-
 QString settingsText(const QString &title, const ProductInfo &entry,
                      const holding::CabinetConfiguration &configuration)
 {
@@ -98,12 +82,10 @@ QString binDetails(const ProductInfo *entry, const holding::CabinetConfiguration
 {
     if (!entry)
         return {};
-    const int lower = holding::isZpv(configuration.type) ? entry->get_upperTemp() : entry->get_lowerTemp();
-    return shortTemperatures(entry->get_upperTemp(), lower, configuration.temperatureUnit) + u"  "_s +
-           timeText(entry->get_holdTime());
+    return holding::shortTemperaturesText(*entry, configuration) + u"  "_s + timeText(entry->get_holdTime());
 }
 
-QString binToolTip(const BinLabel &label, const ProductInfo *entry,
+QString binToolTip(const holding::BinLabel &label, const ProductInfo *entry,
                    const holding::CabinetConfiguration &configuration)
 {
     QString title = beginningOf(label.name);
@@ -124,6 +106,8 @@ void MenuFile::prepareGrid()
     });
     showRemovalMode(false);
     connect(m_ui->btnDuplicateDaypart, &QPushButton::clicked, this, &MenuFile::duplicateDaypart);
+    connect(m_ui->btnBinPlan, &QPushButton::clicked, this, &MenuFile::saveBinPlan);
+    keepRoomWhenHidden(m_ui->btnBinPlan);
     connect(&m_grid, &BinGrid::holdDetected, this, &MenuFile::dayPartPressHoldDetected);
     connect(&m_grid, &BinGrid::removalModeChanged, this,
             [this](bool removing) { showRemovalMode(removing); });
@@ -134,8 +118,8 @@ void MenuFile::showRemovalMode(bool removing)
     const bool hadFocus = m_ui->btnDaypartRemove->hasFocus() || m_ui->btnCancelDaypartRemove->hasFocus();
     for (QWidget *widget : {m_ui->btnDaypartRemove, m_ui->btnCancelDaypartRemove})
         widget->setVisible(removing);
-    for (QWidget *widget :
-         {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDuplicateDaypart, m_ui->btnDeleteDaypart})
+    for (QWidget *widget : {m_ui->btnAddDaypart, m_ui->btnEditDaypart, m_ui->btnDuplicateDaypart,
+                            m_ui->btnDeleteDaypart, m_ui->btnBinPlan})
         widget->setHidden(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
     m_ui->checkBoxDaypartInUse->setDisabled(removing);
@@ -197,7 +181,7 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
         if (!button)
             continue;
         button->setMinimumWidth(looks[slot].minimumWidth);
-        const BinLabel label = binLabel(content[slot], daypart.bins[bin]);
+        const holding::BinLabel label = holding::binLabel(content[slot], daypart.bins[bin]);
         m_grid.showContent(bin, label.name, label.remark);
         button->setDetails(binDetails(content[slot].entry, m_menu.configuration));
         button->setToolTip(asPlainText(binToolTip(label, content[slot].entry, m_menu.configuration)));
@@ -228,7 +212,8 @@ void MenuFile::assignProductToBin(int rowIndex, int binIndex)
     AssignDaypartItem dialog(holding::allowedZoneSplits(m_shape, row, binIndex), limits.upperTemp,
                              limits.lowerTemp, limits.fanSpeed, m_shape.singleBinSecondZone, this);
     const Bin bin{rowIndex, binIndex};
-    dialog.setPlace(shownName(daypart->names), bin, binLabel(row[binIndex], daypart->bins[bin]).name);
+    dialog.setPlace(shownName(daypart->names), bin,
+                    holding::binLabel(row[binIndex], daypart->bins[bin]).name);
     dialog.find(m_grid.typed());
     if (dialog.exec() != Accepted)
         return;
@@ -266,4 +251,9 @@ void MenuFile::on_btnCancelDaypartRemove_clicked()
 void MenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]] int index)
 {
     loadCurrentDaypart();
+}
+
+void MenuFile::saveBinPlan()
+{
+    writeBinPlan(holding::plannedCabinet(m_menu, lastPathPart(filePath())), tr("No day part is in use."));
 }

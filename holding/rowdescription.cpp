@@ -30,6 +30,12 @@ QString temperaturesText(const ProductInfo &entry, const CabinetConfiguration &c
     return upper + u" / "_s + temperatureText(entry.get_lowerTemp(), configuration.temperatureUnit);
 }
 
+QString shortTemperaturesText(const ProductInfo &entry, const CabinetConfiguration &configuration)
+{
+    const int lower = isZpv(configuration.type) ? entry.get_upperTemp() : entry.get_lowerTemp();
+    return shortTemperatures(entry.get_upperTemp(), lower, configuration.temperatureUnit);
+}
+
 QString rowDescription(const ProductInfo *entry, const CabinetConfiguration &configuration)
 {
     if (!entry)

@@ -64,6 +64,40 @@ RowLook rowLook(const CabinetShape &shape, const RowContent &row)
     return looks;
 }
 
+namespace {
+
+// As showHalves() leaves them.
+bool showsHalves(const CabinetShape &shape, const Zone &zone, const RowLook &looks)
+{
+    const int half = binButtonWidth(shape, u"1/2"_s);
+    return zone.count == 3 && !looks[zone.first + 2].visible && looks[zone.first].minimumWidth == half &&
+           looks[zone.first + 1].minimumWidth == half;
+}
+
+void spanZone(const CabinetShape &shape, const Zone &zone, const RowLook &looks, RowSpans &spans)
+{
+    const bool halves = showsHalves(shape, zone, looks);
+    const int parts = halves ? 2 : zone.count;
+    int covering = zone.first; // the first bin of a zone always shows
+    for (int slot = zone.first; slot < zone.first + parts; ++slot) {
+        if (looks[slot].visible) {
+            covering = slot;
+            spans[slot] = {slot - zone.first, 0, parts};
+        }
+        ++spans[covering].count;
+    }
+}
+
+} // namespace
+
+RowSpans rowSpans(const CabinetShape &shape, const RowLook &looks)
+{
+    RowSpans spans;
+    for (int zone = 0; zone < shape.zones; ++zone)
+        spanZone(shape, shape.zone(zone), looks, spans);
+    return spans;
+}
+
 int zoneWidth(const CabinetShape &shape, int zone)
 {
     if (zone > 0 && shape.singleBinSecondZone)

@@ -28,6 +28,21 @@ using RowLook = FixedList<BinLook, maxSlots>;
 /// counted from 0.
 [[nodiscard]] int zoneWidth(const CabinetShape &shape, int zone);
 
+/// The part of its zone that a bin takes: `count` of `parts` equal ones from `first` on, counted from 0. None
+/// for a bin that does not show.
+struct BinSpan
+{
+    int first = 0;
+    int count = 0;
+    int parts = 1;
+
+    friend bool operator==(const BinSpan &, const BinSpan &) = default;
+};
+using RowSpans = FixedList<BinSpan, maxSlots>;
+
+/// A bin takes its own part and those of the bins that it covers.
+[[nodiscard]] RowSpans rowSpans(const CabinetShape &shape, const RowLook &looks);
+
 /// What a file holds, or another cabinet left, may ask for more than a zone has: the last bins then give way,
 /// down to the width of an empty one.
 void fitIntoZone(RowLook &looks, const Zone &zone, int zoneWidth);

@@ -101,7 +101,7 @@ const TimerPalette &timerPalette()
     return palette;
 }
 
-QString colorWords(const TimerColor &entry)
+QString shadeName(const TimerColor &entry)
 {
     if (entry.isNone())
         return Text::tr("No color");
@@ -111,7 +111,15 @@ QString colorWords(const TimerColor &entry)
     if (found == palette.end())
         return entry.colorName;
     const auto place = static_cast<std::size_t>(found - palette.begin());
-    return Text::tr("%1, %2").arg(wordsAt(place / paletteColumns, place % paletteColumns), entry.colorName);
+    return wordsAt(place / paletteColumns, place % paletteColumns);
+}
+
+QString colorWords(const TimerColor &entry)
+{
+    const QString shade = shadeName(entry);
+    if (entry.isNone() || shade == entry.colorName)
+        return shade;
+    return Text::tr("%1, %2").arg(shade, entry.colorName);
 }
 
 const TimerColor &timerColorByName(const QString &colorName)

@@ -50,6 +50,11 @@ inline constexpr auto allModels = std::to_array<CabinetModel>({
     {QLatin1StringView("KTR42"), {4, 1, false}},
 });
 
+/// The widths of a pair of bins and of one that has one bin only, in pixels. Pairs keep them whatever stands
+/// in them, so that filling a bin never moves another one.
+inline constexpr int pairWidth = 340;
+inline constexpr int oneBinPairWidth = 177;
+
 /// What a menu has room for.
 inline constexpr int maxRows = 4;
 inline constexpr int maxColumns = 4;

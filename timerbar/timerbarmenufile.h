@@ -93,6 +93,7 @@ private:
     void registerBins(const timerbar::CabinetShape &shape);
     [[nodiscard]] timerbar::DaypartCells *currentCells(); ///< null while no day part is selected
     void copyBins();
+    void saveBinPlan();
 
     std::unique_ptr<Ui::TimerBarMenuFile> m_ui;
     timerbar::Menu m_menu;

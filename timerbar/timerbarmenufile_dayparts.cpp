@@ -8,10 +8,12 @@
 
 #include <QSignalBlocker>
 
+#include "model/files.h"
 #include "model/names.h"
 #include "model/temperature.h"
 #include "model/times.h"
 #include "timerbar/binbuttons.h"
+#include "timerbar/binplan.h"
 #include "timerbar/bins.h"
 #include "timerbar/copybins.h"
 #include "timerbar/timerbardaypartassignitem.h"
@@ -56,10 +58,6 @@ constexpr bool hasItsButtons(const timerbar::CabinetModel &model)
 static_assert(std::all_of(timerbar::allModels.begin(), timerbar::allModels.end(), hasItsButtons),
               "A model has a bin without a button, or with two, in timerbar/binbuttons.h");
 
-// Pairs keep their width whatever stands in them, so that filling a bin never moves another one.
-constexpr int pairWidth = 340;
-constexpr int oneBinPairWidth = 177;
-
 QString toolTipOf(const ProductInfo *product, int unit)
 {
     if (!product)
@@ -87,6 +85,7 @@ void TimerBarMenuFile::prepareGrid()
     keepRoomWhenHidden(m_ui->btnCancelDaypartRemove);
     showRemovalMode(false);
     connect(m_ui->btnCopyDaypart, &QPushButton::clicked, this, &TimerBarMenuFile::copyBins);
+    connect(m_ui->btnBinPlan, &QPushButton::clicked, this, &TimerBarMenuFile::saveBinPlan);
     connect(&m_grid, &BinGrid::holdDetected, this, &TimerBarMenuFile::dayPartPressHoldDetected);
     connect(&m_grid, &BinGrid::removalModeChanged, this,
             [this](bool removing) { showRemovalMode(removing); });
@@ -99,6 +98,7 @@ void TimerBarMenuFile::showRemovalMode(bool removing)
     m_ui->btnCancelDaypartRemove->setVisible(removing);
     m_ui->comboDaypartSelect->setDisabled(removing);
     m_ui->btnCopyDaypart->setDisabled(removing);
+    m_ui->btnBinPlan->setDisabled(removing);
     BinGrid::showHint(m_ui->lblDaypartHint, removing);
     if (hadFocus)
         m_grid.setFocus();
@@ -134,8 +134,8 @@ void TimerBarMenuFile::loadDayparts()
     const timerbar::CabinetShape shape = m_menu.shape();
     registerBins(shape);
     m_ui->frameRightPair->setVisible(shape.columnLayout == 2);
-    m_ui->frameLeftPair->setFixedWidth(pairWidth);
-    m_ui->frameRightPair->setFixedWidth(shape.threeColumns ? oneBinPairWidth : pairWidth);
+    m_ui->frameLeftPair->setFixedWidth(timerbar::pairWidth);
+    m_ui->frameRightPair->setFixedWidth(shape.threeColumns ? timerbar::oneBinPairWidth : timerbar::pairWidth);
     if (!shape.isKnown())
         messages::fileFault(tr("Invalid number of rows!"));
     {
@@ -224,4 +224,9 @@ void TimerBarMenuFile::on_btnDaypartRemove_clicked()
 void TimerBarMenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]] int index)
 {
     loadCurrentDaypart();
+}
+
+void TimerBarMenuFile::saveBinPlan()
+{
+    writeBinPlan(timerbar::plannedCabinet(m_menu, lastPathPart(filePath())), tr("No bin is filled."));
 }

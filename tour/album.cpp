@@ -4,6 +4,7 @@
 #include "tour/album.h"
 
 #include <QApplication>
+#include <QProcess>
 #include <QScreen>
 #include <QTest>
 #include <QWidget>
@@ -63,7 +64,8 @@ Album::Album(const QString &folder)
     : m_folder(folder)
 {
     m_folder.mkpath(u"."_s);
-    const QStringList earlier = m_folder.entryList({u"[0-9]*-*.png"_s, u"menu*.json"_s}, QDir::Files);
+    const QStringList earlier =
+        m_folder.entryList({u"[0-9]*-*.png"_s, u"menu*.json"_s, u"*.pdf"_s}, QDir::Files);
     for (const QString &name : earlier)
         m_folder.remove(name);
 }
@@ -88,4 +90,13 @@ void Album::document(const QString &name, const QWidget &window)
     m_folder.mkpath(u"guide"_s);
     const QString path = filePath(u"guide/%1.png"_s.arg(name));
     REQUIRE(screen.copy(frame).save(path), path);
+}
+
+void Album::page(const QString &name, const QString &pdf)
+{
+    constexpr int dotsPerInch = 96;
+    m_folder.mkpath(u"guide"_s);
+    const QStringList arguments{u"-r"_s, QString::number(dotsPerInch), u"-singlefile"_s, u"-png"_s,
+                                pdf,     filePath(u"guide/"_s + name)};
+    REQUIRE_EQUAL(QProcess::execute(u"pdftoppm"_s, arguments), 0);
 }

@@ -24,6 +24,8 @@ public:
     void shot(const QString &name);
     /// Saves a window of the program with its frame as "guide/lanes.png", in the same way.
     void document(const QString &name, const QWidget &window);
+    /// Saves the first page of a PDF file as "guide/bin-plan.png".
+    void page(const QString &name, const QString &pdf);
 
 private:
     QDir m_folder;

@@ -28,6 +28,7 @@ protected:
     [[nodiscard]] QString filePath(const QString &name) const { return m_album.filePath(name); }
     void shot(const QString &name) { m_album.shot(name); }
     void document(const QString &name, const QWidget &of) { m_album.document(name, of); }
+    void page(const QString &name, const QString &pdf) { m_album.page(name, pdf); }
 
     /// Answers of a step that are pictured when they are given.
     class Answers : public ModalAnswers

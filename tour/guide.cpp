@@ -155,6 +155,27 @@ void GuideChapter::holdingBins()
     closeEditor(QMessageBox::No);
 }
 
+// Paper is white whatever the palette.
+void GuideChapter::binPlan_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("light") << false;
+}
+
+void GuideChapter::binPlan()
+{
+    openBreakfast(u"breakfast.json"_s, holding::writeMenu(breakfastOfHolding()));
+    clickTab(2);
+    const QString pdf = filePath(u"breakfast.pdf"_s);
+    {
+        ModalAnswers answers;
+        answers.expectFileDialog(u"Bin Plan"_s, u"PDF Files (*.pdf)"_s, pdf, u"breakfast.pdf"_s);
+        ui::click(*activeSubWindow()->widget(), "btnBinPlan");
+    }
+    page(u"bin-plan"_s, pdf);
+    closeEditor(QMessageBox::No);
+}
+
 void GuideChapter::timerBar()
 {
     openBreakfast(u"breakfast.cbr"_s, bytesOf(breakfastOfTimerBar()));

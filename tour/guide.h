@@ -24,6 +24,8 @@ private slots:
     void holdingEntries();
     void holdingBins_data() { looks(); }
     void holdingBins();
+    void binPlan_data();
+    void binPlan();
     void timerBar_data() { looks(); }
     void timerBar();
     void lanes_data() { looks(); }

@@ -9,13 +9,16 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QMdiSubWindow>
 
+#include "model/binplan.h"
 #include "model/files.h"
 #include "widgets/announce.h"
+#include "widgets/binplanfile.h"
 #include "widgets/messages.h"
 #include "widgets/plainfont.h"
 
@@ -163,6 +166,37 @@ void MenuEditor::showTitle(const QString &fileName)
 {
     // A title has "[*]" as the place of the mark of a changed document; doubled it stands for itself.
     setWindowTitle(tr("Menu File - %1").arg(QString(fileName).replace("[*]"_L1, "[*][*]"_L1)));
+}
+
+namespace {
+
+// The menu's own name, of another kind.
+QString planNameOf(const QString &menuPath)
+{
+    const QString name = QFileInfo(menuPath).completeBaseName();
+    return (name.isEmpty() ? MenuEditor::tr("Bin Plan") : name) + u".pdf"_s;
+}
+
+} // namespace
+
+void MenuEditor::writeBinPlan(const binplan::Cabinet &cabinet, const QString &whyNone)
+{
+    if (cabinet.dayparts.isEmpty()) {
+        messages::refusal(this, whyNone);
+        return;
+    }
+    const QString folder = m_filePath.isEmpty() ? QString() : QFileInfo(m_filePath).path();
+    QFileDialog dialog(this, tr("Bin Plan"), folder, tr("PDF Files (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"pdf"_s); // by the dialog, so that it asks before it replaces such a file
+    dialog.selectFile(planNameOf(m_filePath));
+    if (dialog.exec() != Accepted)
+        return;
+    const QString path = dialog.selectedFiles().constFirst();
+    if (writeFile(path, pdfOf(layOut(cabinet, binplan::usualPaper(QLocale())))))
+        emit told(tr("Saved %1").arg(path));
+    else
+        messages::fileFault(tr("Failed to create/open the file:") + path);
 }
 
 namespace {

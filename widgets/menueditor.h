@@ -13,6 +13,10 @@
 class QAbstractButton;
 class QLabel;
 
+namespace binplan {
+struct Cabinet;
+} // namespace binplan
+
 /// What a name to save under is asked for.
 enum class SaveKind { Save, SaveAs, Closing };
 
@@ -82,6 +86,9 @@ protected:
     void setFilePath(const QString &path);
     /// Shows a name in the title; empty for a new menu.
     void showTitle(const QString &fileName);
+
+    /// Asks for a name and writes the bin plan there; without a day part to draw it says why.
+    void writeBinPlan(const binplan::Cabinet &cabinet, const QString &whyNone);
 
     /// Fixes the editor's size to its designed geometry, grown to what its content needs, and its
     /// sub-window's with it. To be called again where the content has changed. An area that is smaller

@@ -9,12 +9,14 @@
     packages_build=(cmake g++ git libgl-dev ninja-build qt6-base-dev qt6-l10n-tools qt6-tools-dev
                     qt6-tools-dev-tools)
     # The lists ask for "Courier New", for which fontconfig takes Liberation Mono.
-    packages_fonts=(fonts-dejavu-core fonts-liberation fonts-noto-core)
+    packages_fonts=(fonts-dejavu-core fonts-liberation fonts-noto-cjk fonts-noto-core)
+    # What looks into the PDF files of bin plans.
+    packages_plan=(poppler-utils)
     # A screen reader's side of the programs, on a display of its own.
     packages_access=(at-spi2-core dbus-daemon libx11-6 libxtst6 openbox python3-gi xvfb)
     packages_display=(x11-utils)
     packages_wayland=(qt6-wayland)
-    packages_tour=(openbox x11-utils xvfb)
+    packages_tour=(openbox poppler-utils x11-utils xvfb)
     packages_lint=(appstream clang-14 clang-format-14 clang-tidy-14 clazy desktop-file-utils libxml2-utils
                    shellcheck)
     packages_bench=(valgrind)

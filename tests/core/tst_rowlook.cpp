@@ -31,6 +31,10 @@ private slots:
     void everyRowFitsItsZones();
     void whatFitsStaysAsItIs();
     void hiddenZonesHaveAWidth();
+    void spansFillTheirZones_data() { binrows::addModels(); }
+    void spansFillTheirZones();
+    void spans_data();
+    void spans();
 };
 
 void TestRowLook::buttonWidths()
@@ -230,6 +234,60 @@ void TestRowLook::hiddenZonesHaveAWidth()
         QCOMPARE(zoneWidth(shape, 1), 340);
     }
     QCOMPARE(zoneWidth({2, 5, 1, false}, 0), 5 * 112 + 4 * 2);
+}
+
+// Each bin begins where the one before it ends, and those that show take all of the zone.
+void TestRowLook::spansFillTheirZones()
+{
+    QFETCH(CabinetShape, shape);
+    QFETCH(QString, layout);
+    const binrows::Entries entries;
+    binrows::forEachRow([&](const QString &fill) {
+        const RowLook looks = rowLook(shape, entries.row(fill));
+        const RowSpans spans = rowSpans(shape, looks);
+        int next = 0;
+        for (int slot = 0; slot < maxSlots; ++slot) {
+            const bool shown = slot < layout.size() && looks[slot].visible;
+            REQUIRE(shown == (spans[slot].count > 0), fill);
+            if (!shown)
+                continue;
+            REQUIRE(spans[slot].first == next, fill);
+            next += spans[slot].count;
+            REQUIRE(next <= spans[slot].parts, fill);
+            next = next == spans[slot].parts ? 0 : next;
+        }
+        REQUIRE(next == 0, fill);
+    });
+}
+
+void TestRowLook::spans_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("fill");
+    QTest::addColumn<QString>("spans"); // first+count/parts
+    QTest::newRow("two bins") << u"KTR22"_s << u"2..."_s << u"0+1/2 1+1/2"_s;
+    QTest::newRow("whole of two") << u"KTR22"_s << u"1..."_s << u"0+2/2"_s;
+    QTest::newRow("thirds") << u"KTR33"_s << u"3.3."_s << u"0+1/3 1+1/3 2+1/3"_s;
+    QTest::newRow("two thirds") << u"KTR33"_s << u"T.3."_s << u"0+2/3 2+1/3"_s;
+    QTest::newRow("last two thirds") << u"KTR33"_s << u"3T.."_s << u"0+1/3 1+2/3"_s;
+    QTest::newRow("whole of three") << u"KTR33"_s << u"1..."_s << u"0+3/3"_s;
+    QTest::newRow("halves of three") << u"KTR33"_s << u"2..."_s << u"0+1/2 1+1/2"_s;
+    QTest::newRow("second half of three") << u"KTR33"_s << u".2.."_s << u"0+1/2 1+1/2"_s;
+    QTest::newRow("one-bin zone") << u"KTR23"_s << u"1.2."_s << u"0+2/2 0+1/1"_s;
+}
+
+void TestRowLook::spans()
+{
+    QFETCH(QString, model);
+    QFETCH(QString, fill);
+    const CabinetShape shape = cabinetShape(u"QHX"_s, model);
+    const binrows::Entries entries;
+    QStringList told;
+    for (const BinSpan &span : rowSpans(shape, rowLook(shape, entries.row(fill)))) {
+        if (span.count > 0)
+            told.append(u"%1+%2/%3"_s.arg(span.first).arg(span.count).arg(span.parts));
+    }
+    QTEST(told.join(u' '), "spans");
 }
 
 QTEST_APPLESS_MAIN(TestRowLook)

@@ -195,7 +195,9 @@ void TestTimerColors::words()
 {
     QFETCH(const int, index);
     QFETCH(const QString, words);
-    QCOMPARE(colorWords(timerPalette()[std::size_t(index)]), words);
+    const TimerColor &color = timerPalette()[std::size_t(index)];
+    QCOMPARE(colorWords(color), words);
+    QCOMPARE(shadeName(color), words.section(u',', 0, 0));
 }
 
 void TestTimerColors::wordsTellColorsApart()

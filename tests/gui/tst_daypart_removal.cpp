@@ -50,7 +50,8 @@ void checkNormalMode(HoldBins &editor)
 {
     REQUIRE(!editor.isRemoving());
     REQUIRE(!editor.widget("btnCancelDaypartRemove").isVisible());
-    for (const char *name : {"btnAddDaypart", "btnEditDaypart", "btnDuplicateDaypart", "btnDeleteDaypart"})
+    for (const char *name :
+         {"btnAddDaypart", "btnEditDaypart", "btnDuplicateDaypart", "btnDeleteDaypart", "btnBinPlan"})
         REQUIRE(editor.widget(name).isVisible());
     REQUIRE(editor.selector().isEnabled() && editor.widget("checkBoxDaypartInUse").isEnabled());
     for (QPushButton *bin : editor.widget("frameGrid").findChildren<QPushButton *>())

@@ -72,6 +72,7 @@ private slots:
     void binsAreEmptied();
     void emptyingIsCancelled_data();
     void emptyingIsCancelled();
+    void binPlanIsMade();
     void oldMenuIsTakenOver();
 };
 
@@ -219,6 +220,15 @@ void TestGuideBins::emptyingIsCancelled()
 }
 
 // The old form does not tell of fan speeds: they are switched on before the menu is saved.
+void TestGuideBins::binPlanIsMade()
+{
+    Guide guide;
+    openBins(guide, {});
+    guide.expectFileName(u"plan"_s);
+    keyboard::pushButton(u"btnBinPlan"_s);
+    QVERIFY(contentOf(guide.path(u"plan.pdf"_s)).startsWith("%PDF-"));
+}
+
 void TestGuideBins::oldMenuIsTakenOver()
 {
     Guide guide;

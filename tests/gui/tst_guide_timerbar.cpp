@@ -61,6 +61,7 @@ private slots:
     void binsAreEmptied();
     void emptyingIsCancelled();
     void binsAreCopied();
+    void binPlanIsMade();
 };
 
 void TestGuideTimerBar::menuIsStarted()
@@ -274,6 +275,16 @@ void TestGuideTimerBar::binsAreCopied()
     keyboard::pushButton(u"btnCopyDaypart"_s);
     menu.dayparts[2] = menu.dayparts[0];
     QCOMPARE(savedBytes(guide), hex(menu));
+}
+
+void TestGuideTimerBar::binPlanIsMade()
+{
+    Guide guide;
+    open(guide, menuWith({0, 1}));
+    keyboard::showPage(u"Day Parts"_s);
+    guide.expectFileName(u"plan.pdf"_s);
+    keyboard::pushButton(u"btnBinPlan"_s);
+    QVERIFY(contentOf(guide.path(u"plan.pdf"_s)).startsWith("%PDF-"));
 }
 
 int main(int argc, char *argv[])

@@ -145,13 +145,14 @@ void TestOwners::ofAHoldingMenu()
     clickEach(program, escaped, {"btnAddGroup", "btnEditGroup", "btnDuplicateGroup", "btnDeleteGroup"});
     showTab(program, 2);
     clickEach(program, escaped,
-              {"btnAddDaypart", "btnEditDaypart", "btnDuplicateDaypart", "btnDeleteDaypart",
+              {"btnAddDaypart", "btnEditDaypart", "btnDuplicateDaypart", "btnDeleteDaypart", "btnBinPlan",
                "btnDaypartSelect0_1"});
     QStringList expected{u"Configuration, Configuration"_s};
     expected += QStringList(3, u"ProductEdit, Product Edit"_s) + QStringList{u"QMessageBox, Delete"_s};
     expected += QStringList(3, u"GroupEdit, Group Edit"_s) + QStringList{u"QMessageBox, Delete"_s};
     expected += QStringList(3, u"DaypartEdit, Edit Day Part"_s) +
-                QStringList{u"QMessageBox, Delete"_s, u"AssignDaypartItem, Assign Product/Group"_s};
+                QStringList{u"QMessageBox, Delete"_s, u"QFileDialog, Bin Plan"_s,
+                            u"AssignDaypartItem, Assign Product/Group"_s};
     for (QString &dialog : expected)
         dialog += u", of MenuFile"_s;
     QCOMPARE(escaped.shown(), expected);
@@ -188,11 +189,11 @@ void TestOwners::ofATimerBarMenu()
     clickEach(program, escaped,
               {"btnConfig", "btnAddProduct", "btnEditProduct", "btnDuplicateProduct", "btnDeleteProduct"});
     showTab(program, 1);
-    clickEach(program, escaped, {"btnCopyDaypart", "btnDaypartSelect0_0"});
+    clickEach(program, escaped, {"btnCopyDaypart", "btnBinPlan", "btnDaypartSelect0_0"});
     QStringList expected{u"TimerBarConfig, Configuration"_s};
     expected += QStringList(3, u"TimerBarProductEdit, Product Edit"_s) +
                 QStringList{u"QMessageBox, Delete"_s, u"CopyBins, Copy Bins"_s,
-                            u"TimerBarDaypartAssignItem, Assign Product"_s};
+                            u"QFileDialog, Bin Plan"_s, u"TimerBarDaypartAssignItem, Assign Product"_s};
     for (QString &dialog : expected)
         dialog += u", of TimerBarMenuFile"_s;
     QCOMPARE(escaped.shown(), expected);

@@ -65,6 +65,8 @@ QStringList timerBarDetails(const QString &shortName)
 
 const QString daypartHint = u"Click a bin to assign it. Hold a filled bin to clear bins."_s;
 
+const QString binPlan = u"Bin Plan…"_s;
+
 QStringList laneTexts()
 {
     QStringList texts{u"Lanes"_s, u"Close"_s, u"Temperature Unit"_s, u"°F"_s,
@@ -79,7 +81,7 @@ QStringList editorTexts(const QString &cabinet)
 {
     const QStringList dayparts{u"Day Part"_s,  u"In Use"_s, u"Add"_s,    u"Edit"_s,
                                u"Duplicate"_s, u"Delete"_s, u"Remove"_s, u"Cancel"_s,
-                               daypartHint,    u"Zone 1"_s, u"Zone 2"_s};
+                               daypartHint,    binPlan,     u"Zone 1"_s, u"Zone 2"_s};
     const QStringList groups = listButtons + QStringList{u"Products:"_s, u"Group"_s} + detailLabels;
     return QStringList{cabinet, u"Configuration"_s, u"Close"_s, u"Products"_s, u"Groups"_s, u"Day Parts"_s} +
            dayparts + groups + listButtons + QStringList{u"Product"_s} + detailLabels;
@@ -87,9 +89,9 @@ QStringList editorTexts(const QString &cabinet)
 
 QStringList timerBarEditorTexts(const QString &cabinet)
 {
-    return QStringList{cabinet,        u"Configuration"_s, u"Close"_s,      u"Products"_s,
-                       u"Day Parts"_s, u"Day Part"_s,      u"Copy From…"_s, u"Remove"_s,
-                       u"Cancel"_s,    daypartHint,        u"Pair 1"_s,     u"Pair 2"_s} +
+    return QStringList{cabinet,       u"Configuration"_s, u"Close"_s,  u"Products"_s, u"Day Parts"_s,
+                       u"Day Part"_s, u"Copy From…"_s,    u"Remove"_s, u"Cancel"_s,   daypartHint,
+                       binPlan,       u"Pair 1"_s,        u"Pair 2"_s} +
            listButtons + QStringList{u"Export"_s, u"Product"_s} + timerBarDetails(u"Short"_s);
 }
 

@@ -138,6 +138,8 @@ void TestTips::tips_data()
     add("holding editor, all fields", "listWidgetMembers", u"checked member is the default of the group"_s);
     add("holding editor, all fields", "checkBoxDaypartInUse", u"whether this day part counts"_s);
     add("holding editor, all fields", "btnDaypartRemove", u"bins that are marked"_s);
+    add("holding editor, all fields", "btnBinPlan", u"each day part that is in use"_s);
+    add("Timer Bar editor", "btnBinPlan", u"each day part with a filled bin"_s);
     add("lane editor, new", "comboModelSelect", u"comes back"_s);
     add("Timer Bar configuration", "comboUnitModel", u"not written to the file"_s);
     add("Timer Bar product", "txtShortName", u"the bins of the cabinet show"_s);

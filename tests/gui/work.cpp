@@ -227,6 +227,8 @@ void Work::manageDayparts()
     ui::click(editor(), "btnEditDaypart");
     expectBox(QMessageBox::Yes);
     ui::click(editor(), "btnDeleteDaypart");
+    expectFile(m_program.path(u"plan.pdf"_s));
+    ui::click(editor(), "btnBinPlan");
 }
 
 void Work::deleteEntries(const char *select, const char *remove, const char *listName)
