@@ -17,7 +17,7 @@ bool isEnter(int key)
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-/// A row's text, "  1 Bacon", in its two parts.
+/// A row's text, "  1 Bacon", in its two parts. One without a number is all name.
 struct RowText
 {
     explicit RowText(const QString &text)
@@ -27,7 +27,8 @@ struct RowText
         const auto number = std::find_if_not(text.begin(), text.end(), isBlank);
         const auto end = std::find_if_not(number, text.end(), isDigit);
         digits = QStringView(number, end);
-        name = QStringView(end == text.end() ? end : end + 1, text.end());
+        const auto separated = digits.isEmpty() || end == text.end() ? end : end + 1;
+        name = QStringView(separated, text.end());
     }
 
     QStringView digits;

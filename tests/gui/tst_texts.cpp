@@ -144,6 +144,7 @@ QMap<QString, QStringList> expectedTexts()
         {u"GroupEdit"_s, groupTexts},
         {u"DaypartEdit"_s, {u"Name"_s, u"Cancel"_s, u"Save"_s}},
         {u"AssignDaypartItem"_s, detailLabels + select},
+        {u"MenuInspection"_s, {u"Close"_s, u"Go To"_s}},
         {u"MenuFile"_s, editorTexts(u"Cabinet: QHX KTR34, °F"_s)},
         {u"SvrxMenuFile"_s, laneTexts()},
         {u"TimerBarConfig"_s,

@@ -14,7 +14,9 @@
 #include "holding/configuration.h"
 #include "holding/daypartedit.h"
 #include "holding/groupedit.h"
+#include "holding/inconsistencies.h"
 #include "holding/menufile.h"
+#include "holding/menujson.h"
 #include "holding/productedit.h"
 #include "holding/timercolorpicker.h"
 #include "lanes/svrxmenufile.h"
@@ -27,6 +29,7 @@
 #include "timerbar/timerbardaypartassignitem.h"
 #include "timerbar/timerbarmenufile.h"
 #include "timerbar/timerbarproductedit.h"
+#include "widgets/menuinspection.h"
 
 using namespace Qt::StringLiterals;
 
@@ -84,15 +87,44 @@ QString writeBeside(const MenuFile &editor, const QString &suffix, const QByteAr
     return file.fileName();
 }
 
+// A bin without its product, and a product and a group that their dialogs would not take.
+holding::Menu menuToLookAt(const MenuFile &editor)
+{
+    holding::Menu menu = windowmenu::menu(editor.configuration());
+    menu.products[0]->set_holdTime(60);
+    menu.groups[0]->set_productList({});
+    menu.dayparts[0].bins[0][2] = 99;
+    return menu;
+}
+
+std::unique_ptr<QWidget> makeMenuInspection(MenuFile &editor)
+{
+    const holding::Menu menu = menuToLookAt(editor);
+    const QList<Finding> findings = holding::inconsistencies(menu).kept();
+    auto window = std::make_unique<MenuInspection>(holding::findingTexts(findings, menu), 2, &editor);
+    ui::get<QListWidget>(*window, "listWidgetFindings").setCurrentRow(0);
+    return window;
+}
+
+std::unique_ptr<QWidget> makeEditorToLookAt(MenuFile &editor)
+{
+    const QByteArray bytes = holding::writeMenu(menuToLookAt(editor));
+    return std::make_unique<MenuFile>(writeBeside(editor, u".json"_s, bytes));
+}
+
 // Two products of which the first fills a bin.
+cbr::Menu timerBarMenu()
+{
+    return {.model = u"KTR34"_s,
+            .unit = 1,
+            .products = {{.name = QByteArray(25, 'W'), .shortName = "WWWW"},
+                         {.name = "Bacon", .shortName = "BACN"}},
+            .dayparts = {QList<int>{0}}};
+}
+
 QString writeTimerBarMenu(const MenuFile &editor)
 {
-    const cbr::Menu menu{.model = u"KTR34"_s,
-                         .unit = 1,
-                         .products = {{.name = QByteArray(25, 'W'), .shortName = "WWWW"},
-                                      {.name = "Bacon", .shortName = "BACN"}},
-                         .dayparts = {QList<int>{0}}};
-    return writeBeside(editor, u".cbr"_s, menu.bytes());
+    return writeBeside(editor, u".cbr"_s, timerBarMenu().bytes());
 }
 
 // The editor that a Timer Bar dialog belongs to, never shown; it goes with the other.
@@ -127,6 +159,13 @@ std::unique_ptr<QWidget> makeTimerBarEditor(MenuFile &editor)
     return window;
 }
 
+std::unique_ptr<QWidget> makeTimerBarEditorToLookAt(MenuFile &editor)
+{
+    cbr::Menu menu = timerBarMenu();
+    menu.products[1].holdMinutes = 1;
+    return std::make_unique<TimerBarMenuFile>(writeBeside(editor, u".cbr"_s, menu.bytes()));
+}
+
 std::unique_ptr<QWidget> makeLaneEditor(MenuFile &)
 {
     return std::make_unique<SvrxMenuFile>(QString());
@@ -156,8 +195,10 @@ const std::vector<WindowKind> &everyWindow()
         {"day part", "btnSave", windowmenu::fullCabinet(), makeDaypartEdit},
         {"bin, all fields", "btnSelect", windowmenu::fullCabinet(), makeAssignDaypartItem},
         {"bin, fewest fields", "btnSelect", windowmenu::plainCabinet(), makeAssignDaypartItem},
+        {"things to look at", "btnGoTo", windowmenu::fullCabinet(), makeMenuInspection},
         {"holding editor, all fields", nullptr, windowmenu::fullCabinet(), makeEditor, false},
         {"holding editor, fewest fields", nullptr, windowmenu::plainCabinet(), makeEditor, false},
+        {"holding editor, things to look at", nullptr, windowmenu::fullCabinet(), makeEditorToLookAt, false},
         {"lane editor, new", nullptr, windowmenu::plainCabinet(), makeLaneEditor, false},
         {"lane editor, values beyond the limits", nullptr, windowmenu::plainCabinet(),
          makeLaneEditorWithNotes, false},
@@ -165,6 +206,8 @@ const std::vector<WindowKind> &everyWindow()
         {"Timer Bar product", "btnSave", windowmenu::plainCabinet(), makeTimerBarProductEdit},
         {"Timer Bar bin", "btnSelect", windowmenu::plainCabinet(), makeTimerBarAssignItem},
         {"Timer Bar editor", nullptr, windowmenu::plainCabinet(), makeTimerBarEditor, false},
+        {"Timer Bar editor, things to look at", nullptr, windowmenu::plainCabinet(),
+         makeTimerBarEditorToLookAt, false},
     };
     return kinds;
 }
