@@ -18,6 +18,17 @@ bool isZoneOfHalves(const RowContent &row, const Zone &zone)
                        [](const SlotContent &content) { return content.hasSplits("1/2"_L1); });
 }
 
+template <typename Find>
+RowContent contentOf(const Daypart &daypart, int row, const Find &find)
+{
+    RowContent content;
+    const auto &ids = daypart.bins[row];
+    std::transform(ids.begin(), ids.end(), content.begin(), [&find](int id) {
+        return SlotContent{id != emptyBin, id == emptyBin ? nullptr : find(id)};
+    });
+    return content;
+}
+
 } // namespace
 
 bool SlotContent::hasSplits(QLatin1StringView zoneSplits) const
@@ -27,12 +38,12 @@ bool SlotContent::hasSplits(QLatin1StringView zoneSplits) const
 
 RowContent rowContent(const Menu &menu, const Daypart &daypart, int row)
 {
-    RowContent content;
-    const auto &ids = daypart.bins[row];
-    std::transform(ids.begin(), ids.end(), content.begin(), [&menu](int id) {
-        return SlotContent{id != emptyBin, id == emptyBin ? nullptr : menu.entry(id)};
-    });
-    return content;
+    return contentOf(daypart, row, [&menu](int id) { return menu.entry(id); });
+}
+
+RowContent rowContent(const EntryIndex &entries, const Daypart &daypart, int row)
+{
+    return contentOf(daypart, row, [&entries](int id) { return findEntry(entries, id); });
 }
 
 BinLimits zoneLimits(const RowContent &row, const Zone &zone, int slot, bool fanSpeedEnabled)

@@ -24,6 +24,8 @@ struct SlotContent
 using RowContent = FixedList<SlotContent, maxSlots>;
 
 [[nodiscard]] RowContent rowContent(const Menu &menu, const Daypart &daypart, int row);
+/// The same, for many rows.
+[[nodiscard]] RowContent rowContent(const EntryIndex &entries, const Daypart &daypart, int row);
 
 /// What every entry of a zone must share; 0 is no limit.
 struct BinLimits

@@ -44,6 +44,11 @@ ProductInfo *Menu::entry(int id) const
     return found ? found : findEntry(groups, id);
 }
 
+EntryIndex Menu::entriesById() const
+{
+    return indexById(pointersTo(products) + pointersTo(groups));
+}
+
 bool Menu::removeFromGroups(int id)
 {
     bool removed = false;

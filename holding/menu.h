@@ -48,6 +48,8 @@ struct Menu
     [[nodiscard]] ProductInfo *product(int id) const;
     /// The product or else the group with this id, or null.
     [[nodiscard]] ProductInfo *entry(int id) const;
+    /// What entry() gives for each id, for looking up many.
+    [[nodiscard]] EntryIndex entriesById() const;
 
     /// Takes a product out of every group; a group that loses a member falls back to its first one as the
     /// default. True when any group had it.

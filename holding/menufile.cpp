@@ -227,6 +227,7 @@ void MenuFile::loadMenuFile()
     loadGroups();
     loadGroupInfo();
     loadDayparts();
+    showFindings();
     fitContent();
 }
 

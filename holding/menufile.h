@@ -119,6 +119,9 @@ public slots: // old menus
 
 protected:
     [[nodiscard]] QByteArray contents() const override;
+    [[nodiscard]] Findings findings() const override;
+    [[nodiscard]] QStringList textsOf(const QList<Finding> &findings) const override;
+    void goTo(const MenuPlace &place) override;
     bool leaveMode() override;
 
 private:

@@ -60,6 +60,7 @@ ProductEdit::~ProductEdit() = default;
 
 void ProductEdit::fillChoices(int binsPerZone)
 {
+    m_ui->numFanSpeed->setMaximum(holding::maxFanSpeed);
     m_ui->comboLidType->addItems(holding::lidTexts());
     m_ui->comboBottomType->addItems(holding::bottomTexts());
     const QStringList zoneSplits = holding::offeredZoneSplits(binsPerZone);

@@ -17,6 +17,17 @@ bool mayHaveNoTemperature(int unit, int storedFahrenheit)
     return unit == unitCelsius && storedFahrenheit == 0;
 }
 
+bool isProductTemperature(int fahrenheit, int unit)
+{
+    return mayHaveNoTemperature(unit, fahrenheit) ||
+           productTemperatureRange(unit).contains(shownTemperature(fahrenheit, unit));
+}
+
+bool isProductFanSpeed(int fanSpeed)
+{
+    return fanSpeed >= 0 && fanSpeed <= maxFanSpeed;
+}
+
 int enteredId(int boxValue, int lowest, int highest, int ownId)
 {
     return boxValue == std::clamp(ownId, lowest, highest) ? ownId : boxValue;

@@ -17,6 +17,13 @@ namespace holding {
 /// that opening and saving does not make one up; in Fahrenheit the lowest temperature takes its place.
 [[nodiscard]] bool mayHaveNoTemperature(int unit, int storedFahrenheit);
 
+/// Whether a stored temperature (°F) is one that a product may have in a menu of this unit.
+[[nodiscard]] bool isProductTemperature(int fahrenheit, int unit);
+
+/// RPM; the least is 0.
+inline constexpr int maxFanSpeed = 10000;
+[[nodiscard]] bool isProductFanSpeed(int fanSpeed);
+
 /// The id that a box stands for. A menu's hundredth entry and products of a file may have an id outside the
 /// box's range: as long as the box shows what it made of that id, it stands for the id itself.
 [[nodiscard]] int enteredId(int boxValue, int lowest, int highest, int ownId);

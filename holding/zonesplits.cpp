@@ -39,6 +39,35 @@ QStringList textsOf(const QList<ZoneSplit> &splits)
     return texts;
 }
 
+QStringList splitsForRun(int binsPerZone, int freeSlots)
+{
+    QList<ZoneSplit> splits = splitsOf(binsPerZone);
+    splits.removeIf([=](const ZoneSplit &split) { return split.slotsNeeded > freeSlots; });
+    std::reverse(splits.begin(), splits.end());
+    std::stable_sort(splits.begin(), splits.end(), [](const ZoneSplit &left, const ZoneSplit &right) {
+        return left.slotsNeeded > right.slotsNeeded;
+    });
+    return textsOf(splits);
+}
+
+static_assert(std::all_of(allZoneSplits.begin(), allZoneSplits.end(),
+                          [](const ZoneSplit &split) {
+                              return split.binsPerZone <= maxSlots && split.slotsNeeded <= maxSlots;
+                          }),
+              "a split needs more slots than a row has");
+
+using SplitsForRuns = FixedList<FixedList<QStringList, maxSlots + 1>, maxSlots + 1>;
+
+SplitsForRuns allSplitsForRuns()
+{
+    SplitsForRuns all;
+    for (int bins = 0; bins <= maxSlots; ++bins) {
+        for (int freeSlots = 0; freeSlots <= maxSlots; ++freeSlots)
+            all[bins][freeSlots] = splitsForRun(bins, freeSlots);
+    }
+    return all;
+}
+
 } // namespace
 
 QStringList offeredZoneSplits(int binsPerZone)
@@ -51,15 +80,13 @@ QString defaultZoneSplits(int binsPerZone)
     return offeredZoneSplits(binsPerZone).value(0, u"1/2"_s);
 }
 
+// Every bin of a menu that is opened asks for them.
 QStringList zoneSplitsForRun(int binsPerZone, int freeSlots)
 {
-    QList<ZoneSplit> splits = splitsOf(binsPerZone);
-    splits.removeIf([=](const ZoneSplit &split) { return split.slotsNeeded > freeSlots; });
-    std::reverse(splits.begin(), splits.end());
-    std::stable_sort(splits.begin(), splits.end(), [](const ZoneSplit &left, const ZoneSplit &right) {
-        return left.slotsNeeded > right.slotsNeeded;
-    });
-    return textsOf(splits);
+    static const SplitsForRuns all = allSplitsForRuns();
+    if (binsPerZone < 0 || binsPerZone > maxSlots)
+        return {};
+    return all[binsPerZone][std::clamp(freeSlots, 0, maxSlots)];
 }
 
 int binButtonWidth(const CabinetShape &shape, const QString &zoneSplits)

@@ -18,6 +18,7 @@ ProductInfo *findEntry(const Entries &entries, int id)
 EntryIndex indexById(const QList<ProductInfo *> &entries)
 {
     EntryIndex index;
+    index.reserve(static_cast<std::size_t>(entries.size()));
     for (ProductInfo *entry : entries)
         index.emplace(entry->get_productId(), entry); // a repeated id changes nothing
     return index;

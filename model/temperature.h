@@ -28,6 +28,8 @@ struct TemperatureRange
     int lowest = 0;
     int highest = 0;
 
+    [[nodiscard]] constexpr bool contains(int shown) const { return shown >= lowest && shown <= highest; }
+
     friend bool operator==(const TemperatureRange &, const TemperatureRange &) = default;
 };
 

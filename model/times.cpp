@@ -13,6 +13,11 @@ int secondsOf(const QTime &time)
     return QTime(0, 0).secsTo(time);
 }
 
+int enteredSeconds(int storedSeconds)
+{
+    return storedSeconds < 0 ? secondsOf(timeOfSeconds(storedSeconds)) : storedSeconds;
+}
+
 QString timeText(int seconds, QStringView format)
 {
     return timeOfSeconds(seconds).toString(format);

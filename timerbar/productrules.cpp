@@ -51,6 +51,11 @@ TemperatureRange productTemperatureRange(int unit)
     return unit == unitCelsius ? TemperatureRange{38, 107} : TemperatureRange{100, 225};
 }
 
+bool isProductTemperature(int fahrenheit, int unit)
+{
+    return productTemperatureRange(unit).contains(shownTemperature(fahrenheit, unit));
+}
+
 QString temperatureNotice(int upper, int lower)
 {
     return std::min(upper, lower) < leastCommonTemperature

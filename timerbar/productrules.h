@@ -18,6 +18,9 @@ namespace timerbar {
 /// In the unit that the user enters.
 [[nodiscard]] TemperatureRange productTemperatureRange(int unit);
 
+/// Whether a stored temperature (°F) is one that a product may have in a menu of this unit.
+[[nodiscard]] bool isProductTemperature(int fahrenheit, int unit);
+
 /// What the user is to know of these temperatures (°F); empty for nothing.
 [[nodiscard]] QString temperatureNotice(int upper, int lower);
 

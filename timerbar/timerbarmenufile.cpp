@@ -11,6 +11,7 @@
 #include "model/files.h"
 #include "timerbar/cbrfile.h"
 #include "timerbar/defaultproducts.h"
+#include "timerbar/inconsistencies.h"
 #include "timerbar/rowdescription.h"
 #include "timerbar/timerbarconfig.h"
 #include "ui_timerbarmenufile.h"
@@ -153,6 +154,28 @@ QByteArray TimerBarMenuFile::contents() const
     return buffer.data();
 }
 
+Findings TimerBarMenuFile::findings() const
+{
+    return timerbar::inconsistencies(m_menu);
+}
+
+QStringList TimerBarMenuFile::textsOf(const QList<Finding> &findings) const
+{
+    return timerbar::findingTexts(findings, m_menu);
+}
+
+void TimerBarMenuFile::goTo(const MenuPlace &place)
+{
+    if (place.part == MenuPlace::Part::Products) {
+        m_ui->tabWidget->setCurrentWidget(m_ui->tabProducts);
+        m_products.goTo(place.index);
+        return;
+    }
+    m_ui->tabWidget->setCurrentWidget(m_ui->tabDayparts);
+    m_ui->comboDaypartSelect->setCurrentIndex(place.index);
+    m_grid.setFocus(place.bin);
+}
+
 void TimerBarMenuFile::loadDefaultMenu()
 {
     m_menu.products = timerbar::defaultProducts();
@@ -164,6 +187,7 @@ void TimerBarMenuFile::loadMenuFile()
     loadProducts();
     loadProductInfo();
     loadDayparts();
+    showFindings();
     fitContent();
 }
 

@@ -79,6 +79,9 @@ public slots:
 
 protected:
     [[nodiscard]] QByteArray contents() const override;
+    [[nodiscard]] Findings findings() const override;
+    [[nodiscard]] QStringList textsOf(const QList<Finding> &findings) const override;
+    void goTo(const MenuPlace &place) override;
     bool leaveMode() override;
 
 private:

@@ -106,6 +106,15 @@ void BinGrid::setFocus() const
         stop->setFocus();
 }
 
+void BinGrid::setFocus(Bin bin) const
+{
+    QPushButton *shown = button(bin);
+    while (shown && shown->isHidden() && bin.slot > 0)
+        shown = button({bin.row, --bin.slot});
+    if (shown)
+        shown->setFocus();
+}
+
 void BinGrid::press(QPushButton *button)
 {
     if (button->isCheckable())

@@ -44,6 +44,8 @@ public:
 
     /// Gives the focus to the bin that had it last.
     void setFocus() const;
+    /// Gives the focus to a bin, or to the one whose entry covers it.
+    void setFocus(Bin bin) const;
 
     void press(QPushButton *button);
     void release();

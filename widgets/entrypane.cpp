@@ -32,6 +32,13 @@ void EntryPane::focusList() const
     m_parts.list->setFocus();
 }
 
+void EntryPane::goTo(int row) const
+{
+    m_parts.list->setCurrentRow(row, m_multiSelection->isActive() ? QItemSelectionModel::NoUpdate
+                                                                  : QItemSelectionModel::ClearAndSelect);
+    focusList();
+}
+
 void EntryPane::showNames(const QStringList &names)
 {
     const QSignalBlocker blocker(m_parts.list);

@@ -37,6 +37,8 @@ public:
     void setCurrentRow(const QListWidgetItem *item);
 
     void focusList() const;
+    /// Makes a row current as a click on it does, but for the check marks of multiple selection.
+    void goTo(int row) const;
 
     /// Refills the list with numbered rows; the current row and the check marks stay, and what is hidden
     /// stays so, unless it were the current row.

@@ -7,18 +7,20 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLayout>
 #include <QMdiSubWindow>
+#include <QPushButton>
 
 #include "model/binplan.h"
 #include "model/files.h"
 #include "widgets/announce.h"
 #include "widgets/binplanfile.h"
+#include "widgets/menuinspection.h"
 #include "widgets/messages.h"
 #include "widgets/plainfont.h"
 
@@ -75,6 +77,7 @@ void repeatTipsInStatusBar(const QWidget *editor)
 void MenuEditor::takeFrame(QLabel *saved, QAbstractButton *close)
 {
     m_savedLabel = saved;
+    m_closeButton = close;
     showSaved(tr("Not saved yet"));
     connect(close, &QAbstractButton::clicked, this, &MenuEditor::closeWindow);
     repeatTipsInStatusBar(this);
@@ -131,7 +134,50 @@ void MenuEditor::noteImported(const QString &fileName)
 void MenuEditor::noteChange()
 {
     showSaved(savedText());
+    showFindings();
     emit told({});
+}
+
+void MenuEditor::showFindings()
+{
+    const qsizetype count = findings().count();
+    const bool wasShown = m_findingsLine && !m_findingsLine->isHidden();
+    if (count > 0 && !m_findingsLine)
+        makeFindingsLine();
+    if (count > 0)
+        m_findingsLine->setText(count == 1 ? tr("1 thing to look at")
+                                           : tr("%1 things to look at").arg(count));
+    if (wasShown == (count > 0))
+        return;
+    m_findingsLine->setVisible(count > 0);
+    if (m_designedSize.isValid())
+        fitContent();
+}
+
+// Most menus never need it.
+void MenuEditor::makeFindingsLine()
+{
+    m_findingsLine = new QPushButton(this);
+    m_findingsLine->setObjectName(u"btnFindings"_s);
+    m_findingsLine->setFlat(true);
+    m_findingsLine->setAutoDefault(false);
+    QFont font = m_findingsLine->font();
+    font.setUnderline(true);
+    m_findingsLine->setFont(font);
+    m_findingsLine->setToolTip(tr("What does not fit together in this menu, and where it stands"));
+    m_findingsLine->setStatusTip(m_findingsLine->toolTip());
+    auto *rows = qobject_cast<QBoxLayout *>(layout());
+    rows->insertWidget(1, m_findingsLine, 0, Qt::AlignLeft); // below the line of the cabinet
+    setTabOrder(m_closeButton, m_findingsLine);
+    connect(m_findingsLine, &QPushButton::clicked, this, &MenuEditor::inspect);
+}
+
+void MenuEditor::inspect()
+{
+    const Findings found = findings();
+    MenuInspection dialog(textsOf(found.kept()), found.count() - found.kept().size(), this);
+    if (dialog.exec() == Accepted)
+        goTo(found.kept().at(dialog.chosenRow()).place);
 }
 
 QString MenuEditor::savedText() const

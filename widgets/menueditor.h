@@ -8,10 +8,12 @@
 #include <QDialog>
 #include <QString>
 
+#include "model/findings.h"
 #include "widgets/savemark.h"
 
 class QAbstractButton;
 class QLabel;
+class QPushButton;
 
 namespace binplan {
 struct Cabinet;
@@ -81,6 +83,19 @@ protected:
     /// To be called after each accepted edit. It may have changed nothing, or something back.
     void noteChange();
 
+    /// What somebody should look at in the menu, as it is now.
+    [[nodiscard]] virtual Findings findings() const { return {}; }
+    /// A sentence for each.
+    [[nodiscard]] virtual QStringList textsOf([[maybe_unused]] const QList<Finding> &findings) const
+    {
+        return {};
+    }
+    /// Shows a place of the menu and gives it the focus.
+    virtual void goTo([[maybe_unused]] const MenuPlace &place) {}
+    /// Shows how many findings there are, in a line of its own that is there only while there are some. To be
+    /// called when a menu has been opened; noteChange() does it too.
+    void showFindings();
+
     /// Makes the path current and shows its file name in the title. What is known of the file at another path
     /// no longer counts.
     void setFilePath(const QString &path);
@@ -114,6 +129,8 @@ private:
     void closeWindow();
     [[nodiscard]] QString savedText() const;
     void showSaved(const QString &text);
+    void makeFindingsLine();
+    void inspect();
 
     QString m_filePath;
     QSize m_designedSize; ///< invalid before the first fitContent()
@@ -121,4 +138,6 @@ private:
     std::optional<SaveMark> m_saved; ///< of what was last read or written; none while there is no such file
     QString m_importedFrom;          ///< the name of the old menu's file
     QLabel *m_savedLabel = nullptr;
+    QAbstractButton *m_closeButton = nullptr;
+    QPushButton *m_findingsLine = nullptr; ///< null until there is something to look at
 };

@@ -188,7 +188,8 @@ RowText::RowText(QStringView text)
     const auto number = std::find_if_not(text.begin(), text.end(), isBlank);
     const auto end = std::find_if_not(number, text.end(), isDigit);
     digits = QStringView(number, end);
-    name = QStringView(end == text.end() ? end : end + 1, text.end());
+    const auto separated = digits.isEmpty() || end == text.end() ? end : end + 1;
+    name = QStringView(separated, text.end());
 }
 
 QListWidgetItem *append(QListWidget *list, const QString &name)

@@ -34,7 +34,7 @@ void describe(QListWidget *list, const std::function<QString(int row)> &descript
 /// "  1 Bacon": the number right-aligned in three characters, a blank, the name.
 [[nodiscard]] QString text(int number, const QString &name);
 
-/// Such a text in its two parts, which live as long as it.
+/// Such a text in its two parts, which live as long as it. One without a number is all name.
 struct RowText
 {
     explicit RowText(QStringView text);

@@ -335,8 +335,9 @@ void TestDialogs::enterOnCancelChangesNothing()
     QVERIFY(dialog && !before.isEmpty());
     for (QWidget *input : shown::tabOrder(*dialog))
         change(input);
-    auto &cancel = ui::get<QPushButton>(*dialog, "btnCancel");
-    QCOMPARE(cancel.text(), u"Cancel"_s);
+    const bool onlyShows = qstrcmp(everyWindow()[kind].name, "things to look at") == 0;
+    auto &cancel = ui::get<QPushButton>(*dialog, onlyShows ? "btnClose" : "btnCancel");
+    QCOMPARE(cancel.text(), onlyShows ? u"Close"_s : u"Cancel"_s);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         dialog->setResult(QDialog::Accepted);
         dialog->show();

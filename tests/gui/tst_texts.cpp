@@ -147,6 +147,7 @@ QMap<QString, QStringList> expectedTexts()
         {u"DaypartEdit"_s, {u"Name"_s, u"Cancel"_s, u"Save"_s}},
         {u"AssignDaypartItem"_s, detailLabels + select},
         {u"CopyBins"_s, {u"Take over the bins of"_s, u"Cancel"_s, u"Copy"_s}},
+        {u"MenuInspection"_s, {u"Close"_s, u"Go To"_s}},
         {u"MenuFile"_s, editorTexts(u"Cabinet: QHX KTR34, °F"_s)},
         {u"SvrxMenuFile"_s, laneTexts()},
         {u"TimerBarConfig"_s,

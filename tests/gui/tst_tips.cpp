@@ -140,6 +140,9 @@ void TestTips::tips_data()
     add("holding editor, all fields", "btnDaypartRemove", u"bins that are marked"_s);
     add("holding editor, all fields", "btnBinPlan", u"each day part that is in use"_s);
     add("Timer Bar editor", "btnBinPlan", u"each day part with a filled bin"_s);
+    add("holding editor, things to look at", "btnFindings", u"does not fit together"_s);
+    add("things to look at", "listWidgetFindings", u"Nothing is changed by looking"_s);
+    add("things to look at", "btnGoTo", u"product, group or bin"_s);
     add("lane editor, new", "comboModelSelect", u"comes back"_s);
     add("Timer Bar configuration", "comboUnitModel", u"not written to the file"_s);
     add("Timer Bar product", "txtShortName", u"the bins of the cabinet show"_s);

@@ -16,7 +16,9 @@
 #include "holding/configuration.h"
 #include "holding/daypartedit.h"
 #include "holding/groupedit.h"
+#include "holding/inconsistencies.h"
 #include "holding/menufile.h"
+#include "holding/menujson.h"
 #include "holding/productedit.h"
 #include "holding/timercolorpicker.h"
 #include "lanes/svrxmenufile.h"
@@ -31,6 +33,7 @@
 #include "timerbar/timerbardaypartassignitem.h"
 #include "timerbar/timerbarmenufile.h"
 #include "timerbar/timerbarproductedit.h"
+#include "widgets/menuinspection.h"
 
 using namespace Qt::StringLiterals;
 
@@ -103,15 +106,44 @@ std::unique_ptr<QWidget> makeOldMenuEditor(MenuFile &editor)
     return std::make_unique<MenuFile>(writeBeside(editor, u" of last summer.qhx"_s, contents));
 }
 
+// A bin without its product, and a product and a group that their dialogs would not take.
+holding::Menu menuToLookAt(const MenuFile &editor)
+{
+    holding::Menu menu = windowmenu::menu(editor.configuration());
+    menu.products[0]->set_holdTime(60);
+    menu.groups[0]->set_productList({});
+    menu.dayparts[0].bins[0][2] = 99;
+    return menu;
+}
+
+std::unique_ptr<QWidget> makeMenuInspection(MenuFile &editor)
+{
+    const holding::Menu menu = menuToLookAt(editor);
+    const QList<Finding> findings = holding::inconsistencies(menu).kept();
+    auto window = std::make_unique<MenuInspection>(holding::findingTexts(findings, menu), 2, &editor);
+    ui::get<QListWidget>(*window, "listWidgetFindings").setCurrentRow(0);
+    return window;
+}
+
+std::unique_ptr<QWidget> makeEditorToLookAt(MenuFile &editor)
+{
+    const QByteArray bytes = holding::writeMenu(menuToLookAt(editor));
+    return std::make_unique<MenuFile>(writeBeside(editor, u".json"_s, bytes));
+}
+
 // Two products of which the first fills a bin.
+cbr::Menu timerBarMenu()
+{
+    return {.model = u"KTR34"_s,
+            .unit = 1,
+            .products = {{.name = QByteArray(25, 'W'), .shortName = "WWWW"},
+                         {.name = "Bacon", .shortName = "BACN"}},
+            .dayparts = {QList<int>{0}}};
+}
+
 QString writeTimerBarMenu(const MenuFile &editor)
 {
-    const cbr::Menu menu{.model = u"KTR34"_s,
-                         .unit = 1,
-                         .products = {{.name = QByteArray(25, 'W'), .shortName = "WWWW"},
-                                      {.name = "Bacon", .shortName = "BACN"}},
-                         .dayparts = {QList<int>{0}}};
-    return writeBeside(editor, u".cbr"_s, menu.bytes());
+    return writeBeside(editor, u".cbr"_s, timerBarMenu().bytes());
 }
 
 // The editor that a Timer Bar dialog belongs to, never shown; it goes with the other.
@@ -151,6 +183,13 @@ std::unique_ptr<QWidget> makeCopyBins(MenuFile &editor)
     return std::make_unique<CopyBins>(0, &timerBarOwner(editor));
 }
 
+std::unique_ptr<QWidget> makeTimerBarEditorToLookAt(MenuFile &editor)
+{
+    cbr::Menu menu = timerBarMenu();
+    menu.products[1].holdMinutes = 1;
+    return std::make_unique<TimerBarMenuFile>(writeBeside(editor, u".cbr"_s, menu.bytes()));
+}
+
 std::unique_ptr<QWidget> makeLaneEditor(MenuFile &)
 {
     return std::make_unique<SvrxMenuFile>(QString());
@@ -188,10 +227,12 @@ const std::vector<WindowKind> &everyWindow()
         {"day part", "btnSave", windowmenu::fullCabinet(), makeDaypartEdit},
         {"bin, all fields", "btnSelect", windowmenu::fullCabinet(), makeAssignDaypartItem},
         {"bin, fewest fields", "btnSelect", windowmenu::plainCabinet(), makeAssignDaypartItem},
+        {"things to look at", "btnGoTo", windowmenu::fullCabinet(), makeMenuInspection},
         {"holding editor, all fields", nullptr, windowmenu::fullCabinet(), makeEditor, false},
         {"holding editor, fewest fields", nullptr, windowmenu::plainCabinet(), makeEditor, false},
         {"holding editor, changed", nullptr, windowmenu::fullCabinet(), makeChangedEditor, false},
         {"holding editor, old menu", nullptr, windowmenu::fullCabinet(), makeOldMenuEditor, false},
+        {"holding editor, things to look at", nullptr, windowmenu::fullCabinet(), makeEditorToLookAt, false},
         {"lane editor, new", nullptr, windowmenu::plainCabinet(), makeLaneEditor, false},
         {"lane editor, values beyond the limits", nullptr, windowmenu::plainCabinet(),
          makeLaneEditorWithNotes, false},
@@ -201,6 +242,8 @@ const std::vector<WindowKind> &everyWindow()
         {"Timer Bar bin", "btnSelect", windowmenu::plainCabinet(), makeTimerBarAssignItem},
         {"Timer Bar bins to copy", "btnCopy", windowmenu::plainCabinet(), makeCopyBins},
         {"Timer Bar editor", nullptr, windowmenu::plainCabinet(), makeTimerBarEditor, false},
+        {"Timer Bar editor, things to look at", nullptr, windowmenu::plainCabinet(),
+         makeTimerBarEditorToLookAt, false},
     };
     return kinds;
 }

@@ -37,6 +37,11 @@ holding::Menu menu(const holding::CabinetConfiguration &configuration)
     first.set_productName(sameNameInAllLanguages(longName));
     if (configuration.timerColorEnabled)
         first.set_timerColor(u"#a05000"_s);
+    // They stand in its zone and in its group.
+    for (ProductInfo *beside : {menu.products[1].get(), menu.products[2].get()}) {
+        beside->set_upperTemp(first.get_upperTemp());
+        beside->set_lowerTemp(first.get_lowerTemp());
+    }
     auto group = holding::newGroup(menu.nextFreeId());
     group->set_productName(sameNameInAllLanguages(u"Breakfast Sandwiches, Cold and Warm"_s));
     group->set_zoneSplits(first.get_zoneSplits());

@@ -9,8 +9,8 @@
 #include "holding/menu.h"
 
 /// A small but complete holding-cabinet menu: the default products, of which the first has a long name and a
-/// colour, a group of the first two with a long name, and three bins: the
-/// first product, the group, the third product.
+/// colour and the next two hold at its temperatures, a group of the first two with a long name, and three
+/// bins: the first product, the group, the third product.
 namespace windowmenu {
 
 extern const QString longName;

@@ -25,7 +25,7 @@ constexpr int stepsToClose = 12;
 
 QAbstractButton *acceptingButton(const QWidget &dialog)
 {
-    for (const char *name : {"btnSave", "btnAccept", "btnSelect", "btnCopy"}) {
+    for (const char *name : {"btnSave", "btnAccept", "btnSelect", "btnCopy", "btnGoTo"}) {
         if (auto *button = dialog.findChild<QAbstractButton *>(QString::fromLatin1(name)))
             return button;
     }

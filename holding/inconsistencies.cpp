@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "holding/inconsistencies.h"
+
+#include "holding/bins.h"
+#include "holding/groupdraft.h"
+#include "holding/productrules.h"
+#include "holding/producttypes.h"
+#include "holding/timercolors.h"
+#include "model/timelimits.h"
+#include "model/times.h"
+
+namespace holding {
+
+namespace {
+
+using Part = MenuPlace::Part;
+
+// Files need not have a word at all.
+bool isUnknownWord(const QStringList &words, const QString &word)
+{
+    return !word.isEmpty() && !words.contains(word);
+}
+
+class Inspection
+{
+public:
+    explicit Inspection(const Menu &menu)
+        : m_menu(menu)
+        , m_configuration(menu.configuration)
+        , m_shape(menu.shape())
+        , m_entries(menu.entriesById())
+        , m_zoneSplits(offeredZoneSplits(m_shape.binsPerZone))
+    {}
+
+    [[nodiscard]] Findings findings();
+
+private:
+    void lookAtNumber();
+    void lookAtEntry(const ProductInfo &entry, const MenuPlace &place);
+    void lookAtTimes(const ProductInfo &product, const MenuPlace &place);
+    void lookAtTemperatures(const ProductInfo &product, const MenuPlace &place);
+    void lookAtChoices(const ProductInfo &product, const MenuPlace &place);
+    void lookAtMembers(const ProductInfo &group, const MenuPlace &place);
+    void lookAtRow(const Daypart &daypart, int index, int row);
+    [[nodiscard]] bool fits(const RowContent &row, int slot) const;
+
+    void addIf(bool condition, FindingKind kind, const MenuPlace &place)
+    {
+        if (condition)
+            m_found.add({.kind = kind, .place = place});
+    }
+
+    const Menu &m_menu;
+    const CabinetConfiguration &m_configuration;
+    const CabinetShape m_shape;
+    const EntryIndex m_entries;
+    const QStringList m_zoneSplits;
+    Findings m_found;
+};
+
+Findings Inspection::findings()
+{
+    lookAtNumber();
+    MenuPlace place{.part = Part::Products};
+    for (const auto &product : m_menu.products) {
+        lookAtEntry(*product, place);
+        lookAtTimes(*product, place);
+        lookAtTemperatures(*product, place);
+        lookAtChoices(*product, place);
+        ++place.index;
+    }
+    place = {.part = Part::Groups};
+    for (const auto &group : m_menu.groups) {
+        lookAtEntry(*group, place);
+        lookAtMembers(*group, place);
+        ++place.index;
+    }
+    for (int index = 0; index < m_menu.daypartCount; ++index) {
+        for (int row = 0; row < m_shape.rows; ++row)
+            lookAtRow(m_menu.dayparts[index], index, row);
+    }
+    return m_found;
+}
+
+// Leads to the first entry that is too many.
+void Inspection::lookAtNumber()
+{
+    const auto products = static_cast<int>(m_menu.products.size());
+    const int all = products + static_cast<int>(m_menu.groups.size());
+    if (all <= maxEntries)
+        return;
+    const MenuPlace place = products > maxEntries
+                                ? MenuPlace{.part = Part::Products, .index = maxEntries}
+                                : MenuPlace{.part = Part::Groups, .index = maxEntries - products};
+    m_found.add({.kind = FindingKind::TooManyEntries, .place = place, .number = all});
+}
+
+void Inspection::lookAtEntry(const ProductInfo &entry, const MenuPlace &place)
+{
+    addIf(findEntry(m_entries, entry.get_productId()) != &entry, FindingKind::RepeatedId, place);
+    addIf(shownName(entry.get_productName()).isEmpty(), FindingKind::NoName, place);
+}
+
+void Inspection::lookAtTimes(const ProductInfo &product, const MenuPlace &place)
+{
+    const int hold = enteredSeconds(product.get_holdTime());
+    const int alert = enteredSeconds(product.get_warningTime());
+    const bool isHeldWell = holdTimeFault(hold).isEmpty();
+    addIf(!isHeldWell, FindingKind::HoldTime, place);
+    addIf(isHeldWell && !alertTimeFault(hold, alert).isEmpty(), FindingKind::AlertTime, place);
+    addIf(m_configuration.resetTimeEnabled &&
+              !resetTimeFault(enteredSeconds(product.get_resetTime())).isEmpty(),
+          FindingKind::ResetTime, place);
+}
+
+void Inspection::lookAtTemperatures(const ProductInfo &product, const MenuPlace &place)
+{
+    const int unit = m_configuration.temperatureUnit;
+    addIf(!isProductTemperature(product.get_upperTemp(), unit), FindingKind::UpperTemperature, place);
+    addIf(!isZpv(m_configuration.type) && !isProductTemperature(product.get_lowerTemp(), unit),
+          FindingKind::LowerTemperature, place);
+}
+
+// What the dialog would silently take another choice for.
+void Inspection::lookAtChoices(const ProductInfo &product, const MenuPlace &place)
+{
+    addIf(m_configuration.fanSpeedEnabled && !isProductFanSpeed(product.get_fanSpeed()),
+          FindingKind::FanSpeed, place);
+    addIf(m_shape.isKnown() && !m_zoneSplits.contains(product.get_zoneSplits()), FindingKind::ZoneSplit,
+          place);
+    addIf(!isZpv(m_configuration.type) && isUnknownWord(lidTypes(), product.get_lidType()),
+          FindingKind::LidType, place);
+    addIf(isUnknownWord(bottomTypes(), product.get_bottomType()), FindingKind::BottomType, place);
+    if (m_configuration.timerColorEnabled) {
+        const QString color = product.get_timerColor();
+        addIf(timerColorByName(color).colorName != color, FindingKind::TimerColor, place);
+    }
+}
+
+void Inspection::lookAtMembers(const ProductInfo &group, const MenuPlace &place)
+{
+    const QList<int> members = group.get_productList();
+    const GroupDraft draft(group, m_configuration);
+    Finding missing{.kind = FindingKind::MissingMembers, .place = place, .count = 0};
+    Finding unfit{.kind = FindingKind::UnfitMembers, .place = place, .count = 0};
+    for (int position = 0; position < members.size(); ++position) {
+        const ProductInfo *member = findEntry(m_entries, members[position]);
+        const bool isMissing = !member || member->get_isGroup();
+        if (!isMissing && draft.fits(*member))
+            continue;
+        Finding &finding = isMissing ? missing : unfit;
+        if (finding.count++ == 0)
+            finding.number = position;
+    }
+    addIf(members.isEmpty(), FindingKind::NoMembers, place);
+    for (const Finding &finding : {missing, unfit}) {
+        if (finding.count > 0)
+            m_found.add(finding);
+    }
+    const int chosen = group.get_defaultIndex();
+    addIf(!members.isEmpty() && (chosen < 0 || chosen >= members.size()), FindingKind::NoDefault, place);
+}
+
+void Inspection::lookAtRow(const Daypart &daypart, int index, int row)
+{
+    const RowContent content = rowContent(m_entries, daypart, row);
+    for (int slot = 0; slot < m_shape.binsPerRow(); ++slot) {
+        const MenuPlace place{.part = Part::Bins, .index = index, .bin = {row, slot}};
+        if (!content[slot].filled || !m_shape.hasBin(place.bin))
+            continue;
+        addIf(!content[slot].entry, FindingKind::MissingEntry, place);
+        addIf(content[slot].entry && !fits(content, slot), FindingKind::UnfitEntry, place);
+    }
+}
+
+// As the list to pick from would say of the entry that stands there.
+bool Inspection::fits(const RowContent &row, int slot) const
+{
+    const bool fanSpeeds = m_configuration.fanSpeedEnabled;
+    return fitsBin(*row[slot].entry, zoneLimits(row, m_shape.zoneOfSlot(slot), slot, fanSpeeds),
+                   allowedZoneSplits(m_shape, row, slot), fanSpeeds);
+}
+
+} // namespace
+
+Findings inconsistencies(const Menu &menu)
+{
+    return Inspection(menu).findings();
+}
+
+} // namespace holding

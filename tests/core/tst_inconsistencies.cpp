@@ -1,0 +1,313 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QTest>
+
+#include "holding/inconsistencies.h"
+#include "tests/core/menutolookat.h"
+#include "tests/support/warnings.h"
+
+using namespace Qt::StringLiterals;
+using namespace holding;
+using menutolookat::Change;
+
+/// What is found in a menu of a file, and how it is told.
+class TestInconsistencies : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void product_data();
+    void product() { checkFinding(); }
+    void productOfZpv_data();
+    void productOfZpv() { checkFinding(); }
+    void group_data();
+    void group() { checkFinding(); }
+    void bin_data();
+    void bin() { checkFinding(); }
+    void tooManyEntries();
+    void severalComeInTheOrderOfTheMenu();
+    void longTextsAreShortened();
+    void manyAreCounted();
+
+private:
+    static void checkFinding();
+};
+
+namespace {
+
+using Part = MenuPlace::Part;
+
+constexpr MenuPlace bacon{.part = Part::Products, .index = 0};
+constexpr MenuPlace chili{.part = Part::Products, .index = 2};
+constexpr MenuPlace meats{.part = Part::Groups, .index = 0};
+
+void addColumns()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<Finding>("finding");
+    QTest::addColumn<QString>("text");
+}
+
+void add(const char *name, Change change, const Finding &finding, const QString &text)
+{
+    QTest::newRow(name) << change << finding << text;
+}
+
+// Change what a product of the menu holds.
+template <auto set, auto value>
+void changeBacon(Menu &menu)
+{
+    ((*menu.products[0]).*set)(value);
+}
+
+} // namespace
+
+void TestInconsistencies::checkFinding()
+{
+    QFETCH(const Change, change);
+    QFETCH(const Finding, finding);
+    Menu menu = menutolookat::menu();
+    QCOMPARE(inconsistencies(menu).count(), 0);
+    change(menu);
+    const Findings found = inconsistencies(menu);
+    const QStringList texts = findingTexts(found.kept(), menu);
+    QVERIFY2(texts.size() == 1, qPrintable(texts.join(u'\n')));
+    QTEST(texts.constFirst(), "text");
+    QVERIFY(found.kept() == QList{finding});
+    QCOMPARE(found.count(), 1);
+}
+
+void TestInconsistencies::product_data()
+{
+    using enum FindingKind;
+    using P = ProductInfo;
+    addColumns();
+    add(
+        "repeated id", [](Menu &menu) { menu.products[2]->set_productId(2); }, {RepeatedId, chili},
+        u"Product 3, Chili: Another entry has the id 2, too. Bins and groups mean the first one"_s);
+    const auto groupId = [](Menu &menu) {
+        menu.clearBins();
+        menu.products[2]->set_productId(4);
+    };
+    add("id of a group", groupId, {RepeatedId, meats},
+        u"Group 1, Meats: Another entry has the id 4, too. Bins and groups mean the first one"_s);
+    add(
+        "no name", [](Menu &menu) { menu.products[2]->set_productName({QString()}); }, {NoName, chili},
+        u"Product 3: There is no name"_s);
+    add("held too short", changeBacon<&P::set_holdTime, 359>, {HoldTime, bacon},
+        u"Product 1, Bacon: Invalid hold time. Minimum value is 6 minutes!"_s);
+    add("held too long", changeBacon<&P::set_holdTime, 28801>, {HoldTime, bacon},
+        u"Product 1, Bacon: Invalid hold time. Maximum value is 8 hours!"_s);
+    add("late alert", changeBacon<&P::set_warningTime, 1800>, {AlertTime, bacon},
+        u"Product 1, Bacon: Invalid cook more alert time. Value must be less than hold time!"_s);
+    add("negative alert", changeBacon<&P::set_warningTime, -1>, {AlertTime, bacon},
+        u"Product 1, Bacon: Invalid cook more alert time. Value must be less than hold time!"_s);
+    add("late reset", changeBacon<&P::set_resetTime, 3600>, {ResetTime, bacon},
+        u"Product 1, Bacon: Invalid reset time!"_s);
+    add("negative reset", changeBacon<&P::set_resetTime, -1>, {ResetTime, bacon},
+        u"Product 1, Bacon: Invalid reset time!"_s);
+    add(
+        "too cold", [](Menu &menu) { menu.products[2]->set_lowerTemp(89); }, {LowerTemperature, chili},
+        u"Product 3, Chili: The lower temperature is 89°F, not 90 to 225°F"_s);
+    add(
+        "too hot", [](Menu &menu) { menu.products[2]->set_upperTemp(226); }, {UpperTemperature, chili},
+        u"Product 3, Chili: The upper temperature is 226°F, not 90 to 225°F"_s);
+    add(
+        "no temperature", [](Menu &menu) { menu.products[2]->set_upperTemp(0); }, {UpperTemperature, chili},
+        u"Product 3, Chili: The upper temperature is 0°F, not 90 to 225°F"_s);
+    add(
+        "fan too fast", [](Menu &menu) { menu.products[2]->set_fanSpeed(10001); }, {FanSpeed, chili},
+        u"Product 3, Chili: The fan speed is 10001 RPM, not 0 to 10000 RPM"_s);
+    add(
+        "fan backwards", [](Menu &menu) { menu.products[2]->set_fanSpeed(-1); }, {FanSpeed, chili},
+        u"Product 3, Chili: The fan speed is -1 RPM, not 0 to 10000 RPM"_s);
+    add(
+        "split of other cabinets", [](Menu &menu) { menu.products[2]->set_zoneSplits(u"1/3"_s); },
+        {ZoneSplit, chili}, u"Product 3, Chili: This cabinet has no zone split 1/3"_s);
+    add(
+        "no split", [](Menu &menu) { menu.products[2]->set_zoneSplits({}); }, {ZoneSplit, chili},
+        u"Product 3, Chili: There is no zone split"_s);
+    add(
+        "unknown lid", [](Menu &menu) { menu.products[2]->set_lidType(u"vented"_s); }, {LidType, chili},
+        u"Product 3, Chili: There is no lid vented"_s);
+    add(
+        "unknown bottom", [](Menu &menu) { menu.products[2]->set_bottomType(u"Glass"_s); },
+        {BottomType, chili}, u"Product 3, Chili: There is no bottom Glass"_s);
+    add(
+        "unknown color", [](Menu &menu) { menu.products[2]->set_timerColor(u"#FF0000"_s); },
+        {TimerColor, chili}, u"Product 3, Chili: There is no timer color #FF0000"_s);
+}
+
+void TestInconsistencies::productOfZpv_data()
+{
+    addColumns();
+    const auto hot = [](Menu &menu) {
+        menutolookat::makeZpv(menu);
+        menu.products[2]->set_upperTemp(226);
+        menu.products[2]->set_lowerTemp(226);
+    };
+    add("one temperature", hot, {FindingKind::UpperTemperature, chili},
+        u"Product 3, Chili: The temperature is 226°F, not 90 to 225°F"_s);
+    const auto hotInCelsius = [](Menu &menu) {
+        menutolookat::makeZpv(menu);
+        menu.configuration.temperatureUnit = unitCelsius;
+        menu.products[2]->set_upperTemp(228);
+    };
+    add("in Celsius", hotInCelsius, {FindingKind::UpperTemperature, chili},
+        u"Product 3, Chili: The temperature is 109°C, not 32 to 107°C"_s);
+}
+
+void TestInconsistencies::group_data()
+{
+    using enum FindingKind;
+    addColumns();
+    add(
+        "no name", [](Menu &menu) { menu.groups[0]->set_productName({}); }, {NoName, meats},
+        u"Group 1: There is no name"_s);
+    add(
+        "no members", [](Menu &menu) { menu.groups[0]->set_productList({}); }, {NoMembers, meats},
+        u"Group 1, Meats: There are no products in it"_s);
+    add(
+        "missing member",
+        [](Menu &menu) {
+            menu.groups[0]->set_productList({1, 77});
+        },
+        {MissingMembers, meats, 1, 1}, u"Group 1, Meats: Its product with the id 77 is not in this menu"_s);
+    add(
+        "a group as member",
+        [](Menu &menu) {
+            menu.groups[0]->set_productList({1, 4});
+        },
+        {MissingMembers, meats, 1, 1}, u"Group 1, Meats: Its product with the id 4 is not in this menu"_s);
+    add(
+        "missing members",
+        [](Menu &menu) {
+            menu.groups[0]->set_productList({77, 1, 78});
+        },
+        {MissingMembers, meats, 0, 2}, u"Group 1, Meats: 2 of its 3 products are not in this menu"_s);
+    const QString hotter = u"Does not fit: 215 °F / 200 °F, this group holds 200 °F / 200 °F"_s;
+    add(
+        "unfit member",
+        [](Menu &menu) {
+            menu.groups[0]->set_productList({1, 3});
+        },
+        {UnfitMembers, meats, 1, 1}, u"Group 1, Meats: Chili does not suit it. "_s + hotter);
+    const auto unfit = [](Menu &menu) {
+        menu.groups[0]->set_productList({1, 3, 2});
+        menu.products[1]->set_lidType(u"Vented"_s);
+    };
+    add("unfit members", unfit, {UnfitMembers, meats, 1, 2},
+        u"Group 1, Meats: Chili and 1 more do not suit it. "_s + hotter);
+    const auto lid = [](Menu &menu) {
+        menu.groups[0]->set_productList({1, 2, 3});
+        menu.groups[0]->set_lidType(u"None"_s);
+        menu.products[2]->set_upperTemp(200);
+        menu.products[2]->set_lidType(u"Solid"_s);
+    };
+    add("unfit lid", lid, {UnfitMembers, meats, 2, 1},
+        u"Group 1, Meats: Chili does not suit it. Lid Solid, this group has None"_s);
+    add(
+        "default behind the last", [](Menu &menu) { menu.groups[0]->set_defaultIndex(2); },
+        {NoDefault, meats}, u"Group 1, Meats: None of its products is the default one"_s);
+    add(
+        "negative default", [](Menu &menu) { menu.groups[0]->set_defaultIndex(-1); }, {NoDefault, meats},
+        u"Group 1, Meats: None of its products is the default one"_s);
+}
+
+void TestInconsistencies::bin_data()
+{
+    using enum FindingKind;
+    addColumns();
+    const MenuPlace place{.part = Part::Bins, .index = 1, .bin = {2, 1}};
+    add(
+        "missing entry", [](Menu &menu) { menu.dayparts[1].bins[2][1] = 77; }, {MissingEntry, place},
+        u"LUNCH/DINNER, Row 3, Bin 2: The id 77 is not in this menu"_s);
+    add(
+        "negative id", [](Menu &menu) { menu.dayparts[1].bins[2][1] = -1; }, {MissingEntry, place},
+        u"LUNCH/DINNER, Row 3, Bin 2: The id -1 is not in this menu"_s);
+    const auto nameless = [](Menu &menu) {
+        menu.dayparts[1].names = {QString()};
+        menu.dayparts[1].bins[2][1] = 77;
+    };
+    add("day part without a name", nameless, {MissingEntry, place},
+        u"Day part 2, Row 3, Bin 2: The id 77 is not in this menu"_s);
+    const auto whole = [](Menu &menu) {
+        menu.products[2]->set_zoneSplits(u"1/1"_s);
+        menu.dayparts[1].bins[2][1] = 3;
+    };
+    add("no room", whole, {UnfitEntry, place},
+        u"LUNCH/DINNER, Row 3, Bin 2: Chili. Zone split 1/1 has no room here"_s);
+    const auto neighbour = [](Menu &menu) {
+        menu.products[2]->set_zoneSplits(u"1/1"_s);
+        menu.dayparts[1].bins[2] = {3, 1, 0, 0};
+        menu.products[2]->set_upperTemp(200);
+    };
+    add("a filled bin beside it", neighbour, {UnfitEntry, {.part = Part::Bins, .index = 1, .bin = {2, 0}}},
+        u"LUNCH/DINNER, Row 3, Bin 1: Chili. Zone split 1/1 has no room here"_s);
+}
+
+// Leads to the first one that is too many.
+void TestInconsistencies::tooManyEntries()
+{
+    Menu menu = menutolookat::menu();
+    menutolookat::addProducts(menu, maxEntries - 1);
+    QCOMPARE(inconsistencies(menu).count(), 0);
+    menutolookat::addProducts(menu, maxEntries);
+    const auto finding = [&menu] { return inconsistencies(menu).kept().value(0); };
+    QVERIFY(finding() == (Finding{FindingKind::TooManyEntries, {Part::Groups, 0}, 101}));
+    QCOMPARE(findingTexts({finding()}, menu),
+             QStringList{u"This menu has 101 products and groups, a cabinet takes at most 100"_s});
+    menutolookat::addProducts(menu, maxEntries + 10);
+    QVERIFY(finding() == (Finding{FindingKind::TooManyEntries, {Part::Products, 100}, 111}));
+    QCOMPARE(inconsistencies(menu).count(), 1);
+}
+
+void TestInconsistencies::severalComeInTheOrderOfTheMenu()
+{
+    Menu menu = menutolookat::menu();
+    menu.dayparts[0].bins[0] = {3, 1, 0, 0}; // each keeps the other out
+    menu.groups[0]->set_defaultIndex(9);
+    menu.products[1]->set_holdTime(0);
+    menu.products[1]->set_warningTime(0); // nothing is said of it as long as the hold time is wrong
+    const QString hotter = u"Does not fit: 215 °F / 200 °F, this zone holds 200 °F / 200 °F"_s;
+    const QString cooler = u"Does not fit: 200 °F / 200 °F, this zone holds 215 °F / 200 °F"_s;
+    QCOMPARE(findingTexts(inconsistencies(menu).kept(), menu),
+             (QStringList{u"Product 2, Ham: Invalid hold time. Minimum value is 6 minutes!"_s,
+                          u"Group 1, Meats: None of its products is the default one"_s,
+                          u"BREAKFAST, Row 1, Bin 1: Chili. "_s + hotter,
+                          u"BREAKFAST, Row 1, Bin 2: Bacon. "_s + cooler}));
+}
+
+void TestInconsistencies::longTextsAreShortened()
+{
+    Menu menu = menutolookat::menu();
+    const QString endless(100'000, u'x');
+    menu.products[0]->set_productName({endless});
+    menu.products[0]->set_zoneSplits(endless);
+    menu.groups[0]->set_productName({endless});
+    menu.dayparts[0].names = {endless};
+    menu.dayparts[0].bins[0][0] = 1;
+    const QStringList texts = findingTexts(inconsistencies(menu).kept(), menu);
+    QCOMPARE(texts.size(), 3);
+    for (const QString &text : texts)
+        QVERIFY2(text.size() < 200, qPrintable(text.left(300)));
+}
+
+// The list stays short, however many there are.
+void TestInconsistencies::manyAreCounted()
+{
+    Menu menu = menutolookat::menu();
+    menutolookat::addProducts(menu, 5000);
+    for (const auto &product : menu.products)
+        product->set_holdTime(0);
+    menu.groups[0]->set_productList(QList<int>(2'000'000, 9999999));
+    const Findings found = inconsistencies(menu);
+    QCOMPARE(found.count(), 5000 + 2);
+    QCOMPARE(found.kept().size(), Findings::maxKept);
+    QCOMPARE(findingTexts(found.kept(), menu).size(), Findings::maxKept);
+}
+
+QTEST_APPLESS_MAIN(TestInconsistencies)
+#include "tst_inconsistencies.moc"

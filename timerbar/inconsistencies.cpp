@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Varno Plexora developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "timerbar/inconsistencies.h"
+
+#include <QCoreApplication>
+
+#include "model/names.h"
+#include "model/timelimits.h"
+#include "timerbar/bins.h"
+#include "timerbar/productrules.h"
+
+namespace timerbar {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(TimerBarInconsistencies)
+};
+
+using Part = MenuPlace::Part;
+
+void addProduct(const ProductInfo &product, const MenuPlace &place, int unit, Findings &found)
+{
+    const auto addIf = [&](bool condition, FindingKind kind) {
+        if (condition)
+            found.add({.kind = kind, .place = place});
+    };
+    const bool isHeldWell = holdTimeFault(product.get_holdTime()).isEmpty();
+    addIf(shownName(product.get_productName()).isEmpty(), FindingKind::NoName);
+    addIf(product.get_productShortName().isEmpty(), FindingKind::NoShortName);
+    addIf(!isHeldWell, FindingKind::HoldTime);
+    addIf(isHeldWell && !alertTimeFault(product.get_holdTime(), product.get_warningTime()).isEmpty(),
+          FindingKind::AlertTime);
+    addIf(!isProductTemperature(product.get_upperTemp(), unit), FindingKind::UpperTemperature);
+    addIf(!isProductTemperature(product.get_lowerTemp(), unit), FindingKind::LowerTemperature);
+}
+
+const ProductInfo *productIn(const Menu &menu, int daypart, Bin bin)
+{
+    const int id = menu.dayparts[daypart][bin];
+    return id == emptyCell ? nullptr : menu.product(id);
+}
+
+void addDaypart(const Menu &menu, int daypart, const QList<Bin> &bins, Findings &found)
+{
+    for (const Bin bin : bins) {
+        const ProductInfo *product = productIn(menu, daypart, bin);
+        if (product && !fitsNeighbour(*product, neighbourTemperatures(menu, daypart, bin)))
+            found.add({.kind = FindingKind::UnfitEntry,
+                       .place = {.part = Part::Bins, .index = daypart, .bin = bin}});
+    }
+}
+
+QString unfitTemperature(FindingKind kind, const ProductInfo &product, int unit)
+{
+    const TemperatureRange range = productTemperatureRange(unit);
+    const QString lowest = QString::number(range.lowest);
+    const QString highest = QString::number(range.highest) + unitText(unit);
+    return kind == FindingKind::UpperTemperature
+               ? Text::tr("The upper temperature is %1, not %2 to %3")
+                     .arg(temperatureText(product.get_upperTemp(), unit), lowest, highest)
+               : Text::tr("The lower temperature is %1, not %2 to %3")
+                     .arg(temperatureText(product.get_lowerTemp(), unit), lowest, highest);
+}
+
+QString productText(FindingKind kind, const ProductInfo &product, int unit)
+{
+    switch (kind) {
+    case FindingKind::NoName:
+        return Text::tr("There is no name");
+    case FindingKind::NoShortName:
+        return Text::tr("There is no short name");
+    case FindingKind::HoldTime:
+        return holdTimeFault(product.get_holdTime());
+    case FindingKind::AlertTime:
+        return alertTimeFault(product.get_holdTime(), product.get_warningTime());
+    default:
+        return unfitTemperature(kind, product, unit);
+    }
+}
+
+QString ofProduct(const Finding &finding, const Menu &menu)
+{
+    const ProductInfo &product = *menu.products.at(static_cast<std::size_t>(finding.place.index));
+    const QString number = QString::number(finding.place.index + 1);
+    const QString name = shownName(product.get_productName());
+    const QString text = productText(finding.kind, product, menu.temperatureUnit);
+    return name.isEmpty() ? Text::tr("Product %1: %2").arg(number, text)
+                          : Text::tr("Product %1, %2: %3").arg(number, name, text);
+}
+
+QString ofBin(const MenuPlace &place, const Menu &menu)
+{
+    const ProductInfo &product = *productIn(menu, place.index, place.bin);
+    return Text::tr("%1, Row %2, Bin %3: %4. %5")
+        .arg(daypartNames()[place.index], QString::number(place.bin.row + 1),
+             QString::number(place.bin.slot + 1), shownName(product.get_productName()),
+             misfitText(product, neighbourTemperatures(menu, place.index, place.bin), menu.temperatureUnit));
+}
+
+} // namespace
+
+Findings inconsistencies(const Menu &menu)
+{
+    Findings found;
+    MenuPlace place{.part = Part::Products};
+    for (const auto &product : menu.products) {
+        addProduct(*product, place, menu.temperatureUnit, found);
+        ++place.index;
+    }
+    const QList<Bin> bins = menu.shape().allBins();
+    for (int daypart = 0; daypart < daypartCount; ++daypart)
+        addDaypart(menu, daypart, bins, found);
+    return found;
+}
+
+QStringList findingTexts(const QList<Finding> &findings, const Menu &menu)
+{
+    QStringList texts;
+    for (const Finding &finding : findings)
+        texts.append(finding.place.part == Part::Bins ? ofBin(finding.place, menu)
+                                                      : ofProduct(finding, menu));
+    return texts;
+}
+
+} // namespace timerbar
