@@ -19,6 +19,8 @@
     packages_tour=(openbox poppler-utils x11-utils xvfb)
     packages_lint=(appstream clang-14 clang-format-14 clang-tidy-14 clazy desktop-file-utils libxml2-utils
                    shellcheck)
+    packages_package=(dpkg-dev file gzip)
+    packages_check_package=(appstream gpg lintian mmdebstrap)
     packages_bench=(valgrind)
     packages_mutate=(python3)
     # The sanitizers and the runner, and what names the functions in their reports.
@@ -61,4 +63,19 @@ install_packages() {
 # build PRESET [OPTION FOR THE BUILD...]
 build() {
     cmake --preset "$1" && cmake --build --preset "$@"
+}
+
+# last_commit_time: what is made of a commit has its time, so that it is always the same.
+last_commit_time() {
+    git log -1 --format=%ct
+}
+
+# wait_for SECONDS COMMAND...
+wait_for() {
+    local end=$((SECONDS + $1))
+    shift
+    until "$@"; do
+        ((SECONDS < end)) || return 1
+        sleep 0.1
+    done
 }
