@@ -34,6 +34,7 @@ void EntryPane::focusList() const
 
 void EntryPane::goTo(int row) const
 {
+    m_find->refresh(row); // it may be hidden
     m_parts.list->setCurrentRow(row, m_multiSelection->isActive() ? QItemSelectionModel::NoUpdate
                                                                   : QItemSelectionModel::ClearAndSelect);
     focusList();

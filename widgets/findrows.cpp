@@ -55,6 +55,10 @@ FindRows::FindRows(QListWidget *list, const QString &name, QAbstractButton *pick
     } else {
         column->insertWidget(place, m_field);
     }
+    // Screen readers go through a window in the order in which its widgets lie on each other.
+    m_field->stackUnder(list);
+    if (m_onlyFits)
+        m_onlyFits->stackUnder(list);
     // Tab comes to the field where it came to the list, and then to the list.
     QWidget::setTabOrder(list, m_field);
     if (m_onlyFits)

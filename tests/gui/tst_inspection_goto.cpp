@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QApplication>
+#include <QLineEdit>
 
 #include "holding/assigndaypartitem.h"
 #include "tests/gui/holdbins.h"
@@ -19,6 +20,7 @@ class TestInspectionGoTo : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void productRow();
+    void rowThatIsHidden();
     void groupRow();
     void binOfAnotherDaypart();
     void coveredBin();
@@ -63,6 +65,18 @@ void TestInspectionGoTo::productRow()
     QVERIFY(editor.products().item(2)->isSelected());
     QCOMPARE(editor.productDetail("txtName").text(), u"Hot"_s);
     QVERIFY(ui::get<QPushButton>(*editor, "btnEditProduct").isEnabled());
+}
+
+void TestInspectionGoTo::rowThatIsHidden()
+{
+    OpenBins editor(menuToLookAt());
+    ui::type(*editor, "txtFindProducts", u"half"_s);
+    QVERIFY(editor.products().isRowHidden(2));
+    inspect::goTo(*editor, Product);
+    QVERIFY(!editor.products().isRowHidden(2));
+    QVERIFY(editor.products().item(2)->isSelected());
+    QCOMPARE(editor.productDetail("txtName").text(), u"Hot"_s);
+    QCOMPARE(ui::get<QLineEdit>(*editor, "txtFindProducts").text(), QString());
 }
 
 void TestInspectionGoTo::groupRow()
