@@ -192,8 +192,8 @@ void TestOwners::ofATimerBarMenu()
     clickEach(program, escaped, {"btnCopyDaypart", "btnBinPlan", "btnDaypartSelect0_0"});
     QStringList expected{u"TimerBarConfig, Configuration"_s};
     expected += QStringList(3, u"TimerBarProductEdit, Product Edit"_s) +
-                QStringList{u"QMessageBox, Delete"_s, u"CopyBins, Copy Bins"_s,
-                            u"QFileDialog, Bin Plan"_s, u"TimerBarDaypartAssignItem, Assign Product"_s};
+                QStringList{u"QMessageBox, Delete"_s, u"CopyBins, Copy Bins"_s, u"QFileDialog, Bin Plan"_s,
+                            u"TimerBarDaypartAssignItem, Assign Product"_s};
     for (QString &dialog : expected)
         dialog += u", of TimerBarMenuFile"_s;
     QCOMPARE(escaped.shown(), expected);
