@@ -65,10 +65,12 @@ bool ListKeys::takeKey(const QKeyEvent &press)
     if (takeHiddenEnd(press.key()))
         return true;
     const bool plain = !(press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
-    if (!plain || m_list->selectionMode() != QAbstractItemView::SingleSelection)
+    if (m_list->selectionMode() != QAbstractItemView::SingleSelection)
         return false;
     if (press.key() == Qt::Key_Space)
-        return takeSpace();
+        return plain ? takeSpace() : toggleCurrent();
+    if (!plain)
+        return false;
     return takeArrow(press.key()) || takeText(press);
 }
 
@@ -117,6 +119,17 @@ bool ListKeys::takeSpace()
         return false; // it changes the check mark, and the view then looks for nothing
     if (item && isSelectable(m_list, m_list->currentRow()))
         goTo(m_list->currentRow());
+    return true;
+}
+
+// The view would then go on to the next row that begins with a blank, which may be a hidden one.
+bool ListKeys::toggleCurrent()
+{
+    const int row = m_list->currentRow();
+    if (row < 0 || !isSelectable(m_list, row))
+        return true;
+    const bool selected = m_list->item(row)->isSelected();
+    m_list->setCurrentRow(row, selected ? QItemSelectionModel::Clear : QItemSelectionModel::ClearAndSelect);
     return true;
 }
 

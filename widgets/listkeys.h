@@ -33,6 +33,7 @@ private:
     [[nodiscard]] bool takeHiddenEnd(int key);
     [[nodiscard]] bool takeArrow(int key);
     [[nodiscard]] bool takeSpace();
+    [[nodiscard]] bool toggleCurrent();
     [[nodiscard]] bool takeText(const QKeyEvent &press);
     [[nodiscard]] bool isTyping() const;
     void search(bool onward);

@@ -210,8 +210,10 @@ void TestDaypartGrid::nothingMovesTheBins()
 {
     QFETCH(QString, model);
     QFETCH(QList<int>, row);
-    OpenBins empty(bins::menuOf(model, {}));
-    OpenBins filled(bins::menuOf(model, row));
+    // A bin of a product that is missing, so that both have the line about things to look at.
+    const QList<int> evening{99};
+    OpenBins empty(bins::menuOf(model, {}, evening));
+    OpenBins filled(bins::menuOf(model, row, evening));
     for (const char *name : {"frameFirstZone", "frameSecondZone"})
         QCOMPARE(filled.widget(name).geometry(), empty.widget(name).geometry());
     for (int slot = 0; slot < row.size(); ++slot) {

@@ -70,6 +70,7 @@ void TestInspectionGoTo::productRow()
 void TestInspectionGoTo::rowThatIsHidden()
 {
     OpenBins editor(menuToLookAt());
+    editor.showTab(0);
     ui::type(*editor, "txtFindProducts", u"half"_s);
     QVERIFY(editor.products().isRowHidden(2));
     inspect::goTo(*editor, Product);

@@ -58,6 +58,7 @@ private slots:
     void arrowSelectsTheFirstRow();
     void arrowSelectsTheRowWithTheFocus();
     void arrowsPassUnfittingRows();
+    void spaceWithControlStays();
     void spaceNeverMoves();
     void spaceChangesACheckMark();
     void typingFindsARow_data();
@@ -259,6 +260,19 @@ void TestListKeys::emptyListTakesEverything()
     for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_Space, Qt::Key_A})
         pane.press(key);
     QCOMPARE(pane.selected(), -1);
+}
+
+// It takes the selection off and gives it back, and goes nowhere.
+void TestListKeys::spaceWithControlStays()
+{
+    Pane pane(names);
+    pane.list.setRowHidden(3, true);
+    pane.list.setCurrentRow(2);
+    for (const int selected : {-1, 2}) {
+        QTest::keyClick(&pane.list, Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(pane.selected(), selected);
+        QCOMPARE(pane.list.currentRow(), 2);
+    }
 }
 
 QTEST_MAIN(TestListKeys)

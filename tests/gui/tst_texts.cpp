@@ -121,8 +121,11 @@ const QStringList productTexts{u"Id"_s,
                                u"SampleText"_s,
                                u"Cancel"_s,
                                u"Save"_s};
+const QString onlyFits = u"Only what fits"_s;
+
 const QStringList groupTexts{u"Name"_s,
                              u"All Products"_s,
+                             onlyFits,
                              u"Group Products (Check default product)"_s,
                              u"Upper Temperature:"_s,
                              u"Lower Temperature:"_s,
@@ -145,7 +148,7 @@ QMap<QString, QStringList> expectedTexts()
         {u"TimerColorPicker"_s, {}},
         {u"GroupEdit"_s, groupTexts},
         {u"DaypartEdit"_s, {u"Name"_s, u"Cancel"_s, u"Save"_s}},
-        {u"AssignDaypartItem"_s, detailLabels + select},
+        {u"AssignDaypartItem"_s, QStringList{onlyFits} + detailLabels + select},
         {u"CopyBins"_s, {u"Take over the bins of"_s, u"Cancel"_s, u"Copy"_s}},
         {u"MenuInspection"_s, {u"Close"_s, u"Go To"_s}},
         {u"MenuFile"_s, editorTexts(u"Cabinet: QHX KTR34, °F"_s)},
@@ -155,7 +158,7 @@ QMap<QString, QStringList> expectedTexts()
         {u"TimerBarProductEdit"_s,
          {u"Product Name"_s, u"Short Name"_s, u"Upper Temperature (°C)"_s, u"Lower Temperature (°C)"_s,
           u"Hold Time"_s, u"Cook More Alert Time"_s, u"Cancel"_s, u"Save"_s}},
-        {u"TimerBarDaypartAssignItem"_s, timerBarDetails(u"Shor"_s) + select},
+        {u"TimerBarDaypartAssignItem"_s, QStringList{onlyFits} + timerBarDetails(u"Shor"_s) + select},
         {u"TimerBarMenuFile"_s, timerBarEditorTexts(u"Cabinet: Timer Bar KTR34, °C"_s)},
     };
 }

@@ -102,8 +102,9 @@ QString writeBeside(const MenuFile &editor, const QString &suffix, const QByteAr
 // It has to be saved under another name, and says so.
 std::unique_ptr<QWidget> makeOldMenuEditor(MenuFile &editor)
 {
-    const QByteArray contents = qhx::sample().bytes();
-    return std::make_unique<MenuFile>(writeBeside(editor, u" of last summer.qhx"_s, contents));
+    qhx::File file;
+    file.entries = {qhx::Entry{}};
+    return std::make_unique<MenuFile>(writeBeside(editor, u" of last summer.qhx"_s, file.bytes()));
 }
 
 // A bin without its product, and a product and a group that their dialogs would not take.
