@@ -191,7 +191,7 @@ QString Sentences::ofGroup(const Finding &finding, const ProductInfo &group) con
 
 QString Sentences::ofUnfitMembers(const Finding &finding, const ProductInfo &group) const
 {
-    const ProductInfo *first = findEntry(m_entries, group.get_productList()[finding.number]);
+    const ProductInfo *first = findEntry(m_entries, group.get_productList().at(finding.number));
     const GroupDraft draft(group, m_configuration);
     const QString reason = groupMisfitText(*first, draft.settings(), m_configuration);
     return finding.count == 1 ? Text::tr("%1 does not suit it. %2").arg(nameOf(*first), reason)

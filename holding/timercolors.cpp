@@ -116,7 +116,7 @@ QString shadeName(const TimerColor &entry)
 
 QString colorWords(const TimerColor &entry)
 {
-    const QString shade = shadeName(entry);
+    QString shade = shadeName(entry);
     if (entry.isNone() || shade == entry.colorName)
         return shade;
     return Text::tr("%1, %2").arg(shade, entry.colorName);

@@ -95,7 +95,7 @@ QString ofBin(const MenuPlace &place, const Menu &menu)
 {
     const ProductInfo &product = *productIn(menu, place.index, place.bin);
     return Text::tr("%1, Row %2, Bin %3: %4. %5")
-        .arg(daypartNames()[place.index], QString::number(place.bin.row + 1),
+        .arg(daypartNames().at(place.index), QString::number(place.bin.row + 1),
              QString::number(place.bin.slot + 1), shownName(product.get_productName()),
              misfitText(product, neighbourTemperatures(menu, place.index, place.bin), menu.temperatureUnit));
 }

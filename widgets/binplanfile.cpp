@@ -99,7 +99,7 @@ public:
     {
         constexpr std::array shares{1.0, 0.9, 0.8, 0.7, 0.6};
         for (const qreal share : shares) {
-            const SetText attempt = trySize(share * m_text.size);
+            SetText attempt = trySize(share * m_text.size);
             if (!attempt.lines.isEmpty())
                 return attempt;
         }
@@ -155,7 +155,7 @@ void paintText(QPainter &painter, const binplan::Text &text)
     const QRectF place = inDots(text.place);
     const qreal height = static_cast<qreal>(set.lines.size()) * set.step;
     constexpr int lineFlags = Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip;
-    const int flags = lineFlags | (text.alignment | Qt::AlignAbsolute).toInt();
+    const int flags = lineFlags | static_cast<int>((text.alignment | Qt::AlignAbsolute).toInt());
     painter.setPen(Qt::black);
     painter.setFont(set.font);
     QRectF line(place.left(), place.center().y() - height / 2, place.width(), set.step);
