@@ -41,6 +41,7 @@ bool isPlain(const QKeyEvent &press)
 FindRows::FindRows(QListWidget *list, const QString &name, QAbstractButton *pick)
     : QObject(list)
     , m_list(list)
+    , m_viewport(list->viewport())
     , m_pick(pick)
     , m_field(makeField(name))
 {
@@ -124,10 +125,10 @@ bool FindRows::eventFilter(QObject *watched, QEvent *event)
         const bool taken = watched == m_field ? takeFieldKey(press) : takeEscape(press);
         return taken || QObject::eventFilter(watched, event);
     }
-    QWidget *viewport = m_list->viewport();
-    if (event->type() == QEvent::Paint && watched == viewport && m_firstRow < 0 && m_list->count() > 0) {
-        QPainter painter(viewport);
-        paintEmptyHint(painter, *viewport, viewport->rect(), nothingFoundText());
+    // While the list is destroyed events still come, and it is no list any more.
+    if (event->type() == QEvent::Paint && watched == m_viewport && m_firstRow < 0 && m_list->count() > 0) {
+        QPainter painter(m_viewport);
+        paintEmptyHint(painter, *m_viewport, m_viewport->rect(), nothingFoundText());
     } else if (event->type() == QEvent::FocusIn && watched == m_field) {
         tellFound(); // another row may be selected now
         if (m_goesOn && static_cast<QFocusEvent *>(event)->reason() == Qt::TabFocusReason)

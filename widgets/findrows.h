@@ -75,6 +75,7 @@ private:
     [[nodiscard]] QString nothingFoundText() const;
 
     QListWidget *m_list;
+    QWidget *m_viewport; ///< of the list
     QAbstractButton *m_pick;
     QLineEdit *m_field;
     QCheckBox *m_onlyFits = nullptr; ///< null where nothing is picked
