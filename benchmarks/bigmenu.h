@@ -16,7 +16,8 @@ inline QStringList translatedNames(const QString &name)
 }
 
 /// A menu as large as the editors let one become: 90 products and 10 groups, 10 day parts, every bin taken.
-/// Every second product has its own name in each language, as an imported menu may.
+/// Every second product has its own name in each language, as an imported menu may. All entries fit where they
+/// stand: two neighbours of a zone, and the members of a group, have the same temperatures.
 inline holding::Menu bigMenu()
 {
     constexpr int productCount = 90;
@@ -30,7 +31,7 @@ inline holding::Menu bigMenu()
         product->set_productName(id % 2 == 0 ? translatedNames(name) : sameNameInAllLanguages(name));
         product->set_holdTime(600 + 60 * id);
         product->set_fanSpeed(60);
-        product->set_upperTemp(150 + id / groupSize);
+        product->set_upperTemp(150 + (id - 1) / (2 * groupSize));
         product->set_timerColor(QStringLiteral("#ffff00"));
         menu.products.push_back(std::move(product));
     }

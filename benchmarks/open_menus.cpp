@@ -30,6 +30,7 @@
 #include "benchmarks/measured.h"
 #include "benchmarks/memory.h"
 #include "benchmarks/painted.h"
+#include "holding/inconsistencies.h"
 #include "holding/menujson.h"
 #include "model/files.h"
 
@@ -95,7 +96,12 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("menu.json"));
-    if (!writeFile(path, holding::writeMenu(bigMenu()))) {
+    const holding::Menu menu = bigMenu();
+    if (holding::inconsistencies(menu).count() != 0) {
+        std::fprintf(stderr, "open_menus: the line for things to look at would be measured too\n");
+        return EXIT_FAILURE;
+    }
+    if (!writeFile(path, holding::writeMenu(menu))) {
         std::fprintf(stderr, "open_menus: the large menu cannot be written\n");
         return EXIT_FAILURE;
     }

@@ -31,6 +31,7 @@ namespace {
 constexpr int rows = 5; // of a KTR54
 constexpr int binsPerRow = 4;
 constexpr int switches = 101;
+constexpr auto lastBin = "btnDaypartSelect4_3"_L1;
 
 QString nameInBin(const holding::Menu &menu, int daypart, int row, int slot)
 {
@@ -53,6 +54,7 @@ std::unique_ptr<QWidget> makePlainWindow(const holding::Menu &menu)
         buttons.append(new QPushButton(nameInBin(menu, 0, place / binsPerRow, place % binsPerRow)));
         layout->addWidget(buttons.constLast(), 1 + place / binsPerRow, place % binsPerRow);
     }
+    buttons.constLast()->setObjectName(lastBin);
     QObject::connect(selector, &QComboBox::currentIndexChanged, window.get(), [&menu, buttons](int index) {
         for (int place = 0; place < rows * binsPerRow; ++place)
             buttons[place]->setText(nameInBin(menu, index, place / binsPerRow, place % binsPerRow));
@@ -65,15 +67,6 @@ std::unique_ptr<QWidget> openEditor(const QString &path)
     auto editor = std::make_unique<MenuFile>(path);
     editor->findChild<QTabWidget *>(u"tabWidget"_s)->setCurrentIndex(2);
     return editor;
-}
-
-QPushButton *lastShownButton(const QWidget &window)
-{
-    QPushButton *last = nullptr;
-    const QList<QPushButton *> buttons = window.findChildren<QPushButton *>();
-    for (QPushButton *button : buttons)
-        last = button->isVisible() && !button->text().isEmpty() ? button : last;
-    return last;
 }
 
 } // namespace
@@ -93,7 +86,7 @@ int main(int argc, char *argv[])
     PaintWatch watch;
     window->show();
     watch.waitUntilPainted(window.get());
-    const QPushButton *last = lastShownButton(*window);
+    const auto *last = window->findChild<QPushButton *>(lastBin);
     auto *selector = window->findChild<QComboBox *>(u"comboDaypartSelect"_s);
     std::vector<double> times;
     for (int i = 0; i < switches; ++i) {
