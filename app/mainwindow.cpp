@@ -43,6 +43,16 @@ QStringList menuFilesIn(const QMimeData &data)
     return paths;
 }
 
+// Never as a move, with which the other program takes its file away. Whether it was taken.
+bool takeCopies(QDropEvent &event)
+{
+    const bool taken = !QApplication::activeModalWidget() && (event.possibleActions() & Qt::CopyAction);
+    if (taken)
+        event.setDropAction(Qt::CopyAction);
+    event.setAccepted(taken);
+    return taken;
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
@@ -164,18 +174,14 @@ void MainWindow::on_actionOpen_triggered()
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (QApplication::activeModalWidget() || menuFilesIn(*event->mimeData()).isEmpty())
-        return;
-    event->setDropAction(Qt::CopyAction); // a move would take the file away from where it is
-    event->accept();
+    if (!menuFilesIn(*event->mimeData()).isEmpty())
+        takeCopies(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
-    if (QApplication::activeModalWidget())
+    if (!takeCopies(*event))
         return;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
     // Later, as the other program waits until the drop has been taken, and a file may bring up a message.
     QMetaObject::invokeMethod(
         this,
