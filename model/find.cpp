@@ -11,12 +11,15 @@ namespace {
 
 constexpr qsizetype longestSearched = 500; // in characters
 
+// What nobody types: accents, and what pasted names have unseen, such as soft hyphens and direction marks.
 // The voiced sound marks of kana make other letters of them and are no accents.
-bool isAccent(QChar character)
+bool isPassedOver(QChar character)
 {
-    const bool voices = character == u'\u3099' || character == u'\u309A';
-    return !voices &&
-           (character.category() == QChar::Mark_NonSpacing || character.category() == QChar::Mark_Enclosing);
+    if (character == u'\u3099' || character == u'\u309A')
+        return false;
+    const QChar::Category category = character.category();
+    return category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing ||
+           category == QChar::Other_Format;
 }
 
 // Letters of the menu languages that Qt leaves as they are.
@@ -36,7 +39,7 @@ void replaceLigaturesAndStrokes(QString &text)
 QString folded(QStringView text)
 {
     QString plain = text.toString().normalized(QString::NormalizationForm_KD);
-    plain.removeIf(isAccent);
+    plain.removeIf(isPassedOver);
     plain = plain.toCaseFolded();
     replaceLigaturesAndStrokes(plain);
     return plain;

@@ -87,6 +87,10 @@ void TestFind::matches_data()
     add("Chinese, another word", u"鱼"_s, u"炸鸡块"_s, false);
     add("Japanese, half-width", u"ハム"_s, u"\uFF8A\uFF91"_s, true);
     add("Japanese, voiced is another letter", u"バ"_s, u"ハム"_s, false);
+    add("soft hyphen", u"bacon"_s, u"Ba\u00ADcon"_s, true);
+    add("space of no width", u"bacon"_s, u"Ba\u200Bcon"_s, true);
+    add("direction mark", u"bacon"_s, u"Ba\u200Econ"_s, true);
+    add("byte order mark typed", u"\uFEFFbacon"_s, u"Bacon"_s, true);
     add("emoji", u"🍔"_s, u"Burger 🍔"_s, true);
     add("another emoji", u"🍟"_s, u"Burger 🍔"_s, false);
     add("like a pattern", u".*"_s, u"Bacon"_s, false);
