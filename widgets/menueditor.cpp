@@ -219,8 +219,21 @@ namespace {
 // The menu's own name, of another kind.
 QString planNameOf(const QString &menuPath)
 {
-    const QString name = QFileInfo(menuPath).completeBaseName();
-    return (name.isEmpty() ? MenuEditor::tr("Bin Plan") : name) + u".pdf"_s;
+    const QFileInfo menu(menuPath);
+    const QString name = menu.completeBaseName() + u".pdf"_s;
+    const bool isFree = !menu.completeBaseName().isEmpty() && name != menu.fileName();
+    return isFree ? name : MenuEditor::tr("Bin Plan") + u".pdf"_s;
+}
+
+// A file that is there and may be a menu, whatever was answered to whether it is replaced: its editor would
+// go on to say that the menu is saved.
+bool mayBeAMenu(const QString &path, const QString &menuPath)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return false;
+    const bool isPlan = file.suffix().compare("pdf"_L1, Qt::CaseInsensitive) == 0;
+    return !isPlan || file.canonicalFilePath() == QFileInfo(menuPath).canonicalFilePath();
 }
 
 } // namespace
@@ -239,7 +252,9 @@ void MenuEditor::writeBinPlan(const binplan::Cabinet &cabinet, const QString &wh
     if (dialog.exec() != Accepted)
         return;
     const QString path = dialog.selectedFiles().constFirst();
-    if (writeFile(path, pdfOf(layOut(cabinet, binplan::usualPaper(QLocale())))))
+    if (mayBeAMenu(path, m_filePath))
+        messages::refusal(this, tr("A bin plan cannot replace %1").arg(lastPathPart(path)));
+    else if (writeFile(path, pdfOf(layOut(cabinet, binplan::usualPaper(QLocale())))))
         emit told(tr("Saved %1").arg(path));
     else
         messages::fileFault(tr("Failed to create/open the file:") + path);

@@ -3,6 +3,10 @@
 
 #pragma once
 
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
 
 #include "tests/support/cbrbuilder.h"
@@ -73,6 +77,17 @@ inline void fillFirstBin(Program &program)
 inline void expectPlan(Program &program, const QString &path, const QString &proposed = {})
 {
     program.answers().expectFileDialog(u"Bin Plan"_s, u"PDF Files (*.pdf)"_s, path, proposed);
+}
+
+/// Expects the dialog, chooses a file in the folder that is there, and says Yes to its question.
+inline void expectReplacing(Program &program, const QString &name)
+{
+    program.answers().expect<QFileDialog>([&program, name](QFileDialog &dialog) {
+        program.answers().expect<QMessageBox>(
+            [](QMessageBox &box) { ui::click(*box.button(QMessageBox::Yes)); });
+        dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(program.path(name));
+        ui::click(*dialog.findChild<QDialogButtonBox *>(u"buttonBox"_s)->button(QDialogButtonBox::Save));
+    });
 }
 
 inline void clickPlan(Program &program)

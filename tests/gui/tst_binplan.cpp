@@ -30,6 +30,9 @@ private slots:
     void suffixIsAdded_data();
     void suffixIsAdded();
     void replacingIsAskedFor();
+    void menusAreNotReplaced_data();
+    void menusAreNotReplaced();
+    void menuNamedLikeAPlanIsKept();
     void cancelWritesNothing_data() { planned::addLineRows(); }
     void cancelWritesNothing();
     void nothingToDrawIsTold_data() { planned::addLineRows(); }
@@ -126,6 +129,48 @@ void TestBinPlan::replacingIsAskedFor()
     planned::clickPlan(program);
     QVERIFY(program.answers().allAnswered());
     QVERIFY(program.content(u"plan.pdf"_s).startsWith("%PDF-"));
+}
+
+void TestBinPlan::menusAreNotReplaced_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("its own") << u"menu.json"_s;
+    QTest::newRow("another one") << u"other.cbr"_s;
+}
+
+// Though somebody says Yes to whether the file is replaced.
+void TestBinPlan::menusAreNotReplaced()
+{
+    QFETCH(const QString, name);
+    Program program;
+    planned::open(program, Line::Holding);
+    program.folder().make(u"other.cbr"_s, planned::timerBarMenu(true));
+    const QByteArray before = program.content(name);
+    planned::expectReplacing(program, name);
+    program.answers().expectBox(ModalAnswers::refusal(u"A bin plan cannot replace "_s + name),
+                                QMessageBox::Close);
+    planned::clickPlan(program);
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.content(name), before);
+    QCOMPARE(stateOf(program), u"Saved"_s);
+}
+
+void TestBinPlan::menuNamedLikeAPlanIsKept()
+{
+    Program program;
+    program.newMenu(Line::TimerBar);
+    planned::fillFirstBin(program);
+    program.expectSaveDialog(Line::TimerBar, Asking::SaveAs, program.path(u"menu.pdf"_s));
+    program.saveAs();
+    const QByteArray before = program.content(u"menu.pdf"_s);
+    planned::expectPlan(program, program.path(u"plan.pdf"_s), u"Bin Plan.pdf"_s);
+    planned::clickPlan(program);
+    planned::expectReplacing(program, u"menu.pdf"_s);
+    program.answers().expectBox(ModalAnswers::refusal(u"A bin plan cannot replace menu.pdf"_s),
+                                QMessageBox::Close);
+    planned::clickPlan(program);
+    QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.content(u"menu.pdf"_s), before);
 }
 
 void TestBinPlan::cancelWritesNothing()
