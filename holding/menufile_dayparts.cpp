@@ -70,40 +70,34 @@ constexpr bool hasItsButtons(const holding::CabinetModel &model)
 static_assert(std::all_of(holding::allModels.begin(), holding::allModels.end(), hasItsButtons),
               "a model has a bin without a button, or with two, in holding/binbuttons.h");
 
-QString settingsText(const QString &title, const ProductInfo &entry,
+QString settingsText(const QString &title, const ProductInfo &entry, const QString &holdTime,
                      const holding::CabinetConfiguration &configuration)
 {
     return MenuFile::tr("%1\nTemperature: %2\nHolding Time: %3")
-        .arg(title, holding::temperaturesText(entry, configuration), timeText(entry.get_holdTime()));
+        .arg(title, holding::temperaturesText(entry, configuration), holdTime);
 }
 
 // What is painted in a bin below the name.
-QString binDetails(const ProductInfo *entry, const holding::CabinetConfiguration &configuration)
+QString binDetails(const ProductInfo *entry, const QString &holdTime,
+                   const holding::CabinetConfiguration &configuration)
 {
-    if (!entry)
-        return {};
-    return holding::shortTemperaturesText(*entry, configuration) + u"  "_s + timeText(entry->get_holdTime());
+    return entry ? holding::shortTemperaturesText(*entry, configuration) + u"  "_s + holdTime : QString();
 }
 
-QString binToolTip(const holding::BinLabel &label, const ProductInfo *entry,
+QString binToolTip(const holding::BinLabel &label, const ProductInfo *entry, const QString &holdTime,
                    const holding::CabinetConfiguration &configuration)
 {
     QString title = beginningOf(label.name);
     if (!label.remark.isEmpty())
         title = MenuFile::tr("%1: %2").arg(title, label.remark);
-    return entry ? settingsText(title, *entry, configuration) : title;
+    return entry ? settingsText(title, *entry, holdTime, configuration) : title;
 }
 
 } // namespace
 
 void MenuFile::prepareGrid()
 {
-    // Styling the grid takes a sixth of the time and a third of the memory of opening a menu, and many menus
-    // are opened without a look at it.
-    connect(m_ui->tabWidget, &QTabWidget::currentChanged, m_ui->frameGrid, [this] {
-        if (m_ui->tabWidget->currentWidget() == m_ui->tabDayparts && m_ui->frameGrid->styleSheet().isEmpty())
-            m_ui->frameGrid->setStyleSheet(binButtonStyle());
-    });
+    styleWhenShown(m_ui->frameGrid, m_ui->tabDayparts, m_ui->tabWidget);
     showRemovalMode(false);
     connect(m_ui->btnDuplicateDaypart, &QPushButton::clicked, this, &MenuFile::duplicateDaypart);
     connect(m_ui->btnBinPlan, &QPushButton::clicked, this, &MenuFile::saveBinPlan);
@@ -181,10 +175,12 @@ void MenuFile::showRow(const holding::Daypart &daypart, int row)
         if (!button)
             continue;
         button->setMinimumWidth(looks[slot].minimumWidth);
+        const ProductInfo *entry = content[slot].entry;
+        const QString holdTime = entry ? timeText(entry->get_holdTime()) : QString(); // dear to make
         const holding::BinLabel label = holding::binLabel(content[slot], daypart.bins[bin]);
         m_grid.showContent(bin, label.name, label.remark);
-        button->setDetails(binDetails(content[slot].entry, m_menu.configuration));
-        button->setToolTip(asPlainText(binToolTip(label, content[slot].entry, m_menu.configuration)));
+        button->setDetails(binDetails(entry, holdTime, m_menu.configuration));
+        button->setToolTip(asPlainText(binToolTip(label, entry, holdTime, m_menu.configuration)));
         button->setVisible(looks[slot].visible);
     }
 }

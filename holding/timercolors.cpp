@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include <QCoreApplication>
+#include <QHash>
 
 using namespace Qt::StringLiterals;
 
@@ -122,12 +123,16 @@ QString colorWords(const TimerColor &entry)
     return Text::tr("%1, %2").arg(shade, entry.colorName);
 }
 
+// Every product of a menu that is opened asks for its own.
 const TimerColor &timerColorByName(const QString &colorName)
 {
-    const TimerPalette &palette = timerPalette();
-    const auto *found = std::find_if(palette.begin(), palette.end(),
-                                     [&](const TimerColor &entry) { return entry.colorName == colorName; });
-    return found == palette.end() ? palette.front() : *found;
+    static const QHash<QString, const TimerColor *> byName = [] {
+        QHash<QString, const TimerColor *> all;
+        for (const TimerColor &entry : timerPalette())
+            all.insert(entry.colorName, &entry);
+        return all;
+    }();
+    return *byName.value(colorName, &timerPalette().front());
 }
 
 } // namespace holding

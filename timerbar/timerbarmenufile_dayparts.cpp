@@ -80,7 +80,7 @@ QString detailsOf(const ProductInfo *product, int unit)
 
 void TimerBarMenuFile::prepareGrid()
 {
-    m_ui->frameGrid->setStyleSheet(binButtonStyle());
+    styleWhenShown(m_ui->frameGrid, m_ui->tabDayparts, m_ui->tabWidget);
     keepRoomWhenHidden(m_ui->btnDaypartRemove);
     keepRoomWhenHidden(m_ui->btnCancelDaypartRemove);
     showRemovalMode(false);

@@ -5,6 +5,7 @@
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QTabWidget>
 #include <QTextLayout>
 
 #include "widgets/longtext.h"
@@ -189,6 +190,8 @@ void BinButton::paintTexts(QPainter &painter) const
                      fits ? m_details : smallMetrics.elidedText(m_details, Qt::ElideRight, lineWidth));
 }
 
+namespace {
+
 QString binButtonStyle()
 {
     // The texts are black in every palette, as the greys are the same in every palette.
@@ -200,4 +203,16 @@ QString binButtonStyle()
            "QPushButton:pressed { background-color: DarkGrey; }"
            "QPushButton:checked { background-color: DarkGrey; border: 2px outset black; }"
            "QPushButton:hover:!pressed:!checked { background-color: Silver; }"_s;
+}
+
+} // namespace
+
+// It takes a sixth of the time and a third of the memory of opening a menu, and many menus are opened without
+// a look at their bins.
+void styleWhenShown(QWidget *frame, QWidget *page, QTabWidget *tabs)
+{
+    QObject::connect(tabs, &QTabWidget::currentChanged, frame, [=] {
+        if (tabs->currentWidget() == page && frame->styleSheet().isEmpty())
+            frame->setStyleSheet(binButtonStyle());
+    });
 }

@@ -7,6 +7,8 @@
 
 #include <QPushButton>
 
+class QTabWidget;
+
 /// What a bin is written in. To look fonts up costs as much as to paint a text in them.
 struct BinFonts
 {
@@ -48,7 +50,6 @@ private:
     mutable std::optional<BinFonts> m_fonts; ///< of the current font, once they were asked for
 };
 
-/// The style sheet of a frame of bin buttons: a dark panel with grey bins, darker while pressed or checked,
-/// and white captions. For a frame that holds nothing else: on a whole editor it would double the cost of
-/// opening it.
-[[nodiscard]] QString binButtonStyle();
+/// Gives a frame of bin buttons on a page of the tabs its style sheet when the page is first shown: a dark
+/// panel with grey bins, darker while pressed or checked, and white captions. The frame holds nothing else.
+void styleWhenShown(QWidget *frame, QWidget *page, QTabWidget *tabs);

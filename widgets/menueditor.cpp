@@ -284,7 +284,8 @@ void MenuEditor::fitContent()
         m_designedSize = size();
     const QSize before = size();
     QSize needed = layout()->sizeHint();
-    if (layout()->hasHeightForWidth()) // the hint is for a width at which texts take more lines
+    // The hint is for a width at which texts may take more lines.
+    if (needed.height() > m_designedSize.height() && layout()->hasHeightForWidth())
         needed.setHeight(layout()->totalHeightForWidth(qMax(needed.width(), m_designedSize.width())));
     setFixedSize(m_designedSize.expandedTo(needed));
     if (auto *subWindow = qobject_cast<QMdiSubWindow *>(parentWidget()))

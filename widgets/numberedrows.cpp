@@ -59,44 +59,66 @@ qreal pointSizeOf(const QFont &font)
     return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
 }
 
-/// A row that is described when somebody asks.
+/// A row whose name, which its tool tip tells, may be of any length. It is described when somebody asks.
 class Row : public QListWidgetItem
 {
 public:
-    using QListWidgetItem::QListWidgetItem;
+    Row(int number, const QString &name)
+        : QListWidgetItem(numberedrows::text(number, name))
+        , m_name(name)
+    {}
 
+    // What all rows have alike, and what is rarely asked for, is not stored: menus have many rows.
     [[nodiscard]] QVariant data(int role) const override
     {
-        return role == Qt::AccessibleDescriptionRole ? description() : QListWidgetItem::data(role);
+        switch (role) {
+        case Qt::SizeHintRole:
+            return rowSize;
+        case Qt::ToolTipRole:
+            return toolTipText();
+        case Qt::AccessibleDescriptionRole:
+            return description();
+        default:
+            return QListWidgetItem::data(role);
+        }
     }
 
 protected:
+    [[nodiscard]] virtual QString toolTipText() const { return asPlainText(beginningOf(m_name)); }
+
     [[nodiscard]] virtual QString description() const
     {
         const QListWidget *list = listWidget();
-        const auto *painter = list ? dynamic_cast<const RowPainter *>(list->itemDelegate()) : nullptr;
+        const auto *painter =
+            list ? dynamic_cast<const RowPainter *>(list->itemDelegateForColumn(0)) : nullptr;
         return painter && painter->description ? painter->description(list->row(this)) : QString();
     }
+
+private:
+    QString m_name;
 };
 
-/// Makes its tool tip when it is asked for, too.
 class PickRow final : public Row
 {
 public:
-    PickRow(const QString &text, const Pick &pick)
-        : Row(text)
+    PickRow(int number, const Pick &pick)
+        : Row(number, pick.name)
         , m_title(pick.title)
         , m_misfit(pick.fits ? nullptr : pick.misfit)
     {}
 
     [[nodiscard]] QVariant data(int role) const override
     {
-        if (role == titleRole)
-            return m_title;
-        return role == Qt::ToolTipRole ? toolTipText() : Row::data(role);
+        return role == titleRole ? m_title : Row::data(role);
     }
 
 protected:
+    [[nodiscard]] QString toolTipText() const override
+    {
+        const QString title = beginningOf(m_title);
+        return asPlainText(m_misfit ? Text::tr("%1\n%2").arg(title, m_misfit()) : title);
+    }
+
     [[nodiscard]] QString description() const override
     {
         QString settings = Row::description();
@@ -106,20 +128,14 @@ protected:
     }
 
 private:
-    [[nodiscard]] QString toolTipText() const
-    {
-        const QString title = beginningOf(m_title);
-        return asPlainText(m_misfit ? Text::tr("%1\n%2").arg(title, m_misfit()) : title);
-    }
-
     QString m_title;
     std::function<QString()> m_misfit; ///< none where it fits
 };
 
 void prepare(QListWidget *list)
 {
-    list->setItemDelegate(new RowPainter(list));
-    list->setIconSize({0, 0}); // an id under the decoration role takes no room
+    list->setItemDelegateForColumn(0, new RowPainter(list)); // costs less than to replace the list's own
+    list->setIconSize({0, 0});                               // an id under the decoration role takes no room
     list->setDragDropMode(QAbstractItemView::NoDragDrop);
     list->setDragEnabled(false);
     list->setUniformItemSizes(true);
@@ -172,7 +188,7 @@ void preparePlainList(QListWidget *list)
 
 void describe(QListWidget *list, const std::function<QString(int row)> &description)
 {
-    if (auto *painter = dynamic_cast<RowPainter *>(list->itemDelegate()))
+    if (auto *painter = dynamic_cast<RowPainter *>(list->itemDelegateForColumn(0)))
         painter->description = description;
 }
 
@@ -199,9 +215,7 @@ QListWidgetItem *append(QListWidget *list, const QString &name)
 
 QListWidgetItem *append(QListWidget *list, int number, const QString &name)
 {
-    auto *item = new Row(text(number, name));
-    item->setSizeHint(rowSize);
-    item->setToolTip(asPlainText(beginningOf(name)));
+    auto *item = new Row(number, name);
     list->addItem(item);
     return item;
 }
@@ -209,8 +223,7 @@ QListWidgetItem *append(QListWidget *list, int number, const QString &name)
 QListWidgetItem *appendToPick(QListWidget *list, const Pick &pick)
 {
     const int row = list->count();
-    auto *item = new PickRow(text(row + 1, pick.name), pick);
-    item->setSizeHint(rowSize);
+    auto *item = new PickRow(row + 1, pick);
     list->addItem(item);
     if (pick.fits)
         colourFitting(item, row);
