@@ -18,6 +18,7 @@ private slots:
     void init() { failOnWarnings(); }
     void hiddenRowIsNotCurrentUntilItIsShown();
     void otherChoiceStaysWhenAllAreShown();
+    void hiddenRowStaysLeftWhileWordsAreTyped();
     void refillForgetsTheHiddenRow();
     void hiddenPickIsSelectedAgain();
     void currentRowStaysInSight();
@@ -49,6 +50,17 @@ void TestFindRowsCurrent::otherChoiceStaysWhenAllAreShown()
     ui::clickRow(pane.list, 0);
     pane.type({});
     QCOMPARE(shownNames(pane.list), u"Bacon* Beef Crêpe Ham Hash"_s);
+}
+
+void TestFindRowsCurrent::hiddenRowStaysLeftWhileWordsAreTyped()
+{
+    Pane pane(false);
+    ui::clickRow(pane.list, 3);
+    pane.type(u"has"_s);
+    pane.press(Qt::Key_Backspace);
+    QCOMPARE(shownNames(pane.list), u"Ham Hash"_s);
+    pane.press(Qt::Key_Escape);
+    QCOMPARE(shownNames(pane.list), u"Bacon Beef Crêpe Ham* Hash"_s);
 }
 
 // The row may be another one's.
