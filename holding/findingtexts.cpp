@@ -8,7 +8,6 @@
 #include "holding/inconsistencies.h"
 #include "holding/misfits.h"
 #include "holding/productrules.h"
-#include "model/shortened.h"
 #include "model/timelimits.h"
 #include "model/times.h"
 
@@ -25,12 +24,17 @@ struct Text
 
 using Part = MenuPlace::Part;
 
-constexpr qsizetype longestName = 40; // in characters
+constexpr qsizetype longestName = 40; // in characters; a file may hold any
+
+QString shortened(const QString &text)
+{
+    return text.size() <= longestName ? text : text.first(longestName) + u'\u2026';
+}
 
 QString nameOf(const ProductInfo &entry)
 {
     const QString name = shownName(entry.get_productName());
-    return name.isEmpty() ? Text::tr("Id %1").arg(entry.get_productId()) : shortened(name, longestName);
+    return name.isEmpty() ? Text::tr("Id %1").arg(entry.get_productId()) : shortened(name);
 }
 
 /// The findings of one menu in sentences.
@@ -93,12 +97,12 @@ QString Sentences::titleOf(const MenuPlace &place) const
 {
     const QString number = QString::number(place.index + 1);
     if (place.part == Part::Bins) {
-        const QString name = shortened(shownName(m_menu.dayparts[place.index].names), longestName);
+        const QString name = shortened(shownName(m_menu.dayparts[place.index].names));
         return Text::tr("%1, Row %2, Bin %3")
             .arg(name.isEmpty() ? Text::tr("Day part %1").arg(number) : name,
                  QString::number(place.bin.row + 1), QString::number(place.bin.slot + 1));
     }
-    const QString name = shortened(shownName(entryAt(place).get_productName()), longestName);
+    const QString name = shortened(shownName(entryAt(place).get_productName()));
     if (place.part == Part::Groups)
         return name.isEmpty() ? Text::tr("Group %1").arg(number) : Text::tr("Group %1, %2").arg(number, name);
     return name.isEmpty() ? Text::tr("Product %1").arg(number) : Text::tr("Product %1, %2").arg(number, name);
@@ -137,14 +141,13 @@ QString Sentences::ofProduct(FindingKind kind, const ProductInfo &product) const
     case FindingKind::ZoneSplit:
         return product.get_zoneSplits().isEmpty()
                    ? Text::tr("There is no zone split")
-                   : Text::tr("This cabinet has no zone split %1")
-                         .arg(shortened(product.get_zoneSplits(), longestName));
+                   : Text::tr("This cabinet has no zone split %1").arg(shortened(product.get_zoneSplits()));
     case FindingKind::LidType:
-        return Text::tr("There is no lid %1").arg(shortened(product.get_lidType(), longestName));
+        return Text::tr("There is no lid %1").arg(shortened(product.get_lidType()));
     case FindingKind::BottomType:
-        return Text::tr("There is no bottom %1").arg(shortened(product.get_bottomType(), longestName));
+        return Text::tr("There is no bottom %1").arg(shortened(product.get_bottomType()));
     case FindingKind::TimerColor:
-        return Text::tr("There is no timer color %1").arg(shortened(product.get_timerColor(), longestName));
+        return Text::tr("There is no timer color %1").arg(shortened(product.get_timerColor()));
     default:
         return ofEntry(kind, product);
     }

@@ -19,7 +19,7 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(Misfits)
 };
 
-constexpr qsizetype longestWord = 20; // in characters
+constexpr qsizetype longestWord = 20; // in characters; a file may hold any
 
 /// Upper and lower, in °F.
 struct Temperatures

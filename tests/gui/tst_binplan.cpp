@@ -200,7 +200,7 @@ void TestBinPlan::failureLeavesTheOldPlan()
 // Like the other buttons of day parts; nothing moves when it goes.
 void TestBinPlan::notWhileRemoving()
 {
-    HoldBins editor(bins::menuOf(u"KTR22"_s, {2}));
+    HoldBins editor(bins::menuOf(u"KTR22"_s, {2, 2}));
     const QWidget &plan = editor.widget("btnBinPlan");
     QVERIFY(plan.isVisible() && plan.isEnabled());
     const QList<QRect> before = editor.places();
