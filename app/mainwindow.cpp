@@ -116,9 +116,7 @@ void MainWindow::showSuffixNote()
     const bool opens = path.isEmpty() || path.endsWith(line->suffixes.first(), Qt::CaseInsensitive);
     const QString note =
         opens ? QString() : tr("Without %1 this program will not open it.").arg(line->suffixes.first());
-    m_suffixNote->setHidden(opens);
-    if (note != m_suffixNote->text())
-        announce::news(m_suffixNote, note);
+    announce::line(m_suffixNote, note);
 }
 
 void MainWindow::updateMenuItems()

@@ -11,8 +11,8 @@
 [[nodiscard]] QTime timeOfSeconds(int seconds);
 [[nodiscard]] int secondsOf(const QTime &time);
 
-/// The seconds that are entered as long as a box shows stored ones untouched. What a day has no room for
-/// stays, a negative time is shown as one of the day before.
+/// What a save stores while a box for this time is left alone: the seconds themselves, also of more than a
+/// day; of a negative time what the box shows.
 [[nodiscard]] int enteredSeconds(int storedSeconds);
 
 /// "01:30:00", or in a shorter form.

@@ -18,8 +18,6 @@ CopyBins::CopyBins(int daypart, QWidget *parent)
         if (other != daypart)
             m_ui->comboDaypart->addItem(names[other], other);
     }
-    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(m_ui->btnCopy, &QPushButton::clicked, this, &QDialog::accept);
     letEnterPressFocusedButton(this);
     fixSizeOnScreen(this);
 }
@@ -29,4 +27,14 @@ CopyBins::~CopyBins() = default;
 int CopyBins::source() const
 {
     return m_ui->comboDaypart->currentData().toInt();
+}
+
+void CopyBins::on_btnCancel_clicked()
+{
+    reject();
+}
+
+void CopyBins::on_btnCopy_clicked()
+{
+    accept();
 }

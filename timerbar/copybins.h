@@ -24,6 +24,10 @@ public:
     /// The chosen day part, once the dialog was accepted.
     [[nodiscard]] int source() const;
 
+private slots:
+    void on_btnCancel_clicked();
+    void on_btnCopy_clicked();
+
 private:
     std::unique_ptr<Ui::CopyBins> m_ui;
 };

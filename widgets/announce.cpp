@@ -3,6 +3,7 @@
 
 #include "widgets/announce.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QLabel>
@@ -25,18 +26,42 @@ void send(QObject *about, QAccessible::Event what)
     QAccessible::updateAccessibility(&event);
 }
 
-} // namespace
-
 // Readers on Linux are passed the changed name, others the alert.
-void news(QLabel *label, const QString &text)
+template <typename Widget>
+void tell(Widget *widget, const QString &text)
 {
-    const bool isSame = label->text() == text;
-    label->setText(text); // tells of another name by itself
-    if (!label->isVisible())
+    const bool isSame = widget->text() == text;
+    widget->setText(text); // tells of another name by itself
+    if (!widget->isVisible())
         return;
     if (isSame)
-        send(label, QAccessible::NameChanged);
-    send(label, QAccessible::Alert);
+        send(widget, QAccessible::NameChanged);
+    send(widget, QAccessible::Alert);
+}
+
+template <typename Widget>
+void showLine(Widget *widget, const QString &text)
+{
+    widget->setHidden(text.isEmpty());
+    if (text != widget->text())
+        tell(widget, text);
+}
+
+} // namespace
+
+void news(QLabel *label, const QString &text)
+{
+    tell(label, text);
+}
+
+void line(QLabel *label, const QString &text)
+{
+    showLine(label, text);
+}
+
+void line(QAbstractButton *button, const QString &text)
+{
+    showLine(button, text);
 }
 
 void checkMark(QListWidget *list, int row)

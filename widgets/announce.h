@@ -3,6 +3,7 @@
 
 #pragma once
 
+class QAbstractButton;
 class QLabel;
 class QListWidget;
 class QString;
@@ -14,6 +15,11 @@ namespace announce {
 
 /// Shows a text that is news, even where the label showed the same text before.
 void news(QLabel *label, const QString &text);
+
+/// A line of its own that is there only while it says something; told where that changes.
+void line(QLabel *label, const QString &text);
+/// The same for a line that can be pressed.
+void line(QAbstractButton *button, const QString &text);
 
 /// That the check mark of a row has changed.
 void checkMark(QListWidget *list, int row);

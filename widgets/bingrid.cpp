@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScopedValueRollback>
 
 #include "widgets/announce.h"
 #include "widgets/longtext.h"
@@ -140,9 +141,8 @@ void BinGrid::assignByTyping(QWidget *widget, const QString &text)
     auto *button = qobject_cast<QPushButton *>(widget);
     if (!button || isRemoving())
         return;
-    m_typed = text;
+    const QScopedValueRollback typed(m_typed, text);
     button->click();
-    m_typed.clear();
 }
 
 void BinGrid::settleHold(const std::function<bool(Bin)> &isFilled)

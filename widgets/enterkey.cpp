@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include "widgets/keypress.h"
+
 namespace {
 
 class EnterPressesButton final : public QObject
@@ -19,8 +21,7 @@ public:
         auto *button = qobject_cast<QPushButton *>(watched);
         if (!button || event->type() != QEvent::KeyPress)
             return false;
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        if (!keypress::isEnter(*static_cast<QKeyEvent *>(event)))
             return false;
         button->click();
         return true;

@@ -25,7 +25,7 @@ public:
         QAbstractButton *duplicate;
         QAbstractButton *remove;
         QAbstractButton *multiSelection;
-        QString findName = QStringLiteral("txtFind"); ///< the object name of the field
+        QString findName; ///< the object name of the field
     };
 
     explicit EntryPane(const Parts &parts);
@@ -40,8 +40,8 @@ public:
     /// Makes a row current as a click on it does, but for the check marks of multiple selection.
     void goTo(int row) const;
 
-    /// Refills the list with numbered rows; the current row and the check marks stay, and what is hidden
-    /// stays so, unless it were the current row.
+    /// Refills the list with numbered rows; the current row and the check marks stay. Rows stay hidden as
+    /// before; where the current row would be, Find is emptied.
     void showNames(const QStringList &names);
     /// Enables the buttons that have something to act on.
     void updateButtons();
@@ -59,6 +59,6 @@ private:
 
     Parts m_parts;
     MultiSelection *m_multiSelection; ///< the list owns it
-    FindRows *m_find;                 ///< likewise
+    FindRows *m_find;                 ///< the list owns it
     int m_row = -1;
 };

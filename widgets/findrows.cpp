@@ -15,6 +15,7 @@
 #include "model/find.h"
 #include "widgets/announce.h"
 #include "widgets/emptyhint.h"
+#include "widgets/keypress.h"
 #include "widgets/layouts.h"
 #include "widgets/longtext.h"
 #include "widgets/numberedrows.h"
@@ -23,17 +24,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int longestTyped = 100; // in characters
-constexpr int gap = 12;           // between the field and the box, in pixels
+constexpr int longestTyped = 100;               // in characters
+constexpr int gap = 12;                         // between the field and the box, in pixels
+constexpr QLatin1StringView fieldPrefix("txt"); // of the object names of fields
 
 bool selectsSeveral(const QListWidget &list)
 {
     return list.selectionMode() == QAbstractItemView::MultiSelection;
 }
 
-bool isPlain(const QKeyEvent &press)
+bool goesThroughRows(int key)
 {
-    return !(press.modifiers() & ~Qt::KeypadModifier);
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
 }
 
 } // namespace
@@ -45,30 +47,34 @@ FindRows::FindRows(QListWidget *list, const QString &name, QAbstractButton *pick
     , m_pick(pick)
     , m_field(makeField(name))
 {
-    auto *column = qobject_cast<QBoxLayout *>(layoutOf(list));
-    Q_ASSERT(column);
-    const int place = column->indexOf(list);
-    if (m_pick) {
-        auto *beside = new QHBoxLayout;
-        column->insertLayout(place, beside);
-        beside->addWidget(m_field, 1);
-        addOnlyFits(beside);
-    } else {
-        column->insertWidget(place, m_field);
-    }
-    // Screen readers go through a window in the order in which its widgets lie on each other.
-    m_field->stackUnder(list);
-    if (m_onlyFits)
-        m_onlyFits->stackUnder(list);
+    placeField();
+    const QWidgetList added = m_onlyFits ? QWidgetList{m_field, m_onlyFits} : QWidgetList{m_field};
     // Tab comes to the field where it came to the list, and then to the list.
-    QWidget::setTabOrder(list, m_field);
-    if (m_onlyFits)
-        QWidget::setTabOrder(m_field, m_onlyFits);
-    QWidget::setTabOrder(m_onlyFits ? static_cast<QWidget *>(m_onlyFits) : m_field, list);
-    for (QObject *watched : {static_cast<QObject *>(m_field), static_cast<QObject *>(list->viewport()),
-                             static_cast<QObject *>(list->window())})
+    QWidget *before = list;
+    for (QWidget *widget : added) {
+        readBefore(widget, list);
+        QWidget::setTabOrder(before, widget);
+        before = widget;
+    }
+    QWidget::setTabOrder(before, list);
+    for (QObject *watched : QObjectList{m_field, m_viewport, list->window()})
         watched->installEventFilter(this);
     connect(m_field, &QLineEdit::textChanged, this, &FindRows::follow);
+}
+
+void FindRows::placeField()
+{
+    auto *column = qobject_cast<QBoxLayout *>(layoutOf(m_list));
+    Q_ASSERT(column);
+    const int place = column->indexOf(m_list);
+    if (!m_pick) {
+        column->insertWidget(place, m_field);
+        return;
+    }
+    auto *beside = new QHBoxLayout;
+    column->insertLayout(place, beside);
+    beside->addWidget(m_field, 1);
+    addOnlyFits(beside);
 }
 
 QLineEdit *FindRows::makeField(const QString &name)
@@ -101,7 +107,7 @@ void FindRows::setFocus() const
 void FindRows::find(const QString &text)
 {
     m_field->setText(text);
-    m_goesOn = !text.isEmpty();
+    m_keepsTyping = !text.isEmpty();
 }
 
 bool FindRows::isHiding() const
@@ -111,6 +117,7 @@ bool FindRows::isHiding() const
 
 void FindRows::refresh(int rowToShow)
 {
+    m_leftRow = -1; // it may be another entry's by now
     if (rowToShow >= 0 && rowToShow < m_list->count() && !isFound(rowToShow))
         m_field->clear(); // follow() looks at the rows
     else
@@ -121,7 +128,7 @@ bool FindRows::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
         const auto &press = *static_cast<QKeyEvent *>(event);
-        m_goesOn = false;
+        m_keepsTyping = false;
         const bool taken = watched == m_field ? takeFieldKey(press) : takeEscape(press);
         return taken || QObject::eventFilter(watched, event);
     }
@@ -131,37 +138,29 @@ bool FindRows::eventFilter(QObject *watched, QEvent *event)
         paintEmptyHint(painter, *m_viewport, m_viewport->rect(), nothingFoundText());
     } else if (event->type() == QEvent::FocusIn && watched == m_field) {
         tellFound(); // another row may be selected now
-        if (m_goesOn && static_cast<QFocusEvent *>(event)->reason() == Qt::TabFocusReason)
-            return takeFocus();
+        if (m_keepsTyping && static_cast<QFocusEvent *>(event)->reason() == Qt::TabFocusReason) {
+            keepTyped();
+            return true;
+        }
     }
     return QObject::eventFilter(watched, event);
 }
 
 // A dialog that comes up gives the focus as Tab does, which selects the text for the next letter to replace.
-bool FindRows::takeFocus()
+void FindRows::keepTyped()
 {
     QFocusEvent other(QEvent::FocusIn, Qt::OtherFocusReason);
     QCoreApplication::sendEvent(m_field, &other);
-    return true;
 }
 
 bool FindRows::takeFieldKey(const QKeyEvent &press)
 {
-    switch (press.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (keypress::isEnter(press)) {
         if (!press.isAutoRepeat())
             takeEnter();
         return true; // else the dialog's default button would have it
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        break;
-    default:
-        return false;
     }
-    if (!isPlain(press) || m_firstRow < 0)
+    if (!goesThroughRows(press.key()) || !keypress::isUnmodified(press) || m_firstRow < 0)
         return false;
     m_list->setFocus();
     QKeyEvent passedOn(press.type(), press.key(), press.modifiers(), press.text(), press.isAutoRepeat());
@@ -209,8 +208,6 @@ void FindRows::follow(const QString &typed)
     hideRows();
     if (m_pick && !m_words.isEmpty())
         selectFirstThatFits();
-    else if (m_list->currentItem())
-        m_list->scrollToItem(m_list->currentItem());
     tellFound();
 }
 
@@ -223,7 +220,7 @@ void FindRows::update()
 void FindRows::hideRows()
 {
     if (!isHiding() && !m_hasHidden) {
-        m_firstRow = 0;
+        m_firstRow = m_list->count() > 0 ? 0 : -1;
         return;
     }
     int hiddenChecks = 0;
@@ -240,6 +237,8 @@ void FindRows::hideRows()
     }
     m_hasHidden = m_found < m_list->count();
     leaveHiddenRow();
+    returnToLeftRow();
+    showCurrent();
     tellHiddenChecks(hiddenChecks);
     emit changed();
 }
@@ -263,12 +262,32 @@ void FindRows::leaveHiddenRow()
     const int current = m_list->currentRow();
     if (current < 0 || !m_list->isRowHidden(current))
         return;
-    if (!selectsSeveral(*m_list))
+    const bool several = selectsSeveral(*m_list);
+    m_leftRow = several || m_list->item(current)->isSelected() ? current : -1;
+    if (!several)
         m_list->clearSelection();
     m_list->setCurrentRow(-1, QItemSelectionModel::NoUpdate);
 }
 
-// Always the first one, so that what Enter takes depends on nothing but what is typed.
+// Only when nothing is typed any more: on the way there rows come and go with each letter.
+void FindRows::returnToLeftRow()
+{
+    if (m_leftRow < 0 || !m_words.isEmpty() || m_list->isRowHidden(m_leftRow))
+        return;
+    if (m_list->currentRow() < 0)
+        m_list->setCurrentRow(m_leftRow, selectsSeveral(*m_list) ? QItemSelectionModel::NoUpdate
+                                                                 : QItemSelectionModel::ClearAndSelect);
+    m_leftRow = -1;
+}
+
+// Rows that come or go move the others, while the list stays scrolled by as much as before.
+void FindRows::showCurrent() const
+{
+    if (const QListWidgetItem *item = m_list->currentItem())
+        m_list->scrollToItem(item);
+}
+
+// Always the first one, even where another is chosen: what Enter takes depends on what is typed alone.
 void FindRows::selectFirstThatFits()
 {
     for (int row = qMax(m_firstRow, 0); row < m_list->count(); ++row) {
@@ -306,17 +325,16 @@ void FindRows::tellHiddenChecks(int checked)
     if (checked > 0)
         text = checked == 1 ? tr("One checked row is hidden and stays.")
                             : tr("%1 checked rows are hidden and stay.").arg(checked);
-    m_note->setHidden(text.isEmpty());
-    if (text != m_note->text())
-        announce::news(m_note, text);
+    announce::line(m_note, text);
 }
 
 // Few ever need it, and each label makes opening a menu longer.
 QLabel *FindRows::makeNote() const
 {
     auto *note = new QLabel(m_list->parentWidget());
-    note->setObjectName(m_field->objectName() + "Note"_L1);
+    note->setObjectName("lbl"_L1 + m_field->objectName().sliced(fieldPrefix.size()) + "Note"_L1);
     note->setWordWrap(true);
+    readBehind(note, m_list);
     auto *column = qobject_cast<QBoxLayout *>(layoutOf(m_list));
     column->insertWidget(column->indexOf(m_list) + 1, note);
     return note;

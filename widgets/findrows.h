@@ -18,9 +18,11 @@ class QListWidget;
 /// what is typed. Rows keep their numbers and their check marks.
 ///
 /// A row that becomes hidden is no longer the current one, and where one row can be selected no longer
-/// selected either: what the details show and what Edit and Delete act on is always in sight. It does not
-/// become so again by itself, as nobody could tell which row would. Check marks of hidden rows stay, and a
-/// line below the list says how many there are; who acts on them leaves hidden ones out.
+/// selected either: what the details show and what Edit and Delete act on is always in sight. It becomes
+/// current again when the field is emptied, unless another row has become so. Check marks of hidden rows
+/// stay, and a line below the list says how many there are; who acts on them leaves hidden ones out.
+///
+/// The current row stays in sight whatever rows come and go.
 ///
 /// Arrow keys and page keys go from the field into the list. Escape anywhere in the window of a list that is
 /// in sight empties the field before it does anything else.
@@ -29,7 +31,8 @@ class FindRows final : public QObject
     Q_OBJECT
 
 public:
-    /// Puts the field, of this object name, into the box layout that has the list. The list owns this.
+    /// Puts the field into the box layout that has the list. Its object name is this one, which begins with
+    /// "txt". The list owns this.
     ///
     /// A list to pick from has a button that takes the selected row. Enter in the field presses it, typing
     /// selects the first row that fits, and a box "Only what fits" hides the rows that cannot be selected.
@@ -56,8 +59,9 @@ protected:
 
 private:
     [[nodiscard]] QLineEdit *makeField(const QString &name);
+    void placeField();
     void addOnlyFits(QBoxLayout *beside);
-    [[nodiscard]] bool takeFocus();
+    void keepTyped();
     [[nodiscard]] bool takeFieldKey(const QKeyEvent &press);
     [[nodiscard]] bool takeEscape(const QKeyEvent &press);
     void takeEnter();
@@ -67,6 +71,8 @@ private:
     void hideRows();
     [[nodiscard]] bool isFound(int row) const;
     void leaveHiddenRow();
+    void returnToLeftRow();
+    void showCurrent() const;
     void selectFirstThatFits();
     void tellFound() const;
     void tellHiddenChecks(int checked);
@@ -81,8 +87,9 @@ private:
     QCheckBox *m_onlyFits = nullptr; ///< null where nothing is picked
     QLabel *m_note = nullptr;        ///< null before it was first needed
     QStringList m_words;
-    int m_found = 0;          ///< rows, when they were last looked at
-    bool m_hasHidden = false; ///< likewise
-    bool m_goesOn = false;    ///< what was typed elsewhere is to be typed on
-    int m_firstRow = 0;       ///< likewise
+    int m_found = 0;     ///< how many rows are not hidden; not kept up while all are shown
+    int m_firstRow = -1; ///< the first that is not hidden, when the rows were last looked at; -1 for none
+    int m_leftRow = -1;  ///< was current until it was hidden; -1 for none
+    bool m_hasHidden = false;   ///< rows were hidden when they were last looked at
+    bool m_keepsTyping = false; ///< what was typed elsewhere is to be typed on
 };

@@ -9,6 +9,8 @@
 #include <QScopedValueRollback>
 #include <QWidget>
 
+#include "widgets/keypress.h"
+
 namespace {
 
 // Whether it is shown whenever the grid is: on a page that is not in front nothing is visible.
@@ -18,12 +20,9 @@ bool isUsable(const QWidget &widget)
 }
 
 // Space presses buttons.
-bool isTyped(const QKeyEvent &press)
+bool typesOnButton(const QKeyEvent &press)
 {
-    const bool plain = !(press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
-    const QString text = press.text();
-    return plain && !press.isAutoRepeat() && !text.isEmpty() && text.front().isPrint() &&
-           !text.front().isSpace();
+    return keypress::isTyped(press) && !press.isAutoRepeat() && !press.text().front().isSpace();
 }
 
 } // namespace
@@ -106,11 +105,11 @@ bool GridKeys::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress: {
         const auto *press = static_cast<QKeyEvent *>(event);
-        if (isTyped(*press)) {
+        if (typesOnButton(*press)) {
             emit typed(place->widget, press->text());
             return false;
         }
-        return !(press->modifiers() & ~Qt::KeypadModifier) && takeKey(*place, press->key());
+        return keypress::isUnmodified(*press) && takeKey(*place, press->key());
     }
     case QEvent::FocusIn:
         noteFocus(*place);

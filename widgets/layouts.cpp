@@ -26,3 +26,14 @@ QLayout *layoutOf(QWidget *widget)
 {
     return layoutIn(widget->parentWidget()->layout(), widget);
 }
+
+void readBefore(QWidget *widget, QWidget *other)
+{
+    widget->stackUnder(other);
+}
+
+void readBehind(QWidget *widget, QWidget *other)
+{
+    widget->stackUnder(other);
+    other->stackUnder(widget);
+}

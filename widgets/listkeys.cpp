@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 
+#include "widgets/keypress.h"
 #include "widgets/numberedrows.h"
 
 using numberedrows::firstRowInSight;
@@ -17,11 +18,6 @@ using numberedrows::isSelectable;
 using numberedrows::lastRowInSight;
 
 namespace {
-
-bool isEnter(int key)
-{
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 
 bool hasCheckBox(const QListWidgetItem &item)
 {
@@ -56,30 +52,26 @@ bool ListKeys::eventFilter(QObject *watched, QEvent *event)
 
 bool ListKeys::takeKey(const QKeyEvent &press)
 {
-    if (isEnter(press.key())) {
+    if (keypress::isEnter(press)) {
         // A key that is held must not go on in the dialog that it has opened.
         if (m_enterButton && !press.isAutoRepeat())
             m_enterButton->click();
         return true;
     }
-    if (takeHiddenEnd(press.key()))
-        return true;
-    const bool plain = !(press.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    if (press.key() == Qt::Key_Home || press.key() == Qt::Key_End)
+        return takeEnd(press.key());
     if (m_list->selectionMode() != QAbstractItemView::SingleSelection)
         return false;
     if (press.key() == Qt::Key_Space)
-        return plain ? takeSpace() : toggleCurrent();
-    if (!plain)
+        return keypress::isCommand(press) ? toggleCurrent() : takeSpace();
+    if (keypress::isCommand(press))
         return false;
     return takeArrow(press.key()) || takeText(press);
 }
 
 // The view by itself goes to the first or the last row although it is hidden.
-bool ListKeys::takeHiddenEnd(int key)
+bool ListKeys::takeEnd(int key)
 {
-    const bool isEnd = key == Qt::Key_Home || key == Qt::Key_End;
-    if (!isEnd || m_list->count() == 0 || !m_list->isRowHidden(key == Qt::Key_Home ? 0 : m_list->count() - 1))
-        return false;
     const int row = key == Qt::Key_Home ? firstRowInSight(m_list) : lastRowInSight(m_list);
     if (row >= 0 && m_list->selectionMode() == QAbstractItemView::SingleSelection)
         goTo(row);
@@ -90,16 +82,10 @@ bool ListKeys::takeHiddenEnd(int key)
 
 bool ListKeys::takeArrow(int key)
 {
-    if (!m_list->selectedItems().isEmpty())
+    if ((key != Qt::Key_Up && key != Qt::Key_Down) || !m_list->selectedItems().isEmpty())
         return false;
     const int current = m_list->currentRow();
-    int row = -1;
-    if (key == Qt::Key_Up || key == Qt::Key_Down)
-        row = current >= 0 ? current : firstRowInSight(m_list);
-    else if (key == Qt::Key_Home)
-        row = firstRowInSight(m_list);
-    else if (key == Qt::Key_End)
-        row = lastRowInSight(m_list);
+    const int row = current >= 0 ? current : firstRowInSight(m_list);
     // The view by itself moves on from a row that has the focus and cannot be selected.
     if (row < 0 || (row == current && !isSelectable(m_list, row)))
         return false;
@@ -135,11 +121,10 @@ bool ListKeys::toggleCurrent()
 
 bool ListKeys::takeText(const QKeyEvent &press)
 {
-    const QString text = press.text();
-    if (text.isEmpty() || !text.front().isPrint())
+    if (!keypress::isTyped(press))
         return false;
     const bool onward = isTyping();
-    m_typed = onward ? m_typed + text : text;
+    m_typed = onward ? m_typed + press.text() : press.text();
     m_sinceTyped.start();
     search(onward);
     return true;

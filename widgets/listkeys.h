@@ -15,8 +15,8 @@ class QListWidget;
 /// With no row selected an arrow key selects the row that has the focus, or the first one, instead of passing
 /// it. What is typed finds a row by its number or by the beginning of its name. Space selects the row that
 /// has the focus and never moves; within a typed name it is a blank. Enter presses a button. While several
-/// rows can be selected only Enter differs from what the list does by itself. Rows that are hidden are
-/// passed.
+/// rows can be selected only Enter, Home and End differ from what the list does by itself. Rows that are
+/// hidden are passed.
 class ListKeys final : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ protected:
 
 private:
     [[nodiscard]] bool takeKey(const QKeyEvent &press);
-    [[nodiscard]] bool takeHiddenEnd(int key);
+    [[nodiscard]] bool takeEnd(int key);
     [[nodiscard]] bool takeArrow(int key);
     [[nodiscard]] bool takeSpace();
     [[nodiscard]] bool toggleCurrent();

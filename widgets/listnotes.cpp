@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QListWidget>
 
+#include "model/shortened.h"
 #include "widgets/announce.h"
 #include "widgets/layouts.h"
 #include "widgets/namelabel.h"
@@ -22,11 +23,6 @@ struct Text
 
 constexpr qsizetype longestDaypart = 25; // in characters
 constexpr qsizetype longestContent = 40;
-
-QString shortened(const QString &name, qsizetype longest)
-{
-    return name.size() <= longest ? name : name.first(longest) + u'\u2026';
-}
 
 void replaceInBox(QBoxLayout &box, QWidget *widget, QLayout *by)
 {
@@ -64,31 +60,16 @@ void takeAnyWidth(QWidget &widget)
     widget.setSizePolicy(policy);
 }
 
-// Screen readers go through a window in the order in which its widgets lie on each other.
-void readAround(QListWidget &list, const ListNotes &notes)
-{
-    notes.below->stackUnder(&list);
-    list.stackUnder(notes.below);
-    notes.above->stackUnder(&list);
-}
-
-void show(QLabel &label, const QString &text)
-{
-    label.setHidden(text.isEmpty());
-    if (text != label.text())
-        announce::news(&label, text);
-}
-
 } // namespace
 
 void ListNotes::setAbove(const QString &text) const
 {
-    show(*above, text);
+    announce::line(above, text);
 }
 
 void ListNotes::setBelow(const QString &text) const
 {
-    show(*below, text);
+    announce::line(below, text);
 }
 
 ListNotes addListNotes(QListWidget *list, int linesBelow)
@@ -105,7 +86,8 @@ ListNotes addListNotes(QListWidget *list, int linesBelow)
     notes.below->setMinimumHeight(linesBelow * notes.below->fontMetrics().lineSpacing());
     takeAnyWidth(*notes.above);
     takeAnyWidth(*notes.below);
-    readAround(*list, notes);
+    readBefore(notes.above, list);
+    readBehind(notes.below, list);
     auto *column = new QVBoxLayout;
     replace(list, column);
     column->addWidget(notes.above);

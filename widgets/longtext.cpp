@@ -3,6 +3,8 @@
 
 #include "widgets/longtext.h"
 
+#include "model/shortened.h"
+
 namespace {
 
 constexpr qsizetype longestPainted = 500; // in characters; more than any row or bin has room for
@@ -11,5 +13,5 @@ constexpr qsizetype longestPainted = 500; // in characters; more than any row or
 
 QString beginningOf(const QString &text)
 {
-    return text.size() <= longestPainted ? text : text.first(longestPainted) + u'\u2026';
+    return shortened(text, longestPainted);
 }

@@ -141,23 +141,28 @@ void MenuEditor::noteChange()
 void MenuEditor::showFindings()
 {
     const qsizetype count = findings().count();
-    const bool wasShown = m_findingsLine && !m_findingsLine->isHidden();
-    if (count > 0 && !m_findingsLine)
-        makeFindingsLine();
-    if (count > 0)
-        m_findingsLine->setText(count == 1 ? tr("1 thing to look at")
-                                           : tr("%1 things to look at").arg(count));
-    if (wasShown == (count > 0))
+    if (!m_findingsLine && count == 0)
         return;
-    m_findingsLine->setVisible(count > 0);
-    if (m_designedSize.isValid())
+    if (!m_findingsLine)
+        makeFindingsLine();
+    const bool wasHidden = m_findingsLine->isHidden();
+    announce::line(m_findingsLine, findingsText(count));
+    if (m_findingsLine->isHidden() != wasHidden && m_designedSize.isValid())
         fitContent();
+}
+
+QString MenuEditor::findingsText(qsizetype count)
+{
+    if (count == 0)
+        return {};
+    return count == 1 ? tr("1 thing to look at") : tr("%1 things to look at").arg(count);
 }
 
 // Most menus never need it.
 void MenuEditor::makeFindingsLine()
 {
     m_findingsLine = new QPushButton(this);
+    m_findingsLine->hide();
     m_findingsLine->setObjectName(u"btnFindings"_s);
     m_findingsLine->setFlat(true);
     m_findingsLine->setAutoDefault(false);

@@ -130,6 +130,7 @@ private:
     [[nodiscard]] QString savedText() const;
     void showSaved(const QString &text);
     void makeFindingsLine();
+    [[nodiscard]] static QString findingsText(qsizetype count);
     void inspect();
 
     QString m_filePath;

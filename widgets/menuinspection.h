@@ -23,7 +23,7 @@ public:
     MenuInspection(const QStringList &sentences, qsizetype unlisted, QWidget *parent);
     ~MenuInspection() override;
 
-    /// Which sentence was chosen; -1 unless the dialog was accepted with one.
+    /// The selected sentence's row, -1 for none.
     [[nodiscard]] int chosenRow() const;
 
 private slots:

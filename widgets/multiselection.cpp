@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include "widgets/announce.h"
+#include "widgets/keypress.h"
 
 namespace {
 
@@ -147,6 +148,5 @@ bool MultiSelection::eventFilter(QObject *watched, QEvent *event)
         selectAllInSight();
         return true;
     }
-    const bool isCommand = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    return !isCommand && !press->text().isEmpty() && press->text().front().isPrint();
+    return keypress::isTyped(*press);
 }

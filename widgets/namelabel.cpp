@@ -8,16 +8,16 @@
 #include <QTextOption>
 #include <QtMath>
 
+#include "model/shortened.h"
+
 namespace {
 
 constexpr int longestShownName = 4 * NameLabel::ordinaryLength;
 
 // On one paragraph: a file may hold any characters.
-QString shownPart(QString name)
+QString shownPart(const QString &name)
 {
-    if (name.size() > longestShownName)
-        name = name.first(longestShownName) + u'\u2026';
-    return name.replace(u'\n', u' ');
+    return shortened(name, longestShownName).replace(u'\n', u' ');
 }
 
 QTextOption wrapping()

@@ -67,7 +67,6 @@ void colourFitting(QListWidgetItem *item, int row);
 /// The first and the last row that is not hidden; -1 for none.
 [[nodiscard]] int firstRowInSight(const QListWidget *list);
 [[nodiscard]] int lastRowInSight(const QListWidget *list);
-/// Whether the row can be selected.
 [[nodiscard]] bool isSelectable(const QListWidget *list, int row);
 
 /// The row that is picked in a list in which one can be; -1 for none.

@@ -15,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int secondsOfDay = 24 * 60 * 60;
-
 bool isDigit(const QKeyEvent &press)
 {
     return press.text().size() == 1 && press.text().front().isDigit();
@@ -56,8 +54,7 @@ void TimeEntry::show(int storedSeconds)
 
 int TimeEntry::seconds() const
 {
-    const bool storedStands = !m_edited && m_storedSeconds >= secondsOfDay;
-    return storedStands ? m_storedSeconds : secondsOf(m_edit->time());
+    return m_edited ? secondsOf(m_edit->time()) : enteredSeconds(m_storedSeconds);
 }
 
 bool TimeEntry::eventFilter(QObject *watched, QEvent *event)

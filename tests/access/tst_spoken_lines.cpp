@@ -24,6 +24,7 @@ private slots:
     void timerBarPickerTellsWhatItHolds();
     void timerBarRemovalIsTold();
     void emptyLaneNotesAreHidden();
+    void thingsToLookAtAreTold();
 };
 
 void TestSpokenLines::editorsHaveTheirTitles()
@@ -104,6 +105,36 @@ void TestSpokenLines::emptyLaneNotesAreHidden()
         QCOMPARE(editor.fanSpeed(lane).accessibleDescription(), fanSpeed.text());
     }
     QCOMPARE(editor.temperature(1).accessibleDescription(), u"file holds 1"_s);
+}
+
+// A group that loses its only product is a thing to look at.
+void TestSpokenLines::thingsToLookAtAreTold()
+{
+    samplefile::Menu menu;
+    for (const int id : {1, 2, 3}) {
+        menu.products.append(samplefile::product(id, u"Ham"_s));
+        menu.groups.append(samplefile::group(10 + id, u"Meats"_s, {id}));
+    }
+    TestFolder folder;
+    MenuFile editor(folder.make(u"menu.json"_s, menu.bytes()));
+    Heard heard;
+    ui::show(editor);
+    const auto removeFirst = [&editor](const char *list, const char *button, const QString &question) {
+        ModalAnswers answers;
+        answers.expectBox(ModalAnswers::deleteQuestion(question), QMessageBox::Yes);
+        ui::clickRow(ui::get<QListWidget>(editor, list), 0);
+        ui::click(editor, button);
+    };
+    const auto told = [&heard] { return heard.take().filter(u"alert btnFindings"_s); };
+    for (const auto &news : {u"1 thing to look at"_s, u"2 things to look at"_s}) {
+        removeFirst("listWidgetProducts", "btnDeleteProduct", u"Delete selected product?"_s);
+        QCOMPARE(told(), QStringList{u"alert btnFindings: "_s + news});
+    }
+    ui::get<QTabWidget>(editor, "tabWidget").setCurrentIndex(1);
+    removeFirst("listWidgetGroups", "btnDeleteGroup", u"Delete selected group?"_s);
+    QCOMPARE(told(), QStringList{u"alert btnFindings: 1 thing to look at"_s});
+    removeFirst("listWidgetGroups", "btnDeleteGroup", u"Delete selected group?"_s);
+    QCOMPARE(told(), QStringList());
 }
 
 QTEST_MAIN(TestSpokenLines)

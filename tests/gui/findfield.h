@@ -26,6 +26,13 @@ inline QString shownNames(const QListWidget &list)
     return names.join(u' ');
 }
 
+/// Whether there is a current row, and the list is scrolled to where all of it is seen.
+inline bool isCurrentInSight(const QListWidget &list)
+{
+    const QListWidgetItem *current = list.currentItem();
+    return current && list.viewport()->rect().contains(list.visualItemRect(current));
+}
+
 /// Types in place of what the field holds.
 inline void type(const QWidget &window, const QString &text, const char *field = "txtFind")
 {

@@ -28,6 +28,7 @@ private slots:
     void add();
     void addNeedsAName();
     void addUpToTen();
+    void duplicate_data();
     void duplicate();
     void duplicateUpToTen();
     void edit();
@@ -200,17 +201,29 @@ void TestDayparts::addUpToTen()
     QCOMPARE(savedLayout(editor).size(), 10);
 }
 
+void TestDayparts::duplicate_data()
+{
+    QTest::addColumn<int>("source");
+    QTest::addColumn<bool>("inUse");
+    QTest::addColumn<QString>("bin");
+    QTest::newRow("the first, in use") << 0 << true << u"Third"_s;
+    QTest::newRow("another, not in use") << 1 << false << u"Half"_s;
+}
+
 void TestDayparts::duplicate()
 {
+    QFETCH(const int, source);
     OpenBins editor(menuWith(3));
+    const QString name = editor.selector().itemText(source);
+    ui::choose(*editor, "comboDaypartSelect", name);
     ModalAnswers answers;
-    expectName(answers, u"P1"_s, u"Sunday"_s);
+    expectName(answers, name, u"Sunday"_s);
     ui::click(*editor, "btnDuplicateDaypart");
     QCOMPARE(editor.dayparts(), u"P1 P2 P3 Sunday*"_s);
-    QVERIFY(inUseBox(editor).isChecked());
-    QCOMPARE(editor.button(1, 1).text(), u"Third"_s);
+    QTEST(inUseBox(editor).isChecked(), "inUse");
+    QTEST(editor.button(0, 0).text(), "bin");
     QJsonArray expected = menuWith(3).layout;
-    QJsonObject copy = expected.at(0).toObject();
+    QJsonObject copy = expected.at(source).toObject();
     copy.insert(u"daypartName"_s, samplefile::names(u"Sunday"_s));
     expected.append(copy);
     QCOMPARE(savedLayout(editor), expected);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QLineEdit>
 #include <QMimeData>
 
 #include "app/aboutapp.h"
@@ -29,31 +30,52 @@ private slots:
     void othersArePassedOver();
     void brokenFileIsTold();
     void nothingIsTakenUnderADialog();
+    void nothingIsTakenUnderALaterDialog();
+    void fileOnAFieldIsOpened();
 };
 
 namespace {
 
-/// As a drag over an open menu or the empty area comes: what is below the pointer is asked first. Nothing
-/// where nobody takes it.
+/// Files that are dragged over a widget of the main window, which is asked before those that it lies on.
+class Drag
+{
+public:
+    Drag(QWidget &below, const QList<QUrl> &urls)
+        : m_below(below)
+    {
+        m_data.setUrls(urls);
+    }
+
+    void addText(const QString &text) { m_data.setText(text); }
+    /// What a drop would do; nothing where nobody takes it.
+    [[nodiscard]] Qt::DropAction enter() { return send<QDragEnterEvent>(); }
+    [[nodiscard]] Qt::DropAction drop() { return send<QDropEvent>(); }
+
+private:
+    template <typename Event>
+    [[nodiscard]] Qt::DropAction send()
+    {
+        const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
+        Event event(QPoint(10, 10), possible, &m_data, Qt::LeftButton, Qt::NoModifier);
+        event.setDropAction(Qt::MoveAction);
+        QCoreApplication::sendEvent(&m_below, &event);
+        return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
+    }
+
+    QWidget &m_below;
+    QMimeData m_data;
+};
+
+/// As a drag over an open menu or the empty area comes; nothing where nobody takes it.
 Qt::DropAction drop(Program &program, const QList<QUrl> &urls)
 {
-    QMimeData data;
-    data.setUrls(urls);
-    QWidget *below = program.area().viewport();
-    const QPoint place(10, 10);
-    const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter(place, possible, &data, Qt::LeftButton, Qt::NoModifier);
-    enter.setDropAction(Qt::MoveAction);
-    QCoreApplication::sendEvent(below, &enter);
-    if (!enter.isAccepted())
-        return Qt::IgnoreAction;
-    QDropEvent dropped(place, possible, &data, Qt::LeftButton, Qt::NoModifier);
-    dropped.setDropAction(Qt::MoveAction);
-    QCoreApplication::sendEvent(below, &dropped);
-    REQUIRE(dropped.isAccepted());
-    REQUIRE_EQUAL(dropped.dropAction(), enter.dropAction());
+    Drag drag(*program.area().viewport(), urls);
+    const Qt::DropAction shown = drag.enter();
+    if (shown == Qt::IgnoreAction)
+        return shown;
+    REQUIRE_EQUAL(drag.drop(), shown);
     QCoreApplication::processEvents();
-    return dropped.dropAction();
+    return shown;
 }
 
 QList<QUrl> urlsOf(const QStringList &paths)
@@ -127,7 +149,11 @@ void TestDrop::brokenFileIsTold()
     Program program;
     program.folder().make(u"menu.json"_s, "{");
     program.answers().expect<QMessageBox>([](QMessageBox &box) { box.close(); });
-    drop(program, urlsOf({program.path(u"menu.json"_s)}));
+    Drag drag(*program.area().viewport(), urlsOf({program.path(u"menu.json"_s)}));
+    QCOMPARE(drag.enter(), Qt::CopyAction);
+    QCOMPARE(drag.drop(), Qt::CopyAction);
+    QVERIFY(!program.answers().allAnswered()); // the other program does not wait for the message
+    QCoreApplication::processEvents();
     QVERIFY(program.answers().allAnswered());
     QCOMPARE(program.menuCount(), 0);
 }
@@ -142,6 +168,37 @@ void TestDrop::nothingIsTakenUnderADialog()
     });
     ui::clickMenu(program.window(), "menuHelp", "actionAbout");
     QCOMPARE(program.menuCount(), 0);
+}
+
+// The dialog comes up while the pointer is over the window.
+void TestDrop::nothingIsTakenUnderALaterDialog()
+{
+    Program program;
+    Drag drag(*program.area().viewport(),
+              urlsOf({make(program, namesOf(Line::Holding).files.first(), u"menu"_s)}));
+    QCOMPARE(drag.enter(), Qt::CopyAction);
+    program.answers().expect<AboutApp>([&drag](AboutApp &dialog) {
+        QCOMPARE(drag.drop(), Qt::IgnoreAction);
+        ui::click(dialog, "btnAccept");
+    });
+    ui::clickMenu(program.window(), "menuHelp", "actionAbout");
+    QCoreApplication::processEvents();
+    QCOMPARE(program.menuCount(), 0);
+}
+
+// File managers name a file in a text, too.
+void TestDrop::fileOnAFieldIsOpened()
+{
+    Program program;
+    const QString menu = make(program, namesOf(Line::Holding).files.first(), u"menu"_s);
+    QVERIFY(program.open(u"menu.json"_s));
+    auto &field = ui::get<QLineEdit>(*program.subWindow(), "txtFindProducts");
+    Drag drag(field, urlsOf({menu}));
+    drag.addText(menu);
+    QCOMPARE(drag.enter(), Qt::CopyAction);
+    QCOMPARE(drag.drop(), Qt::CopyAction);
+    QTRY_COMPARE(program.menuCount(), 2);
+    QCOMPARE(field.text(), QString());
 }
 
 QTEST_MAIN(TestDrop)

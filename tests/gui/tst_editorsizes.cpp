@@ -22,6 +22,7 @@ private slots:
     void init() { failOnWarnings(); }
     void cleanup() { QApplication::setFont(m_font); }
     void editorIsAsHighAsItsRows();
+    void lineOfThingsToLookAtTakesItsRoom();
     void subWindowFollowsTheCabinet();
     void timerBarIsNeverNarrowerThanItsHint();
     void listsFollowALargeFont_data();
@@ -62,6 +63,29 @@ void TestEditorSizes::editorIsAsHighAsItsRows()
     QCOMPARE(two->size(), eight->size());
     chooseModel(answers, *two, u"KTR22"_s);
     QCOMPARE(two->size(), before);
+}
+
+// It comes where a group loses its only product; this cabinet leaves no room to spare.
+void TestEditorSizes::lineOfThingsToLookAtTakesItsRoom()
+{
+    samplefile::Menu menu = bins::menuOf(u"KTR82"_s, {});
+    menu.products = {samplefile::product(2, u"Half"_s)};
+    OpenBins editor(menu);
+    const QSize before = editor->size();
+    const auto remove = [&editor](int tab, QListWidget &list, const char *button, const QString &question) {
+        ModalAnswers answers;
+        answers.expectBox(ModalAnswers::deleteQuestion(question), QMessageBox::Yes);
+        editor.showTab(tab);
+        ui::clickRow(list, 0);
+        ui::click(*editor, button);
+    };
+    remove(0, editor.products(), "btnDeleteProduct", u"Delete selected product?"_s);
+    QVERIFY(ui::get<QWidget>(*editor, "btnFindings").isVisible());
+    QVERIFY(editor->height() > before.height());
+    QVERIFY(editor->height() >= editor->layout()->totalSizeHint().height());
+    remove(1, editor.groups(), "btnDeleteGroup", u"Delete selected group?"_s);
+    QVERIFY(ui::get<QWidget>(*editor, "btnFindings").isHidden());
+    QCOMPARE(editor->size(), before);
 }
 
 void TestEditorSizes::subWindowFollowsTheCabinet()

@@ -6,7 +6,7 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
-#include "tests/support/uidriver.h"
+#include "tests/gui/findfield.h"
 #include "tests/support/warnings.h"
 #include "widgets/entrypane.h"
 
@@ -31,7 +31,7 @@ public:
     Tab()
         : layout(&window)
         , parts{added<QListWidget>(window), added<QPushButton>(window), added<QPushButton>(window),
-                added<QPushButton>(window), added<QPushButton>(window)}
+                added<QPushButton>(window), added<QPushButton>(window), u"txtFind"_s}
         , pane(parts)
     {
         ui::show(window);
@@ -81,6 +81,7 @@ private slots:
     void nothingIsCurrentAtFirst();
     void rowsAreNumbered();
     void namesKeepTheCurrentRow();
+    void namesKeepTheFoundRowInSight();
     void namesTellNothingOfTheRefill();
     void namesKeepTheChecks();
     void selectionIsFollowed();
@@ -125,6 +126,21 @@ void TestEntryPane::namesKeepTheCurrentRow()
 }
 
 // The editor would else follow a selection that nobody made.
+void TestEntryPane::namesKeepTheFoundRowInSight()
+{
+    Tab tab;
+    QStringList many;
+    for (int i = 0; i < 50; ++i)
+        many += {u"Ham"_s, u"Beef"_s};
+    tab.pane.showNames(many);
+    findfield::type(tab.window, u"a"_s);
+    tab.choose(48);
+    many[48] = u"Hash"_s;
+    tab.pane.showNames(many);
+    QCOMPARE(tab.list().currentRow(), 48);
+    QVERIFY(findfield::isCurrentInSight(tab.list()));
+}
+
 void TestEntryPane::namesTellNothingOfTheRefill()
 {
     Tab tab;

@@ -2,63 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QClipboard>
-#include <QDialog>
 #include <QGuiApplication>
 #include <QMetaEnum>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QVBoxLayout>
 
-#include "tests/gui/findfield.h"
+#include "tests/gui/findpane.h"
 #include "tests/support/warnings.h"
-#include "widgets/findrows.h"
-#include "widgets/listkeys.h"
-#include "widgets/numberedrows.h"
 
 using namespace Qt::StringLiterals;
+using findfield::Pane;
 using findfield::shownNames;
-
-namespace {
-
-/// A dialog with a list to pick from, or one where nothing is picked, and a default button that would save.
-struct Pane
-{
-    explicit Pane(bool picks)
-    {
-        auto *layout = new QVBoxLayout(&dialog);
-        for (QWidget *widget : QWidgetList{&before, &list, &pick, &save})
-            layout->addWidget(widget);
-        save.setDefault(true);
-        pick.setEnabled(false);
-        find = new FindRows(&list, u"txtFind"_s, picks ? &pick : nullptr);
-        new ListKeys(&list, &pick);
-        fill({u"Bacon"_s, u"Beef"_s, u"Crêpe"_s, u"Ham"_s, u"Hash"_s});
-        QObject::connect(&list, &QListWidget::itemSelectionChanged, &pick,
-                         [this] { pick.setEnabled(numberedrows::selectedRow(&list) >= 0); });
-        ui::show(dialog);
-        field().setFocus();
-    }
-    // Beef does not fit.
-    void fill(const QStringList &names)
-    {
-        list.clear();
-        for (const QString &name : names)
-            numberedrows::appendToPick(&list, {name, name + u" food"_s, name != u"Beef"_s, {}});
-        find->refresh();
-    }
-    void type(const QString &text) { findfield::type(dialog, text); }
-    void press(Qt::Key key) { findfield::press(dialog, key); }
-    [[nodiscard]] QLineEdit &field() const { return findfield::fieldIn(dialog); }
-
-    QDialog dialog;
-    QPushButton before{&dialog};
-    QListWidget list{&dialog};
-    QPushButton pick{&dialog};
-    QPushButton save{&dialog};
-    FindRows *find = nullptr;
-};
-
-} // namespace
 
 /// The field without an editor around it.
 class TestFindRows : public QObject
@@ -71,11 +24,6 @@ private slots:
     void fieldStandsAboveTheList();
     void rowsAreFound_data();
     void rowsAreFound();
-    void hiddenRowIsNotCurrent();
-    void choiceInSightStays();
-    void firstThatFitsIsSelected_data();
-    void firstThatFitsIsSelected();
-    void typingAloneSelectsNothingElsewhere();
     void onlyWhatFits();
     void arrowsGoIntoTheList_data();
     void arrowsGoIntoTheList();
@@ -88,7 +36,6 @@ private slots:
     void nothingFoundIsSaid();
     void resultIsTold();
     void refillStaysFiltered();
-    void newRowComesIntoSight();
     void hugeTextsAreHarmless();
     void unchangedRowsAreNoNews();
 };
@@ -103,14 +50,14 @@ void TestFindRows::fieldStandsAboveTheList_data()
 void TestFindRows::fieldStandsAboveTheList()
 {
     QFETCH(const bool, picks);
-    const Pane pane(picks);
+    Pane pane(picks);
     QVERIFY(pane.before.geometry().bottom() < pane.field().y());
     QVERIFY(pane.field().geometry().bottom() < pane.list.y());
     QCOMPARE(pane.dialog.findChild<QCheckBox *>() != nullptr, picks);
     QList<QWidget *> order{pane.field().previousInFocusChain(), &pane.field()};
     if (picks)
         order.append(&findfield::onlyFits(pane.dialog));
-    order.append(const_cast<QListWidget *>(&pane.list));
+    order.append(&pane.list);
     for (qsizetype i = 1; i < order.size(); ++i) {
         order[i - 1]->setFocus();
         QTest::keyClick(order[i - 1], Qt::Key_Tab);
@@ -142,54 +89,6 @@ void TestFindRows::rowsAreFound()
     QCOMPARE(ui::textsOf(pane.list), texts);
     pane.type({});
     QCOMPARE(shownNames(pane.list), u"Bacon Beef Crêpe Ham Hash"_s);
-}
-
-void TestFindRows::hiddenRowIsNotCurrent()
-{
-    Pane pane(false);
-    ui::clickRow(pane.list, 3);
-    pane.type(u"bacon"_s);
-    QCOMPARE(pane.list.currentRow(), -1);
-    QVERIFY(pane.list.selectedItems().isEmpty());
-    pane.type({});
-    QCOMPARE(shownNames(pane.list), u"Bacon Beef Crêpe Ham Hash"_s);
-    QCOMPARE(pane.list.currentRow(), -1);
-}
-
-void TestFindRows::choiceInSightStays()
-{
-    Pane pane(false);
-    ui::clickRow(pane.list, 4);
-    pane.type(u"ha"_s);
-    QCOMPARE(shownNames(pane.list), u"Ham Hash*"_s);
-    QCOMPARE(pane.list.currentRow(), 4);
-}
-
-void TestFindRows::firstThatFitsIsSelected_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("the first") << u"ha"_s << u"Ham* Hash"_s;
-    QTest::newRow("behind one that does not fit") << u"e"_s << u"Beef Crêpe*"_s;
-    QTest::newRow("none fits") << u"beef"_s << u"Beef"_s;
-    QTest::newRow("none is found") << u"x"_s << QString();
-    QTest::newRow("blanks") << u" "_s << u"Bacon Beef Crêpe Ham Hash"_s;
-}
-
-void TestFindRows::firstThatFitsIsSelected()
-{
-    QFETCH(const QString, typed);
-    Pane pane(true);
-    pane.type(typed);
-    QTEST(shownNames(pane.list), "shown");
-    QCOMPARE(pane.pick.isEnabled(), shownNames(pane.list).contains(u'*'));
-}
-
-void TestFindRows::typingAloneSelectsNothingElsewhere()
-{
-    Pane pane(false);
-    pane.type(u"ha"_s);
-    QCOMPARE(shownNames(pane.list), u"Ham Hash"_s);
 }
 
 void TestFindRows::onlyWhatFits()
@@ -229,6 +128,11 @@ void TestFindRows::arrowsGoIntoTheList()
     pane.type(u"x"_s);
     pane.press(key);
     QCOMPARE(pane.dialog.focusWidget(), &pane.field()); // there is no row to go to
+    pane.type({});
+    pane.fill({});
+    QCOMPARE(pane.find->firstRow(), -1);
+    pane.press(key);
+    QCOMPARE(pane.dialog.focusWidget(), &pane.field());
 }
 
 void TestFindRows::enterPicks()
@@ -347,17 +251,6 @@ void TestFindRows::refillStaysFiltered()
     QCOMPARE(pane.find->firstRow(), -1);
     pane.fill({u"Bun"_s, u"Hare"_s});
     QCOMPARE(pane.find->firstRow(), 1);
-}
-
-void TestFindRows::newRowComesIntoSight()
-{
-    Pane pane(false);
-    pane.type(u"ha"_s);
-    pane.find->refresh(3);
-    QCOMPARE(pane.field().text(), u"ha"_s);
-    pane.find->refresh(0);
-    QVERIFY(pane.field().text().isEmpty());
-    QCOMPARE(shownNames(pane.list), u"Bacon Beef Crêpe Ham Hash"_s);
 }
 
 void TestFindRows::hugeTextsAreHarmless()

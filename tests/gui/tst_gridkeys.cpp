@@ -74,6 +74,7 @@ class TestGridKeys : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void arrowsMoveByRowAndColumn();
+    void modifiersButTheKeypadsStopArrows();
     void arrowsEndAtTheEdges();
     void arrowsPassWhatIsHiddenOrDisabled();
     void coveringButtonKeepsTheColumn();
@@ -91,6 +92,17 @@ void TestGridKeys::arrowsMoveByRowAndColumn()
     grid.buttons[0][0]->setFocus();
     QCOMPARE(grid.way({Qt::Key_Right, Qt::Key_Down, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up}),
              (QStringList{u"01"_s, u"11"_s, u"21"_s, u"20"_s, u"10"_s}));
+}
+
+// Left to itself a button takes Down as Tab.
+void TestGridKeys::modifiersButTheKeypadsStopArrows()
+{
+    Grid grid;
+    grid.buttons[0][0]->setFocus();
+    QTest::keyClick(grid.buttons[0][0], Qt::Key_Down, Qt::KeypadModifier);
+    QCOMPARE(grid.focus(), u"10"_s);
+    QTest::keyClick(grid.buttons[1][0], Qt::Key_Down, Qt::ShiftModifier);
+    QVERIFY(grid.focus() != u"20"_s);
 }
 
 void TestGridKeys::arrowsEndAtTheEdges()

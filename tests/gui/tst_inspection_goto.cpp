@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QApplication>
 #include <QLineEdit>
 
 #include "holding/assigndaypartitem.h"
@@ -11,6 +10,7 @@
 #include "tests/support/warnings.h"
 
 using namespace Qt::StringLiterals;
+using ui::hasFocus;
 
 /// Where the list of things to look at leads to.
 class TestInspectionGoTo : public QObject
@@ -34,11 +34,6 @@ private slots:
 };
 
 namespace {
-
-bool hasFocus(const QWidget &widget)
-{
-    return QTest::qWaitFor([&widget] { return QApplication::focusWidget() == &widget; });
-}
 
 // In the order of the list: the last product, the second group, a bin in the evening and the bin behind the
 // whole zone of its row.

@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QApplication>
-
 #include "tests/gui/inspect.h"
 #include "tests/gui/opentimerbar.h"
 #include "tests/support/warnings.h"
 #include "timerbar/timerbarproductedit.h"
 
 using namespace Qt::StringLiterals;
+using ui::hasFocus;
 
 /// What there is to look at in Timer Bar menus.
 class TestInspectionTimerBar : public QObject
@@ -27,11 +26,6 @@ private slots:
 };
 
 namespace {
-
-bool hasFocus(const QWidget &widget)
-{
-    return QTest::qWaitFor([&widget] { return QApplication::focusWidget() == &widget; });
-}
 
 // Nobody can hold Eggs, and in the lower row at dinner Chili stands beside Bacon.
 cbr::Menu menuToLookAt()

@@ -17,6 +17,7 @@
 #include "widgets/numberedrows.h"
 
 using namespace Qt::StringLiterals;
+using ui::hasFocus;
 
 /// Working without a mouse in the real editors.
 class TestKeyboard : public QObject
@@ -39,15 +40,6 @@ private slots:
     void binsAreReachedByArrows();
     void removalLeadsBackToTheBins();
 };
-
-namespace {
-
-bool hasFocus(const QWidget &widget)
-{
-    return QTest::qWaitFor([&widget] { return QApplication::focusWidget() == &widget; });
-}
-
-} // namespace
 
 void TestKeyboard::newAndOpenGiveTheListTheFocus_data()
 {

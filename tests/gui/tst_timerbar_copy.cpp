@@ -17,7 +17,8 @@ private slots:
     void init();
     void cleanup() { m_editor.reset(); }
     void dialogNamesTheOthers();
-    void emptyBinsAreFilled();
+    void chosenDaypartIsCopied_data();
+    void chosenDaypartIsCopied();
     void filledBinsAreReplacedWhenConfirmed_data();
     void filledBinsAreReplacedWhenConfirmed();
     void leavingTheDialogChangesNothing_data();
@@ -42,7 +43,7 @@ const ModalAnswers::Box question{.title = u"Copy Bins"_s,
 void expectChoice(ModalAnswers &answers, const QString &name)
 {
     answers.expect<CopyBins>([name](CopyBins &dialog) {
-        QTest::keyClicks(&ui::get<QComboBox>(dialog, "comboDaypart"), name);
+        ui::choose(dialog, "comboDaypart", name);
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
 }
@@ -54,7 +55,9 @@ void TestTimerBarCopy::init()
     failOnWarnings();
     m_menu = baconHamChili(u"KTR22"_s);
     m_menu.dayparts[0] = {0, 1, 100, 2};
+    m_menu.dayparts[1] = {1, 100, 100, 100};
     m_menu.dayparts[2] = {100, 100, 2, 100};
+    m_menu.dayparts[5] = {2, 100, 100, 2};
     m_editor = std::make_unique<OpenTimerBar>(m_menu);
 }
 
@@ -72,14 +75,27 @@ void TestTimerBarCopy::dialogNamesTheOthers()
     clickCopy();
 }
 
-void TestTimerBarCopy::emptyBinsAreFilled()
+// Those after the one that takes them over stand a place further up in the dialog.
+void TestTimerBarCopy::chosenDaypartIsCopied_data()
 {
-    m_editor->showDaypart(u"Dinner"_s);
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("from");
+    QTest::newRow("the first") << 4 << 0;
+    QTest::newRow("one before") << 4 << 1;
+    QTest::newRow("one behind") << 3 << 5;
+}
+
+void TestTimerBarCopy::chosenDaypartIsCopied()
+{
+    QFETCH(const int, to);
+    QFETCH(const int, from);
+    m_editor->showDaypart(timerbar::daypartNames()[to]);
     ModalAnswers answers;
-    expectChoice(answers, u"Breakfast"_s);
+    expectChoice(answers, timerbar::daypartNames()[from]);
     clickCopy();
-    QCOMPARE(m_editor->button("btnDaypartSelect0_1").text(), u"CHIL"_s);
-    m_menu.dayparts[4] = m_menu.dayparts[0];
+    const QString names[]{u"BACN"_s, u"HAM"_s, u"CHIL"_s};
+    QCOMPARE(m_editor->button("btnDaypartSelect1_0").text(), names[m_menu.dayparts[from].first()]);
+    m_menu.dayparts[to] = m_menu.dayparts[from];
     QCOMPARE(m_editor->saved(), hex(m_menu));
 }
 

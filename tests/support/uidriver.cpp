@@ -4,6 +4,7 @@
 #include "tests/support/uidriver.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -144,6 +145,11 @@ void activate(QWidget &window)
 {
     window.activateWindow();
     REQUIRE_SOON(window.isActiveWindow());
+}
+
+bool hasFocus(const QWidget &widget)
+{
+    return QTest::qWaitFor([&widget] { return QApplication::focusWidget() == &widget; });
 }
 
 } // namespace ui

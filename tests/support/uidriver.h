@@ -59,5 +59,7 @@ void clickMenu(QMainWindow &window, const char *menu, const char *action);
 void show(QWidget &window);
 /// Makes a shown window the active one: without a window manager nobody does so after a dialog was closed.
 void activate(QWidget &window);
+/// Waits until the widget has the focus; false where it does not come.
+[[nodiscard]] bool hasFocus(const QWidget &widget);
 
 } // namespace ui
