@@ -5,7 +5,9 @@
 
 #include <algorithm>
 
+#include "holding/groupdraft.h"
 #include "holding/menujson.h"
+#include "holding/newentries.h"
 #include "tests/support/require.h"
 #include "timerbar/defaultproducts.h"
 
@@ -76,6 +78,23 @@ holding::Menu breakfastOfHolding()
         menu.product(idOf(menu.products, colored.name))->set_timerColor(colored.timerColor);
     menu.dayparts[0].inUse = true;
     fill(holdingRows, menu.products, menu.dayparts[0].bins);
+    return menu;
+}
+
+holding::Menu breakfastToLookAt()
+{
+    constexpr int missing = 99;
+    holding::Menu menu = breakfastOfHolding();
+    menu.product(idOf(menu.products, "Chili"_L1))->set_holdTime(9 * 60 * 60);
+    auto sausages = holding::newGroup(menu.nextFreeId());
+    holding::GroupDraft draft(*sausages, menu.configuration);
+    for (const auto name : {"Sausage Patties"_L1, "Sausage Crumbles"_L1})
+        draft.add(*menu.product(idOf(menu.products, name)));
+    draft.writeTo(*sausages);
+    sausages->set_productName(sameNameInAllLanguages(u"Sausage"_s));
+    sausages->set_productList(sausages->get_productList() << missing);
+    menu.groups.push_back(std::move(sausages));
+    menu.dayparts[0].bins[Bin{3, 3}] = missing;
     return menu;
 }
 

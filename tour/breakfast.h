@@ -9,5 +9,8 @@
 /// A KTR54 whose bins hold a breakfast that a kitchen could serve: what stands in one zone is held alike.
 [[nodiscard]] holding::Menu breakfastOfHolding();
 
+/// The same with three things to look at: a product, a group and a bin.
+[[nodiscard]] holding::Menu breakfastToLookAt();
+
 /// The same for a KTR34.
 [[nodiscard]] timerbar::Menu breakfastOfTimerBar();

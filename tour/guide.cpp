@@ -14,6 +14,7 @@
 #include "app/selectproductline.h"
 #include "holding/assigndaypartitem.h"
 #include "holding/configuration.h"
+#include "holding/daypartedit.h"
 #include "holding/groupedit.h"
 #include "holding/menujson.h"
 #include "holding/productedit.h"
@@ -22,9 +23,11 @@
 #include "tests/support/require.h"
 #include "tests/support/uidriver.h"
 #include "timerbar/cbrfile.h"
+#include "timerbar/copybins.h"
 #include "timerbar/timerbarconfig.h"
 #include "timerbar/timerbardaypartassignitem.h"
 #include "tour/breakfast.h"
+#include "widgets/menuinspection.h"
 
 using namespace Qt::StringLiterals;
 
@@ -91,14 +94,14 @@ void GuideChapter::openBreakfast(const QString &fileName, const QByteArray &byte
 
 template <typename Dialog>
 void GuideChapter::pictureDialog(const char *button, const QString &name,
-                                 const std::function<void(const Dialog &)> &fillIn)
+                                 const std::function<void(const Dialog &)> &fillIn, const char *leave)
 {
     ModalAnswers answers;
     answers.expect<Dialog>([&](Dialog &dialog) {
         if (fillIn)
             fillIn(dialog);
         picture(name, dialog);
-        ui::click(dialog, "btnCancel");
+        ui::click(dialog, leave);
     });
     ui::click(*activeSubWindow()->widget(), button);
 }
@@ -149,9 +152,43 @@ void GuideChapter::holdingBins()
                                      [](const AssignDaypartItem &dialog) {
                                          ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 8);
                                      });
+    pictureDialog<DaypartEdit>("btnDuplicateDaypart", u"holding-duplicate"_s, [](const DaypartEdit &dialog) {
+        ui::type(dialog, "txtName", u"SUNDAY BREAKFAST"_s);
+    });
     holdBin("btnDaypartSelect1_1");
     pictureEditor(u"holding-removal"_s);
     ui::click(*activeSubWindow()->widget(), "btnCancelDaypartRemove");
+    closeEditor(QMessageBox::No);
+}
+
+void GuideChapter::finding()
+{
+    openBreakfast(u"breakfast.json"_s, holding::writeMenu(breakfastOfHolding()));
+    auto &products = ui::get<QListWidget>(*activeSubWindow(), "listWidgetProducts");
+    ui::type(*activeSubWindow(), "txtFindProducts", u"chicken"_s);
+    ui::clickRow(products,
+                 products.row(products.findItems(u"Grilled Chicken"_s, Qt::MatchContains).constFirst()));
+    pictureEditor(u"holding-find"_s);
+    clickTab(2);
+    pictureDialog<AssignDaypartItem>("btnDaypartSelectB3_1", u"holding-picker-find"_s,
+                                     [](const AssignDaypartItem &dialog) {
+                                         ui::click(dialog, "checkBoxOnlyFits");
+                                         ui::type(dialog, "txtFind", u"gri"_s);
+                                     });
+    closeEditor(QMessageBox::No);
+}
+
+void GuideChapter::thingsToLookAt()
+{
+    openBreakfast(u"breakfast.json"_s, holding::writeMenu(breakfastToLookAt()));
+    clickTab(2);
+    pictureEditor(u"holding-findings"_s);
+    pictureDialog<MenuInspection>(
+        "btnFindings", u"holding-findings-list"_s,
+        [](const MenuInspection &dialog) {
+            ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetFindings"), 2);
+        },
+        "btnClose");
     closeEditor(QMessageBox::No);
 }
 
@@ -188,6 +225,8 @@ void GuideChapter::timerBar()
         "btnDaypartSelectB1_1", u"timerbar-picker"_s, [](const TimerBarDaypartAssignItem &dialog) {
             ui::clickRow(ui::get<QListWidget>(dialog, "listWidgetProducts"), 0);
         });
+    ui::choose(*activeSubWindow()->widget(), "comboDaypartSelect", u"Lunch"_s);
+    pictureDialog<CopyBins>("btnCopyDaypart", u"timerbar-copy"_s);
     closeEditor(QMessageBox::No);
 }
 

@@ -24,6 +24,10 @@ private slots:
     void holdingEntries();
     void holdingBins_data() { looks(); }
     void holdingBins();
+    void finding_data() { looks(); }
+    void finding();
+    void thingsToLookAt_data() { looks(); }
+    void thingsToLookAt();
     void binPlan_data();
     void binPlan();
     void timerBar_data() { looks(); }
@@ -36,9 +40,10 @@ private:
     /// Only what is named here is pictured, not each dialog.
     void picture(const QString &name, const QWidget &of);
     void pictureEditor(const QString &name);
-    /// Of a dialog that a button of the active editor opens, with what is filled in; then it is cancelled.
+    /// Of a dialog that a button of the active editor opens, with what is filled in; then it is left.
     template <typename Dialog>
     void pictureDialog(const char *button, const QString &name,
-                       const std::function<void(const Dialog &)> &fillIn = {});
+                       const std::function<void(const Dialog &)> &fillIn = {},
+                       const char *leave = "btnCancel");
     void openBreakfast(const QString &fileName, const QByteArray &bytes);
 };

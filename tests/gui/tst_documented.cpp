@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Varno Plexora developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 #include "app/productlines.h"
@@ -16,12 +18,47 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The absolute path of a file or folder of the project.
+QString pathOf(const QString &name)
+{
+    return QFINDTESTDATA(u"../../"_s + name);
+}
+
+QString textOf(const QString &path)
+{
+    QFile file(path);
+    REQUIRE(file.open(QIODevice::ReadOnly), path);
+    return QString::fromUtf8(file.readAll());
+}
+
+/// What a document leads to in the project: links and pictures.
+QStringList linksIn(const QString &text)
+{
+    static const QRegularExpression link(u"\\]\\(([^)]+)\\)|(?:src|srcset)=\"([^\"]+)\""_s);
+    QStringList links;
+    for (auto found = link.globalMatch(text); found.hasNext();) {
+        const QString target = found.next().capturedTexts().mid(1).join(QString());
+        if (!target.startsWith("http"_L1))
+            links.append(target);
+    }
+    return links;
+}
+
+/// The headings as links name them.
+QStringList anchorsIn(const QString &text)
+{
+    static const QRegularExpression heading(u"^#+ (.*)$"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression others(u"[^\\w -]"_s);
+    QStringList anchors;
+    for (auto found = heading.globalMatch(text); found.hasNext();)
+        anchors.append(found.next().captured(1).toLower().remove(others).replace(u' ', u'-'));
+    return anchors;
+}
+
 /// The part of a document from one text up to the next occurrence of another.
 QString partOf(const QString &document, const QString &start, const QString &end)
 {
-    QFile file(QFINDTESTDATA(u"../../docs/"_s + document));
-    REQUIRE(file.open(QIODevice::ReadOnly), document);
-    const QString text = QString::fromUtf8(file.readAll());
+    const QString text = textOf(pathOf(u"docs/"_s + document));
     const qsizetype first = text.indexOf(start);
     REQUIRE(first >= 0, start);
     const qsizetype last = text.indexOf(end, first + start.size());
@@ -75,6 +112,9 @@ private slots:
     void groupKey();
     void suffix_data();
     void suffix();
+    void linksLeadSomewhere_data();
+    void linksLeadSomewhere();
+    void everyPictureIsShown();
 };
 
 void TestDocumented::holdingModel_data()
@@ -175,6 +215,39 @@ void TestDocumented::suffix()
     QFETCH(const QString, text);
     QVERIFY(formats(u"# File formats"_s, u"\n## "_s).contains(text));
     QVERIFY(partOf(u"user-guide.md"_s, u"- **Open**"_s, u"\n- **Save**"_s).contains(text));
+}
+
+void TestDocumented::linksLeadSomewhere_data()
+{
+    QTest::addColumn<QString>("document");
+    for (const char *document :
+         {"README.md", "CONTRIBUTING.md", "docs/file-formats.md", "docs/user-guide.md"})
+        QTest::newRow(document) << QString::fromLatin1(document);
+}
+
+void TestDocumented::linksLeadSomewhere()
+{
+    QFETCH(const QString, document);
+    const QString path = pathOf(document);
+    const QStringList links = linksIn(textOf(path));
+    QVERIFY(!links.isEmpty());
+    for (const QString &link : links) {
+        const QString name = link.section(u'#', 0, 0);
+        const QString anchor = link.section(u'#', 1);
+        const QString target = name.isEmpty() ? path : QFileInfo(path).dir().filePath(name);
+        QVERIFY2(QFileInfo::exists(target), qPrintable(link));
+        QVERIFY2(anchor.isEmpty() || anchorsIn(textOf(target)).contains(anchor), qPrintable(link));
+    }
+}
+
+// In the light and the dark look, where there are both.
+void TestDocumented::everyPictureIsShown()
+{
+    const QStringList shown = linksIn(textOf(pathOf(u"docs/user-guide.md"_s)));
+    const QStringList pictures = QDir(pathOf(u"docs/images"_s)).entryList(QDir::Files);
+    QVERIFY(!pictures.isEmpty());
+    for (const QString &picture : pictures)
+        QVERIFY2(shown.contains(u"images/"_s + picture), qPrintable(picture));
 }
 
 QTEST_GUILESS_MAIN(TestDocumented)
