@@ -239,7 +239,7 @@ void MenuEditor::writeBinPlan(const binplan::Cabinet &cabinet, const QString &wh
     if (dialog.exec() != Accepted)
         return;
     const QString path = dialog.selectedFiles().constFirst();
-    if (writeFile(path, pdfOf(layOut(cabinet, binplan::usualPaper(QLocale())))))
+    if (writeFile(path, pdfOf(layOut(cabinet, lastPathPart(m_filePath), binplan::usualPaper(QLocale())))))
         emit told(tr("Saved %1").arg(path));
     else
         messages::fileFault(tr("Failed to create/open the file:") + path);

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 
+#include "tests/gui/holdbins.h"
 #include "tests/gui/opentimerbar.h"
 #include "tests/gui/plannedmenu.h"
 #include "tests/support/hardship.h"
@@ -199,21 +200,17 @@ void TestBinPlan::failureLeavesTheOldPlan()
 // Like the other buttons of day parts; nothing moves when it goes.
 void TestBinPlan::notWhileRemoving()
 {
-    Program program;
-    planned::open(program, Line::Holding);
-    planned::showBins(program);
-    QWidget &editor = *program.subWindow();
-    const auto &plan = ui::get<QPushButton>(editor, "btnBinPlan");
-    auto &bin = ui::get<QPushButton>(editor, "btnDaypartSelect0_0");
+    HoldBins editor(bins::menuOf(u"KTR22"_s, {2, 2}));
+    const QWidget &plan = editor.widget("btnBinPlan");
     QVERIFY(plan.isVisible() && plan.isEnabled());
-    const QPoint before = bin.mapTo(&editor, QPoint());
-    QTest::mousePress(&bin, Qt::LeftButton);
-    REQUIRE_SOON(bin.isChecked());
-    QTest::mouseRelease(&bin, Qt::LeftButton);
+    const QList<QRect> before = editor.places();
+    editor.press(0, 0);
+    REQUIRE_SOON(editor.isRemoving());
+    editor.release();
     QVERIFY(!plan.isVisible());
     QCoreApplication::sendPostedEvents();
-    QCOMPARE(bin.mapTo(&editor, QPoint()), before);
-    ui::click(editor, "btnCancelDaypartRemove");
+    QCOMPARE(editor.places(), before);
+    ui::click(*editor, "btnCancelDaypartRemove");
     QVERIFY(plan.isVisible());
 }
 
