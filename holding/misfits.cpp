@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include "holding/producttypes.h"
+#include "model/shortened.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,11 +20,6 @@ struct Text
 };
 
 constexpr qsizetype longestWord = 20; // in characters; a file may hold any
-
-QString shortened(const QString &word)
-{
-    return word.size() <= longestWord ? word : word.first(longestWord) + u'\u2026';
-}
 
 /// Upper and lower, in °F.
 struct Temperatures
@@ -96,7 +92,7 @@ QString groupTemperatureText(const Temperatures &own, const Temperatures &group,
 // Words of a file that nobody knows are told as they stand.
 QString lidWord(const QString &lidType)
 {
-    return lidTypes().contains(lidType) ? lidText(lidType) : shortened(lidType);
+    return lidTypes().contains(lidType) ? lidText(lidType) : shortened(lidType, longestWord);
 }
 
 QString groupLidText(const QString &own, const QString &group)
@@ -108,13 +104,14 @@ QString groupLidText(const QString &own, const QString &group)
 QString binSplitText(const QString &own)
 {
     return own.isEmpty() ? Text::tr("Without a zone split it has no room here")
-                         : Text::tr("Zone split %1 has no room here").arg(shortened(own));
+                         : Text::tr("Zone split %1 has no room here").arg(shortened(own, longestWord));
 }
 
 QString groupSplitText(const QString &own, const QString &group)
 {
-    return own.isEmpty() ? Text::tr("No zone split, this group has %1").arg(shortened(group))
-                         : Text::tr("Zone split %1, this group has %2").arg(shortened(own), shortened(group));
+    return own.isEmpty() ? Text::tr("No zone split, this group has %1").arg(shortened(group, longestWord))
+                         : Text::tr("Zone split %1, this group has %2")
+                               .arg(shortened(own, longestWord), shortened(group, longestWord));
 }
 
 /// Demands are told one after the other.
@@ -208,7 +205,7 @@ QString groupDemandText(const HoldingSettings &group, const CabinetConfiguration
     Demands demands(configuration);
     demands.addTemperatures({group.upperTemp, group.lowerTemp});
     if (!group.zoneSplits.isEmpty())
-        demands.addZoneSplits({shortened(group.zoneSplits)});
+        demands.addZoneSplits({shortened(group.zoneSplits, longestWord)});
     demands.addFanSpeed(group.fanSpeed);
     demands.addLid(group.lidType);
     return demands.text(Text::tr("Any product may join"));
