@@ -264,7 +264,7 @@ void TestHoldingPlan::hugeGroupsCostLittle()
 {
     Menu menu = menuOf(u"QHX"_s, u"KTR82"_s);
     menu.product(1)->set_productName({QString(2'000'000, u'n')});
-    const ProductInfo &group = addGroup(menu, QList<int>(2'000'000, 1), 1'999'999);
+    ProductInfo &group = addGroup(menu, QList<int>(2'000'000, 1), 1'999'999);
     menu.daypartCount = maxDayparts;
     for (Daypart &daypart : menu.dayparts) {
         daypart.inUse = true;
@@ -279,6 +279,11 @@ void TestHoldingPlan::hugeGroupsCostLittle()
     const QString members = cabinet.dayparts[9].bins.constLast().content.members;
     QCOMPARE(members.count(u'n'), 100 * 60);
     QVERIFY(members.endsWith(u" · …"_s));
+    group.set_productList(QList<int>(2'000'000, 77)); // none of which can be the default
+    timer.start();
+    const QString missing = plannedCabinet(menu).dayparts[9].bins.constLast().content.members;
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(missing.count(u"Id 77"_s), 100);
     menu.dayparts[0].bins[0][0] = 1;
     QCOMPARE(plannedCabinet(menu).dayparts[0].bins[0].content.name.size(), 2'000'000);
 }
