@@ -82,7 +82,7 @@ binplan::Content contentOf(const Planned &planned, const SlotContent &slot, int 
         const QList<int> ids = slot.entry->get_productList();
         const int first = defaultMember(*slot.entry, planned.products);
         content.members = membersText(ids, first, planned.products);
-        timed = findEntry(planned.products, ids.value(first));
+        timed = ids.isEmpty() ? nullptr : findEntry(planned.products, ids[first]);
     }
     content.settings = settingsText(*slot.entry, timed, planned.menu.configuration);
     if (timed && planned.menu.configuration.timerColorEnabled)

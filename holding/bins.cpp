@@ -75,9 +75,10 @@ QStringList allowedZoneSplits(const CabinetShape &shape, const RowContent &row, 
 
 bool isBehindHalves(const CabinetShape &shape, const RowContent &row, int slot)
 {
+    if (shape.binsPerZone != 3)
+        return false;
     const Zone zone = shape.zoneOfSlot(slot);
-    return shape.binsPerZone == 3 && slot == zone.end() - 1 &&
-           isZoneOfHalves(row, {zone.first, zone.count - 1});
+    return slot == zone.end() - 1 && isZoneOfHalves(row, {zone.first, zone.count - 1});
 }
 
 Misfit binMisfit(const ProductInfo &entry, const BinLimits &limits, const QStringList &zoneSplits,

@@ -3,6 +3,7 @@
 
 #include "holding/inconsistencies.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "holding/bins.h"
@@ -24,6 +25,28 @@ bool isUnknownWord(const QStringList &words, const QString &word)
 {
     return !word.isEmpty() && !words.contains(word);
 }
+
+/// Tells which members of a list stand before in it, too.
+class Repetitions
+{
+public:
+    explicit Repetitions(const QList<int> &ids)
+        : m_ids(ids)
+    {}
+
+    /// To be asked of one position after the other.
+    [[nodiscard]] bool isRepeated(int position)
+    {
+        if (m_ids.size() > maxEntries) // of a file, which may have millions
+            return !m_seen.insert(m_ids[position]).second;
+        const auto here = m_ids.begin() + position;
+        return std::find(m_ids.begin(), here, *here) != here;
+    }
+
+private:
+    const QList<int> &m_ids;
+    std::unordered_set<int> m_seen;
+};
 
 void countIf(bool condition, int position, Finding &finding)
 {
@@ -158,12 +181,12 @@ void Inspection::lookAtMembers(const ProductInfo &group, const MenuPlace &place)
     Finding missing{.kind = FindingKind::MissingMembers, .place = place, .count = 0};
     Finding repeated{.kind = FindingKind::RepeatedMembers, .place = place, .count = 0};
     Finding unfit{.kind = FindingKind::UnfitMembers, .place = place, .count = 0};
-    std::unordered_set<int> ids;
+    Repetitions repetitions(members);
     for (int position = 0; position < members.size(); ++position) {
         const ProductInfo *member = findEntry(m_entries, members[position]);
         const bool isMissing = !member || member->get_isGroup();
         countIf(isMissing, position, missing);
-        countIf(!isMissing && !ids.insert(members[position]).second, position, repeated);
+        countIf(!isMissing && repetitions.isRepeated(position), position, repeated);
         countIf(!isMissing && !draft.fits(*member), position, unfit);
     }
     addIf(members.isEmpty(), FindingKind::NoMembers, place);

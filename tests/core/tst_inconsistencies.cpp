@@ -199,6 +199,9 @@ void TestInconsistencies::group_data()
         u"Group 1, Meats: 3 of its 5 products are repeated"_s, [](Menu &menu) {
             menu.groups[0]->set_productList({1, 1, 2, 1, 2});
         });
+    add("many repeated members", {RepeatedMembers, meats, 1, 100},
+        u"Group 1, Meats: 100 of its 101 products are repeated"_s,
+        [](Menu &menu) { menu.groups[0]->set_productList(QList<int>(101, 1)); });
     const QString hotter = u"Does not fit: 215 °F / 200 °F, this group holds 200 °F / 200 °F"_s;
     add("unfit member", {UnfitMembers, meats, 1, 1}, u"Group 1, Meats: Chili does not suit it. "_s + hotter,
         [](Menu &menu) {
