@@ -33,8 +33,8 @@ int main(int argc, char *argv[])
         QElapsedTimer timer;
         timer.start();
         measured([&menu] {
-            const binplan::Cabinet cabinet = holding::plannedCabinet(menu, u"menu.json"_s);
-            if (pdfOf(layOut(cabinet, binplan::Paper::A4)).isEmpty())
+            const binplan::Cabinet cabinet = holding::plannedCabinet(menu);
+            if (pdfOf(layOut(cabinet, u"menu.json"_s, binplan::Paper::A4)).isEmpty())
                 std::fprintf(stderr, "bin_plan: nothing was written\n");
         });
         times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);

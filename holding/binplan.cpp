@@ -4,11 +4,15 @@
 #include "holding/binplan.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "holding/binlabel.h"
+#include "holding/dayparttitle.h"
+#include "holding/groupdraft.h"
 #include "holding/rowdescription.h"
 #include "holding/rowlook.h"
 #include "holding/timercolors.h"
+#include "model/shortened.h"
 #include "model/times.h"
 
 using namespace Qt::StringLiterals;
@@ -17,7 +21,6 @@ namespace holding {
 
 namespace {
 
-constexpr int zoneGap = 12; ///< beside what zoneWidth() tells
 // A file may give a group millions of members, and a member a name of megabytes.
 constexpr qsizetype mostMembers = maxEntries;
 constexpr qsizetype longestMember = 60;
@@ -27,23 +30,15 @@ struct Planned
 {
     const Menu &menu;
     EntryIndex products;
+    std::unordered_map<int, binplan::Content> contents; ///< of the ids that were asked for before
 };
 
-/// The place of the member that the cabinet starts with; of the first one where a file holds a wrong place.
-qsizetype defaultMember(const ProductInfo &group)
+/// As the group editor shows it.
+int defaultMember(const ProductInfo &group, const EntryIndex &products)
 {
-    const qsizetype place = group.get_defaultIndex();
-    return place >= 0 && place < group.get_productList().size() ? place : 0;
-}
-
-/// Where a bin's settings that a group has not of its own come from: the product itself, or the member that
-/// the cabinet starts with. Null where that is missing.
-const ProductInfo *timedProduct(const ProductInfo &entry, const EntryIndex &products)
-{
-    if (!entry.get_isGroup())
-        return &entry;
-    const QList<int> members = entry.get_productList();
-    return members.isEmpty() ? nullptr : findEntry(products, members[defaultMember(entry)]);
+    const QList<int> ids = group.get_productList();
+    return settledDefault(group.get_defaultIndex(), static_cast<int>(ids.size()),
+                          [&](int position) { return findEntry(products, ids[position]) != nullptr; });
 }
 
 QString settingsText(const ProductInfo &entry, const ProductInfo *timed,
@@ -53,61 +48,63 @@ QString settingsText(const ProductInfo &entry, const ProductInfo *timed,
     return timed ? temperatures + u"  "_s + timeText(timed->get_holdTime()) : temperatures;
 }
 
-QString membersText(const ProductInfo &group, const EntryIndex &products)
+/// The default member first, then the others in the group's order.
+QString membersText(const QList<int> &ids, qsizetype defaultMember, const EntryIndex &products)
 {
-    const QList<int> ids = group.get_productList();
     QStringList names;
-    const auto append = [&](qsizetype place) {
-        const SlotContent member{true, findEntry(products, ids[place])};
-        names.append(binLabel(member, ids[place]).name.left(longestMember));
-    };
-    if (!ids.isEmpty())
-        append(defaultMember(group));
-    for (qsizetype i = 0; i < ids.size() && names.size() < mostMembers; ++i) {
-        if (i != defaultMember(group))
-            append(i);
+    for (qsizetype i = 0; i < std::min(ids.size(), mostMembers); ++i) {
+        const int id = ids[i == 0 ? defaultMember : i <= defaultMember ? i - 1 : i];
+        const SlotContent member{true, findEntry(products, id)};
+        names.append(shortened(binLabel(member, id).name, longestMember));
     }
     if (names.size() < ids.size())
         names.append(u"…"_s);
     return names.join(u" · "_s);
 }
 
+void addColor(binplan::Content &content, const ProductInfo &product)
+{
+    const TimerColor &color = timerColorByName(product.get_timerColor());
+    if (color.isNone())
+        return;
+    content.colorName = shadeName(color);
+    content.color = color.color;
+}
+
 binplan::Content contentOf(const Planned &planned, const SlotContent &slot, int id)
 {
-    binplan::Content content{binLabel(slot, id).name, {}, {}, 0, {}};
+    binplan::Content content;
+    content.name = binLabel(slot, id).name;
     if (!slot.entry)
         return content;
-    const CabinetConfiguration &configuration = planned.menu.configuration;
-    const ProductInfo *timed = timedProduct(*slot.entry, planned.products);
-    content.settings = settingsText(*slot.entry, timed, configuration);
-    const TimerColor &color = timerColorByName(timed ? timed->get_timerColor() : QString());
-    if (configuration.timerColorEnabled && !color.isNone()) {
-        content.colorName = shadeName(color);
-        content.color = color.color;
+    const ProductInfo *timed = slot.entry; // whose time and colour count
+    if (slot.entry->get_isGroup()) {
+        const QList<int> ids = slot.entry->get_productList();
+        const int first = defaultMember(*slot.entry, planned.products);
+        content.members = membersText(ids, first, planned.products);
+        timed = ids.isEmpty() ? nullptr : findEntry(planned.products, ids[first]);
     }
-    if (slot.entry->get_isGroup())
-        content.members = membersText(*slot.entry, planned.products);
+    content.settings = settingsText(*slot.entry, timed, planned.menu.configuration);
+    if (timed && planned.menu.configuration.timerColorEnabled)
+        addColor(content, *timed);
     return content;
 }
 
-/// Where a zone stands in the width of the grid, which is 1.
-struct ZonePlace
+const binplan::Content &knownContent(Planned &planned, const SlotContent &slot, int id)
 {
-    qreal left = 0;
-    qreal width = 1;
-};
-
-ZonePlace placeOf(const CabinetShape &shape, int zone)
-{
-    const int first = zoneWidth(shape, 0);
-    if (shape.zones < 2)
-        return {};
-    const qreal all = first + zoneGap + zoneWidth(shape, 1);
-    return zone == 0 ? ZonePlace{0, first / all}
-                     : ZonePlace{(first + zoneGap) / all, zoneWidth(shape, 1) / all};
+    const auto [found, isNew] = planned.contents.try_emplace(id);
+    if (isNew)
+        found->second = contentOf(planned, slot, id);
+    return found->second;
 }
 
-QList<binplan::GridBin> binsOf(const Planned &planned, const Daypart &daypart, int row)
+binplan::Span spanOf(const CabinetShape &shape, int slot)
+{
+    const int rightWidth = shape.zones == 2 ? zoneWidth(shape, 1) : 0;
+    return binplan::zoneSpan(zoneWidth(shape, 0), rightWidth, slot >= shape.binsPerZone);
+}
+
+QList<binplan::GridBin> binsOf(Planned &planned, const Daypart &daypart, int row)
 {
     const CabinetShape shape = planned.menu.shape();
     const RowContent content = rowContent(planned.menu, daypart, row);
@@ -117,28 +114,30 @@ QList<binplan::GridBin> binsOf(const Planned &planned, const Daypart &daypart, i
         const BinSpan &span = spans[slot];
         if (span.count == 0)
             continue;
-        const ZonePlace zone = placeOf(shape, slot < shape.binsPerZone ? 0 : 1);
+        const binplan::Span zone = spanOf(shape, slot);
         const qreal part = zone.width / span.parts;
         bins.append({row, zone.left + span.first * part, zone.left + (span.first + span.count) * part,
-                     contentOf(planned, content[slot], daypart.bins[row][slot])});
+                     knownContent(planned, content[slot], daypart.bins[row][slot])});
     }
     return bins;
 }
 
 } // namespace
 
-binplan::Cabinet plannedCabinet(const Menu &menu, const QString &fileName)
+binplan::Cabinet plannedCabinet(const Menu &menu)
 {
     const CabinetShape shape = menu.shape();
     const CabinetConfiguration &configuration = menu.configuration;
-    binplan::Cabinet cabinet{
-        fileName, configuration.type + u' ' + configuration.model, shape.rows, shape.binsPerRow(), {}};
-    const Planned planned{menu, indexById(pointersTo(menu.products))};
+    binplan::Cabinet cabinet{.model = configuration.type + u' ' + configuration.model,
+                             .rows = shape.rows,
+                             .columns = shape.binsPerRow(),
+                             .dayparts = {}};
+    Planned planned{menu, indexById(pointersTo(menu.products)), {}};
     for (int i = 0; i < menu.daypartCount && shape.isKnown(); ++i) {
         const Daypart &daypart = menu.dayparts[i];
         if (!daypart.inUse)
             continue;
-        cabinet.dayparts.append({shownName(daypart.names), {}});
+        cabinet.dayparts.append({daypartTitle(daypart, i), {}});
         for (int row = 0; row < shape.rows; ++row)
             cabinet.dayparts.last().bins += binsOf(planned, daypart, row);
     }

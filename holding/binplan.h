@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <QString>
-
 #include "holding/menu.h"
 #include "model/binplan.h"
 
@@ -12,6 +10,6 @@ namespace holding {
 
 /// What the bin plan tells of a menu: the day parts in use, with the bins that the editor's grid shows. None
 /// for a cabinet that is not known.
-[[nodiscard]] binplan::Cabinet plannedCabinet(const Menu &menu, const QString &fileName);
+[[nodiscard]] binplan::Cabinet plannedCabinet(const Menu &menu);
 
 } // namespace holding

@@ -73,6 +73,14 @@ QStringList allowedZoneSplits(const CabinetShape &shape, const RowContent &row, 
     return zoneSplitsForRun(shape.binsPerZone, freeRun(row, zone, slot));
 }
 
+bool isBehindHalves(const CabinetShape &shape, const RowContent &row, int slot)
+{
+    if (shape.binsPerZone != 3)
+        return false;
+    const Zone zone = shape.zoneOfSlot(slot);
+    return slot == zone.end() - 1 && isZoneOfHalves(row, {zone.first, zone.count - 1});
+}
+
 Misfit binMisfit(const ProductInfo &entry, const BinLimits &limits, const QStringList &zoneSplits,
                  bool fanSpeedEnabled)
 {

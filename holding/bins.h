@@ -47,6 +47,10 @@ struct BinLimits
 /// The zone splits that an entry for the slot may have, in the order of zoneSplitsForRun().
 [[nodiscard]] QStringList allowedZoneSplits(const CabinetShape &shape, const RowContent &row, int slot);
 
+/// Whether a bin has no place of its own: a half in one of the first two bins of three makes two halves of
+/// their zone, which leave no third bin. Whatever a file puts there is not shown.
+[[nodiscard]] bool isBehindHalves(const CabinetShape &shape, const RowContent &row, int slot);
+
 /// What keeps an entry out of a bin with these limits and splits.
 [[nodiscard]] Misfit binMisfit(const ProductInfo &entry, const BinLimits &limits,
                                const QStringList &zoneSplits, bool fanSpeedEnabled);

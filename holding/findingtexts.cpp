@@ -4,10 +4,13 @@
 #include <QCoreApplication>
 
 #include "holding/bins.h"
+#include "holding/dayparttitle.h"
 #include "holding/groupdraft.h"
 #include "holding/inconsistencies.h"
 #include "holding/misfits.h"
 #include "holding/productrules.h"
+#include "model/findingtexts.h"
+#include "model/shortened.h"
 #include "model/timelimits.h"
 #include "model/times.h"
 
@@ -26,15 +29,10 @@ using Part = MenuPlace::Part;
 
 constexpr qsizetype longestName = 40; // in characters; a file may hold any
 
-QString shortened(const QString &text)
-{
-    return text.size() <= longestName ? text : text.first(longestName) + u'\u2026';
-}
-
 QString nameOf(const ProductInfo &entry)
 {
     const QString name = shownName(entry.get_productName());
-    return name.isEmpty() ? Text::tr("Id %1").arg(entry.get_productId()) : shortened(name);
+    return name.isEmpty() ? Text::tr("Id %1").arg(entry.get_productId()) : shortened(name, longestName);
 }
 
 /// The findings of one menu in sentences.
@@ -56,6 +54,7 @@ private:
     [[nodiscard]] QString ofEntry(FindingKind kind, const ProductInfo &entry) const;
     [[nodiscard]] QString ofProduct(FindingKind kind, const ProductInfo &product) const;
     [[nodiscard]] QString ofTemperature(FindingKind kind, const ProductInfo &product) const;
+    [[nodiscard]] QString ofTwoTemperatures(const ProductInfo &product) const;
     [[nodiscard]] QString ofGroup(const Finding &finding, const ProductInfo &group) const;
     [[nodiscard]] QString ofUnfitMembers(const Finding &finding, const ProductInfo &group) const;
     [[nodiscard]] QString ofBin(const Daypart &daypart, Bin bin) const;
@@ -72,7 +71,7 @@ QString Sentences::of(const Finding &finding) const
     switch (finding.kind) {
     case FindingKind::TooManyEntries:
         return Text::tr("This menu has %1 products and groups, a cabinet takes at most %2")
-            .arg(finding.number)
+            .arg(m_menu.products.size() + m_menu.groups.size())
             .arg(maxEntries);
     case FindingKind::MissingEntry:
     case FindingKind::UnfitEntry:
@@ -97,12 +96,12 @@ QString Sentences::titleOf(const MenuPlace &place) const
 {
     const QString number = QString::number(place.index + 1);
     if (place.part == Part::Bins) {
-        const QString name = shortened(shownName(m_menu.dayparts[place.index].names));
+        const QString daypart = daypartTitle(m_menu.dayparts[place.index], place.index);
         return Text::tr("%1, Row %2, Bin %3")
-            .arg(name.isEmpty() ? Text::tr("Day part %1").arg(number) : name,
-                 QString::number(place.bin.row + 1), QString::number(place.bin.slot + 1));
+            .arg(shortened(daypart, longestName), QString::number(place.bin.row + 1),
+                 QString::number(place.bin.slot + 1));
     }
-    const QString name = shortened(shownName(entryAt(place).get_productName()));
+    const QString name = shortened(shownName(entryAt(place).get_productName()), longestName);
     if (place.part == Part::Groups)
         return name.isEmpty() ? Text::tr("Group %1").arg(number) : Text::tr("Group %1, %2").arg(number, name);
     return name.isEmpty() ? Text::tr("Product %1").arg(number) : Text::tr("Product %1, %2").arg(number, name);
@@ -141,13 +140,17 @@ QString Sentences::ofProduct(FindingKind kind, const ProductInfo &product) const
     case FindingKind::ZoneSplit:
         return product.get_zoneSplits().isEmpty()
                    ? Text::tr("There is no zone split")
-                   : Text::tr("This cabinet has no zone split %1").arg(shortened(product.get_zoneSplits()));
+                   : Text::tr("This cabinet has no zone split %1")
+                         .arg(shortened(product.get_zoneSplits(), longestName));
     case FindingKind::LidType:
-        return Text::tr("There is no lid %1").arg(shortened(product.get_lidType()));
+        return Text::tr("There is no lid %1").arg(shortened(product.get_lidType(), longestName));
     case FindingKind::BottomType:
-        return Text::tr("There is no bottom %1").arg(shortened(product.get_bottomType()));
+        return Text::tr("There is no bottom %1").arg(shortened(product.get_bottomType(), longestName));
     case FindingKind::TimerColor:
-        return Text::tr("There is no timer color %1").arg(shortened(product.get_timerColor()));
+        return product.get_timerColor().isEmpty()
+                   ? Text::tr("No timer color is stored")
+                   : Text::tr("There is no timer color %1")
+                         .arg(shortened(product.get_timerColor(), longestName));
     default:
         return ofEntry(kind, product);
     }
@@ -157,15 +160,27 @@ QString Sentences::ofTemperature(FindingKind kind, const ProductInfo &product) c
 {
     const int unit = m_configuration.temperatureUnit;
     const TemperatureRange range = productTemperatureRange(unit);
-    const QString lowest = QString::number(range.lowest);
-    const QString highest = QString::number(range.highest) + unitText(unit);
-    const QString upper = temperatureText(product.get_upperTemp(), unit);
+    const bool isUpper = kind == FindingKind::UpperTemperature;
     if (isZpv(m_configuration.type))
-        return Text::tr("The temperature is %1, not %2 to %3").arg(upper, lowest, highest);
-    if (kind == FindingKind::UpperTemperature)
-        return Text::tr("The upper temperature is %1, not %2 to %3").arg(upper, lowest, highest);
-    return Text::tr("The lower temperature is %1, not %2 to %3")
-        .arg(temperatureText(product.get_lowerTemp(), unit), lowest, highest);
+        return isUpper
+                   ? Text::tr("The temperature is %1, not %2 to %3")
+                         .arg(temperatureText(product.get_upperTemp(), unit), QString::number(range.lowest),
+                              QString::number(range.highest) + unitText(unit))
+                   : ofTwoTemperatures(product);
+    return unfitTemperatureText(kind, isUpper ? product.get_upperTemp() : product.get_lowerTemp(), unit,
+                                range);
+}
+
+// Where both are shown alike in °C, they differ in °F.
+QString Sentences::ofTwoTemperatures(const ProductInfo &product) const
+{
+    const int upper = product.get_upperTemp();
+    const int lower = product.get_lowerTemp();
+    int unit = m_configuration.temperatureUnit;
+    if (shownTemperature(upper, unit) == shownTemperature(lower, unit))
+        unit = unitFahrenheit;
+    return Text::tr("This cabinet has one temperature, stored are %1 and %2")
+        .arg(temperatureText(upper, unit), temperatureText(lower, unit));
 }
 
 QString Sentences::ofGroup(const Finding &finding, const ProductInfo &group) const
@@ -176,10 +191,15 @@ QString Sentences::ofGroup(const Finding &finding, const ProductInfo &group) con
         return Text::tr("There are no products in it");
     case FindingKind::MissingMembers:
         return finding.count == 1
-                   ? Text::tr("Its product with the id %1 is not in this menu").arg(members[finding.number])
+                   ? Text::tr("Its product with the id %1 is not in this menu").arg(members[finding.position])
                    : Text::tr("%1 of its %2 products are not in this menu")
                          .arg(finding.count)
                          .arg(members.size());
+    case FindingKind::RepeatedMembers:
+        return finding.count == 1
+                   ? Text::tr("%1 is in it twice")
+                         .arg(nameOf(*findEntry(m_entries, members[finding.position])))
+                   : Text::tr("%1 of its %2 products are repeated").arg(finding.count).arg(members.size());
     case FindingKind::UnfitMembers:
         return ofUnfitMembers(finding, group);
     case FindingKind::NoDefault:
@@ -191,7 +211,7 @@ QString Sentences::ofGroup(const Finding &finding, const ProductInfo &group) con
 
 QString Sentences::ofUnfitMembers(const Finding &finding, const ProductInfo &group) const
 {
-    const ProductInfo *first = findEntry(m_entries, group.get_productList().at(finding.number));
+    const ProductInfo *first = findEntry(m_entries, group.get_productList().at(finding.position));
     const GroupDraft draft(group, m_configuration);
     const QString reason = groupMisfitText(*first, draft.settings(), m_configuration);
     return finding.count == 1 ? Text::tr("%1 does not suit it. %2").arg(nameOf(*first), reason)
@@ -205,6 +225,8 @@ QString Sentences::ofBin(const Daypart &daypart, Bin bin) const
     const ProductInfo *entry = row[bin.slot].entry;
     if (!entry)
         return Text::tr("The id %1 is not in this menu").arg(daypart.bins[bin]);
+    if (isBehindHalves(m_shape, row, bin.slot))
+        return Text::tr("%1. This zone has two halves and no third bin").arg(nameOf(*entry));
     const BinLimits limits =
         zoneLimits(row, m_shape.zoneOfSlot(bin.slot), bin.slot, m_configuration.fanSpeedEnabled);
     return Text::tr("%1. %2").arg(

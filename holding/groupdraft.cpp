@@ -47,12 +47,10 @@ void GroupDraft::remove(int position)
 
 void GroupDraft::settleDefault(const QList<int> &listedPositions)
 {
-    const int lastPosition = std::max(0, static_cast<int>(m_members.size()) - 1);
-    m_defaultPosition = std::clamp(m_defaultPosition, 0, lastPosition);
-    if (listedPositions.isEmpty())
-        return;
-    const auto next = std::lower_bound(listedPositions.begin(), listedPositions.end(), m_defaultPosition);
-    m_defaultPosition = next == listedPositions.end() ? listedPositions.constLast() : *next;
+    m_defaultPosition =
+        settledDefault(m_defaultPosition, static_cast<int>(m_members.size()), [&](int position) {
+            return std::binary_search(listedPositions.begin(), listedPositions.end(), position);
+        });
 }
 
 void GroupDraft::writeTo(ProductInfo &group) const
@@ -64,6 +62,20 @@ void GroupDraft::writeTo(ProductInfo &group) const
     group.set_fanSpeed(m_settings.fanSpeed);
     group.set_productList(m_members);
     group.set_defaultIndex(m_defaultPosition);
+}
+
+int settledDefault(int stored, int count, const std::function<bool(int)> &isListed)
+{
+    const int nearest = std::clamp(stored, 0, std::max(0, count - 1));
+    for (int position = nearest; position < count; ++position) {
+        if (isListed(position))
+            return position;
+    }
+    for (int position = nearest - 1; position >= 0; --position) {
+        if (isListed(position))
+            return position;
+    }
+    return nearest;
 }
 
 } // namespace holding

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include <QList>
 
 #include "holding/cabinet.h"
@@ -34,8 +36,7 @@ public:
     void remove(int position);
 
     void setDefault(int position) { m_defaultPosition = position; }
-    /// Takes the next of these ascending positions as the default where it is none of them, or else the last
-    /// one: a file may name a default that does not exist or whose product is missing.
+    /// Takes settledDefault() of these ascending positions as the default.
     void settleDefault(const QList<int> &listedPositions);
 
     /// Stores all but the name.
@@ -50,5 +51,10 @@ private:
     int m_defaultPosition;
     HoldingSettings m_settings;
 };
+
+/// The position of a group's default member, as its dialog takes it: the stored one, or where that is not
+/// listed the next one that is, or else the last one. A file may name a default that does not exist or whose
+/// product is missing. Where none of `count` members is listed, the nearest position that there is, or 0.
+[[nodiscard]] int settledDefault(int stored, int count, const std::function<bool(int)> &isListed);
 
 } // namespace holding

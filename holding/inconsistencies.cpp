@@ -3,6 +3,9 @@
 
 #include "holding/inconsistencies.h"
 
+#include <algorithm>
+#include <unordered_set>
+
 #include "holding/bins.h"
 #include "holding/groupdraft.h"
 #include "holding/productrules.h"
@@ -21,6 +24,34 @@ using Part = MenuPlace::Part;
 bool isUnknownWord(const QStringList &words, const QString &word)
 {
     return !word.isEmpty() && !words.contains(word);
+}
+
+/// Tells which members of a list stand before in it, too.
+class Repetitions
+{
+public:
+    explicit Repetitions(const QList<int> &ids)
+        : m_ids(ids)
+    {}
+
+    /// To be asked of one position after the other.
+    [[nodiscard]] bool isRepeated(int position)
+    {
+        if (m_ids.size() > maxEntries) // of a file, which may have millions
+            return !m_seen.insert(m_ids[position]).second;
+        const auto here = m_ids.begin() + position;
+        return std::find(m_ids.begin(), here, *here) != here;
+    }
+
+private:
+    const QList<int> &m_ids;
+    std::unordered_set<int> m_seen;
+};
+
+void countIf(bool condition, int position, Finding &finding)
+{
+    if (condition && finding.count++ == 0)
+        finding.position = position;
 }
 
 class Inspection
@@ -88,13 +119,12 @@ Findings Inspection::findings()
 void Inspection::lookAtNumber()
 {
     const auto products = static_cast<int>(m_menu.products.size());
-    const int all = products + static_cast<int>(m_menu.groups.size());
-    if (all <= maxEntries)
+    if (products + static_cast<int>(m_menu.groups.size()) <= maxEntries)
         return;
     const MenuPlace place = products > maxEntries
                                 ? MenuPlace{.part = Part::Products, .index = maxEntries}
                                 : MenuPlace{.part = Part::Groups, .index = maxEntries - products};
-    m_found.add({.kind = FindingKind::TooManyEntries, .place = place, .number = all});
+    m_found.add({.kind = FindingKind::TooManyEntries, .place = place});
 }
 
 void Inspection::lookAtEntry(const ProductInfo &entry, const MenuPlace &place)
@@ -118,9 +148,14 @@ void Inspection::lookAtTimes(const ProductInfo &product, const MenuPlace &place)
 void Inspection::lookAtTemperatures(const ProductInfo &product, const MenuPlace &place)
 {
     const int unit = m_configuration.temperatureUnit;
-    addIf(!isProductTemperature(product.get_upperTemp(), unit), FindingKind::UpperTemperature, place);
-    addIf(!isZpv(m_configuration.type) && !isProductTemperature(product.get_lowerTemp(), unit),
-          FindingKind::LowerTemperature, place);
+    const int upper = product.get_upperTemp();
+    const int lower = product.get_lowerTemp();
+    const bool isUpperFit = isProductTemperature(upper, unit);
+    addIf(!isUpperFit, FindingKind::UpperTemperature, place);
+    // The dialog of a cabinet with one temperature stores the upper one as both.
+    const bool isLowerFit =
+        isZpv(m_configuration.type) ? !isUpperFit || lower == upper : isProductTemperature(lower, unit);
+    addIf(!isLowerFit, FindingKind::LowerTemperature, place);
 }
 
 // What the dialog would silently take another choice for.
@@ -144,18 +179,18 @@ void Inspection::lookAtMembers(const ProductInfo &group, const MenuPlace &place)
     const QList<int> members = group.get_productList();
     const GroupDraft draft(group, m_configuration);
     Finding missing{.kind = FindingKind::MissingMembers, .place = place, .count = 0};
+    Finding repeated{.kind = FindingKind::RepeatedMembers, .place = place, .count = 0};
     Finding unfit{.kind = FindingKind::UnfitMembers, .place = place, .count = 0};
+    Repetitions repetitions(members);
     for (int position = 0; position < members.size(); ++position) {
         const ProductInfo *member = findEntry(m_entries, members[position]);
         const bool isMissing = !member || member->get_isGroup();
-        if (!isMissing && draft.fits(*member))
-            continue;
-        Finding &finding = isMissing ? missing : unfit;
-        if (finding.count++ == 0)
-            finding.number = position;
+        countIf(isMissing, position, missing);
+        countIf(!isMissing && repetitions.isRepeated(position), position, repeated);
+        countIf(!isMissing && !draft.fits(*member), position, unfit);
     }
     addIf(members.isEmpty(), FindingKind::NoMembers, place);
-    for (const Finding &finding : {missing, unfit}) {
+    for (const Finding &finding : {missing, repeated, unfit}) {
         if (finding.count > 0)
             m_found.add(finding);
     }
@@ -175,11 +210,12 @@ void Inspection::lookAtRow(const Daypart &daypart, int index, int row)
     }
 }
 
-// As the list to pick from would say of the entry that stands there.
+// As the list to pick from would say of the entry that stands there, if the bin can be picked for.
 bool Inspection::fits(const RowContent &row, int slot) const
 {
     const bool fanSpeeds = m_configuration.fanSpeedEnabled;
-    return fitsBin(*row[slot].entry, zoneLimits(row, m_shape.zoneOfSlot(slot), slot, fanSpeeds),
+    return !isBehindHalves(m_shape, row, slot) &&
+           fitsBin(*row[slot].entry, zoneLimits(row, m_shape.zoneOfSlot(slot), slot, fanSpeeds),
                    allowedZoneSplits(m_shape, row, slot), fanSpeeds);
 }
 

@@ -14,7 +14,6 @@
 #include "holding/binplan.h"
 #include "holding/rowdescription.h"
 #include "holding/rowlook.h"
-#include "model/files.h"
 #include "model/times.h"
 #include "ui_menufile.h"
 #include "widgets/longtext.h"
@@ -251,5 +250,5 @@ void MenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]] int in
 
 void MenuFile::saveBinPlan()
 {
-    writeBinPlan(holding::plannedCabinet(m_menu, lastPathPart(filePath())), tr("No day part is in use."));
+    writeBinPlan(holding::plannedCabinet(m_menu), tr("No day part is in use."));
 }

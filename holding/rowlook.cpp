@@ -20,8 +20,10 @@ constexpr int oneBinZoneWidth = 177;
 void showHalves(const CabinetShape &shape, const Zone &zone, RowLook &looks)
 {
     looks[zone.first + 2].visible = false;
-    for (const int slot : {zone.first, zone.first + 1})
+    for (const int slot : {zone.first, zone.first + 1}) {
         looks[slot].minimumWidth = binButtonWidth(shape, u"1/2"_s);
+        looks[slot].parts = 2;
+    }
 }
 
 void hideCoveredBins(const CabinetShape &shape, const Zone &zone, const RowContent &row, int slot,
@@ -45,6 +47,7 @@ void showZone(const CabinetShape &shape, const Zone &zone, const RowContent &row
 {
     for (int slot = zone.first; slot < zone.end(); ++slot) {
         looks[slot].visible = true;
+        looks[slot].parts = zone.count;
         if (const ProductInfo *entry = row[slot].entry)
             looks[slot].minimumWidth = binButtonWidth(shape, entry->get_zoneSplits());
     }
@@ -66,18 +69,9 @@ RowLook rowLook(const CabinetShape &shape, const RowContent &row)
 
 namespace {
 
-// As showHalves() leaves them.
-bool showsHalves(const CabinetShape &shape, const Zone &zone, const RowLook &looks)
+void spanZone(const Zone &zone, const RowLook &looks, RowSpans &spans)
 {
-    const int half = binButtonWidth(shape, u"1/2"_s);
-    return zone.count == 3 && !looks[zone.first + 2].visible && looks[zone.first].minimumWidth == half &&
-           looks[zone.first + 1].minimumWidth == half;
-}
-
-void spanZone(const CabinetShape &shape, const Zone &zone, const RowLook &looks, RowSpans &spans)
-{
-    const bool halves = showsHalves(shape, zone, looks);
-    const int parts = halves ? 2 : zone.count;
+    const int parts = looks[zone.first].parts;
     int covering = zone.first; // the first bin of a zone always shows
     for (int slot = zone.first; slot < zone.first + parts; ++slot) {
         if (looks[slot].visible) {
@@ -94,7 +88,7 @@ RowSpans rowSpans(const CabinetShape &shape, const RowLook &looks)
 {
     RowSpans spans;
     for (int zone = 0; zone < shape.zones; ++zone)
-        spanZone(shape, shape.zone(zone), looks, spans);
+        spanZone(shape.zone(zone), looks, spans);
     return spans;
 }
 

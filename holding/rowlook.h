@@ -16,6 +16,7 @@ struct BinLook
 {
     bool visible = false;
     int minimumWidth = emptyBinButtonWidth;
+    int parts = 1; ///< equal ones that its zone has
 
     friend bool operator==(const BinLook &, const BinLook &) = default;
 };

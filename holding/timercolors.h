@@ -30,7 +30,8 @@ using TimerPalette = std::array<TimerColor, paletteRows * paletteColumns>;
 /// The palette row by row; it lives as long as the program.
 [[nodiscard]] const TimerPalette &timerPalette();
 
-/// What the colour is called: "dark red"; the stored name of one that is none of the palette's.
+/// What the colour is called: "dark red", or "No color"; the stored name of one that is none of the
+/// palette's.
 [[nodiscard]] QString shadeName(const TimerColor &entry);
 
 /// The same and the stored name, for those who do not see it: "dark red, #700000", or "No color".

@@ -4,6 +4,7 @@
 #include "model/binplan.h"
 
 #include <algorithm>
+#include <array>
 
 #include <QCoreApplication>
 
@@ -17,6 +18,14 @@ struct Label
 {
     Q_DECLARE_TR_FUNCTIONS(BinPlan)
 };
+
+// Where Letter is the usual paper by the Unicode Common Locale Data Repository.
+constexpr std::array letterTerritories{
+    QLocale::Belize,     QLocale::Canada,     QLocale::Chile,        QLocale::Colombia, QLocale::CostaRica,
+    QLocale::Guatemala,  QLocale::Mexico,     QLocale::Nicaragua,    QLocale::Panama,   QLocale::Philippines,
+    QLocale::PuertoRico, QLocale::ElSalvador, QLocale::UnitedStates, QLocale::Venezuela};
+
+constexpr int zoneGap = 16; // in pixels, as in the editors' forms
 
 // All in points. No printer needs more of a margin.
 constexpr qreal margin = 28;
@@ -34,6 +43,11 @@ constexpr qreal largestName = 36;
 constexpr qreal settingsSize = 0.8;
 constexpr qreal colorSize = 0.6;
 constexpr qreal membersSize = 0.55;
+// The least sizes that texts are made smaller to: what has to be read from two metres, and what may ask for a
+// step nearer.
+constexpr qreal smallestAcross = 12;
+constexpr qreal smallestNear = 7;
+
 constexpr int nameLines = 2;
 constexpr int fewestMemberLines = 2;
 
@@ -48,7 +62,17 @@ bool isUpright(const Cabinet &cabinet)
     return cabinet.rows >= 2 * cabinet.columns;
 }
 
-QList<Text> headingOf(const Cabinet &cabinet, const Daypart &daypart, qreal pageWidth)
+/// A text that is made smaller down to half its size, and not below `least`.
+Text textOf(const QRectF &place, const QString &text, qreal size, qreal least)
+{
+    return {.place = place,
+            .text = text,
+            .size = size,
+            .smallestSize = std::min(size, std::max(size / 2, least))};
+}
+
+QList<Text> headingOf(const Cabinet &cabinet, const QString &fileName, const Daypart &daypart,
+                      qreal pageWidth)
 {
     const QRectF all(margin, margin, pageWidth - 2 * margin, headingHeight);
     const qreal half = headingHeight / 2;
@@ -57,34 +81,28 @@ QList<Text> headingOf(const Cabinet &cabinet, const Daypart &daypart, qreal page
     QRectF right = all;
     right.setLeft(left.right() + padding);
     right.setHeight(half);
-    constexpr Qt::Alignment atTheEnd = Qt::AlignRight | Qt::AlignVCenter;
-    QList<Text> texts{{left, daypart.name, daypartSize, true, false, Qt::AlignLeft | Qt::AlignVCenter}};
-    if (!cabinet.fileName.isEmpty())
-        texts.append({right, cabinet.fileName, remarkSize, false, false, atTheEnd});
-    texts.append({right.translated(0, half), cabinet.model, remarkSize, false, false, atTheEnd});
+    Text title = textOf(left, daypart.name, daypartSize, smallestAcross);
+    title.isBold = true;
+    title.alignment = Qt::AlignLeft | Qt::AlignVCenter;
+    QList<Text> texts{title};
+    const auto addRemark = [&texts](const QRectF &place, const QString &text) {
+        texts.append(textOf(place, text, remarkSize, smallestNear));
+        texts.last().alignment = Qt::AlignRight | Qt::AlignVCenter;
+    };
+    if (!fileName.isEmpty())
+        addRemark(right, fileName);
+    addRemark(right.translated(0, half), cabinet.model);
     return texts;
 }
 
-/// Gives out the room of a bin from the top.
-class Room
+/// Cuts a strip off the top.
+QRectF cutTop(QRectF &room, qreal height)
 {
-public:
-    explicit Room(const QRectF &room)
-        : m_room(room)
-    {}
-
-    [[nodiscard]] qreal height() const { return m_room.height(); }
-    [[nodiscard]] QRectF take(qreal height)
-    {
-        QRectF taken = m_room;
-        taken.setHeight(height);
-        m_room.setTop(taken.bottom());
-        return taken;
-    }
-
-private:
-    QRectF m_room;
-};
+    QRectF strip = room;
+    strip.setHeight(height);
+    room.setTop(strip.bottom());
+    return strip;
+}
 
 // A name of two lines, the settings and the colour fill a bin.
 qreal nameSizeFor(qreal height)
@@ -102,16 +120,21 @@ QList<Text> textsOf(const Content &content, const QRectF &place)
     const qreal nameHeight = nameRoom < lineStep(nameLines * size) && membersStep > 0
                                  ? lineStep(size)
                                  : lineStep(nameLines * size);
-    Room room(place);
+    QRectF room = place;
     if (membersStep <= 0) // in the middle
-        (void)room.take((place.height() - nameHeight - settingsHeight - colorHeight) / 2);
-    QList<Text> texts{{room.take(nameHeight), content.name, size, true, true}};
+        room.setTop(place.center().y() - (nameHeight + settingsHeight + colorHeight) / 2);
+    QList<Text> texts{textOf(cutTop(room, nameHeight), content.name, size, smallestAcross)};
+    texts.last().isBold = true;
+    texts.last().wraps = true;
     if (settingsHeight > 0)
-        texts.append({room.take(settingsHeight), content.settings, settingsSize * size});
+        texts.append(
+            textOf(cutTop(room, settingsHeight), content.settings, settingsSize * size, smallestAcross));
     if (colorHeight > 0)
-        texts.append({room.take(colorHeight), content.colorName, colorSize * size});
-    if (membersStep > 0)
-        texts.append({room.take(room.height()), content.members, membersSize * size, false, true});
+        texts.append(textOf(cutTop(room, colorHeight), content.colorName, colorSize * size, smallestNear));
+    if (membersStep > 0) {
+        texts.append(textOf(room, content.members, membersSize * size, smallestNear));
+        texts.last().wraps = true;
+    }
     return texts;
 }
 
@@ -130,9 +153,9 @@ Box boxOf(const Content &content, const QRectF &place)
     return box;
 }
 
-Page pageOf(const Cabinet &cabinet, const Daypart &daypart, const QSizeF &size)
+Page pageOf(const Cabinet &cabinet, const QString &fileName, const Daypart &daypart, const QSizeF &size)
 {
-    Page page{headingOf(cabinet, daypart, size.width()), {}};
+    Page page{headingOf(cabinet, fileName, daypart, size.width()), {}};
     const qreal top = margin + headingHeight + gapBelowHeading;
     const QRectF grid(margin, top, size.width() - 2 * margin, size.height() - margin - top);
     const qreal rowHeight = grid.height() / cabinet.rows;
@@ -149,17 +172,27 @@ Page pageOf(const Cabinet &cabinet, const Daypart &daypart, const QSizeF &size)
 
 Paper usualPaper(const QLocale &locale)
 {
-    return locale.measurementSystem() == QLocale::ImperialUSSystem ? Paper::Letter : Paper::A4;
+    const bool isLetter = std::find(letterTerritories.begin(), letterTerritories.end(), locale.territory()) !=
+                          letterTerritories.end();
+    return isLetter ? Paper::Letter : Paper::A4;
 }
 
-Plan layOut(const Cabinet &cabinet, Paper paper)
+Span zoneSpan(int leftWidth, int rightWidth, bool right)
+{
+    if (rightWidth == 0)
+        return {};
+    const qreal all = leftWidth + zoneGap + rightWidth;
+    return right ? Span{(leftWidth + zoneGap) / all, rightWidth / all} : Span{0, leftWidth / all};
+}
+
+Plan layOut(const Cabinet &cabinet, const QString &fileName, Paper paper)
 {
     const QSizeF upright = sizeOf(paper);
     Plan plan{Label::tr("Bin Plan"), isUpright(cabinet) ? upright : upright.transposed(), {}};
-    if (!cabinet.fileName.isEmpty())
-        plan.title = Label::tr("Bin Plan - %1").arg(cabinet.fileName);
+    if (!fileName.isEmpty())
+        plan.title = Label::tr("Bin Plan - %1").arg(fileName);
     for (const Daypart &daypart : cabinet.dayparts)
-        plan.pages.append(pageOf(cabinet, daypart, plan.pageSize));
+        plan.pages.append(pageOf(cabinet, fileName, daypart, plan.pageSize));
     return plan;
 }
 

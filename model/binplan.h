@@ -10,7 +10,7 @@
 #include <QString>
 
 /// The plan of a cabinet's bins that hangs beside it, as plain data: what a line says of its menu, and where
-/// that stands on paper. Texts come from files and may be of any length; nothing copies them.
+/// that stands on paper. Texts come from files and may be of any length; nothing here shortens them.
 namespace binplan {
 
 /// What a bin says. Without a name it is empty.
@@ -24,6 +24,16 @@ struct Content
 
     friend bool operator==(const Content &, const Content &) = default;
 };
+
+/// A zone's part of the width of the grid, which is 1.
+struct Span
+{
+    qreal left = 0;
+    qreal width = 1;
+};
+/// The left or the right one of two zones of these widths, in pixels of the editor's grid; 0 on the right for
+/// one alone.
+[[nodiscard]] Span zoneSpan(int leftWidth, int rightWidth, bool right);
 
 /// A bin of the grid: rows are counted from the top, and the whole width of the grid is 1.
 struct GridBin
@@ -43,7 +53,6 @@ struct Daypart
 /// What there is to draw.
 struct Cabinet
 {
-    QString fileName; ///< the menu's; empty while it has none
     QString model;
     int rows = 0;
     int columns = 0;         ///< bins in a row, when all of them show
@@ -51,23 +60,22 @@ struct Cabinet
 };
 
 enum class Paper { A4, Letter };
-/// Letter where the United States' measures are in use.
+/// Letter in the territories where that is usual.
 [[nodiscard]] Paper usualPaper(const QLocale &locale);
 
 // From here on all lengths are in points, of which an inch has 72, from the top left corner of the page.
 
 /// A text and the place that it must not leave. It is broken into lines where it wraps, then made smaller,
-/// down to `smallestSize()`, then elided.
+/// then elided.
 struct Text
 {
     QRectF place;
     QString text;
-    qreal size = 0; ///< of the type
+    qreal size = 0;         ///< of the type
+    qreal smallestSize = 0; ///< down to which it is made smaller
     bool isBold = false;
     bool wraps = false;
     Qt::Alignment alignment = Qt::AlignCenter;
-
-    [[nodiscard]] qreal smallestSize() const { return size / 2; }
 
     friend bool operator==(const Text &, const Text &) = default;
 };
@@ -102,6 +110,7 @@ struct Plan
     QList<Page> pages;
 };
 
-[[nodiscard]] Plan layOut(const Cabinet &cabinet, Paper paper);
+/// `fileName` is the menu's; empty while it has none.
+[[nodiscard]] Plan layOut(const Cabinet &cabinet, const QString &fileName, Paper paper);
 
 } // namespace binplan

@@ -21,8 +21,8 @@ struct MenuPlace
 
 /// What a file can bring into a menu, but its dialogs would not take or not show.
 enum class FindingKind {
-    TooManyEntries, ///< number: all entries
-    RepeatedId,     ///< an entry before it has the id
+    TooManyEntries,
+    RepeatedId, ///< an entry before it has the id
     NoName,
     NoShortName,
     HoldTime, ///< the settings of a product that its dialog would not take, or would change
@@ -36,8 +36,9 @@ enum class FindingKind {
     BottomType,
     TimerColor,
     NoMembers,
-    MissingMembers, ///< number: the first one's position among the members
-    UnfitMembers,   ///< number: likewise
+    MissingMembers,
+    RepeatedMembers,
+    UnfitMembers,
     NoDefault,
     MissingEntry, ///< of a bin
     UnfitEntry,   ///< of a bin
@@ -47,8 +48,8 @@ struct Finding
 {
     FindingKind kind;
     MenuPlace place;
-    int number = 0;
-    int count = 1; ///< of members, which are told together
+    int position = 0; ///< of the first such member of a group, among its members
+    int count = 1;    ///< of such members, which are told together
 
     friend bool operator==(const Finding &, const Finding &) = default;
 };

@@ -20,8 +20,6 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(TimerBarBinPlan)
 };
 
-constexpr int pairGap = 12; ///< beside the widths of the pairs
-
 // lupdate loses the context of texts in functions whose result has a qualified type.
 QString modelText(const QString &model)
 {
@@ -46,31 +44,32 @@ binplan::Content contentOf(const Menu &menu, int id)
     if (id == emptyCell)
         return {};
     const ProductInfo *product = menu.product(id);
-    const QString name = product ? shownName(product->get_productName()) : QString();
-    return {name.isEmpty() ? idText(id) : name,
-            product ? settingsText(*product, menu.temperatureUnit) : QString(),
-            {},
-            0,
-            {}};
+    binplan::Content content;
+    content.name = product ? shownName(product->get_productName()) : QString();
+    if (content.name.isEmpty())
+        content.name = idText(id);
+    if (product)
+        content.settings = settingsText(*product, menu.temperatureUnit);
+    return content;
 }
 
 binplan::GridBin gridBin(const CabinetShape &shape, Bin bin)
 {
     const bool right = bin.slot >= 2;
-    const bool alone = right && shape.threeColumns;
-    const qreal rightWidth = shape.threeColumns ? oneBinPairWidth : pairWidth;
-    const qreal all = shape.columnLayout == 2 ? pairWidth + pairGap + rightWidth : pairWidth;
-    const qreal width = alone ? oneBinPairWidth : pairWidth / 2.0;
-    const qreal left = (right ? pairWidth + pairGap : 0) + bin.slot % 2 * width;
-    return {bin.row, left / all, (left + width) / all, {}};
+    const int rightWidth = shape.threeColumns ? oneBinPairWidth : pairWidth;
+    const binplan::Span pair = binplan::zoneSpan(pairWidth, shape.columnLayout == 2 ? rightWidth : 0, right);
+    const qreal width = pair.width / (right && shape.threeColumns ? 1 : 2);
+    const qreal left = pair.left + bin.slot % 2 * width;
+    return {.row = bin.row, .left = left, .right = left + width, .content = {}};
 }
 
 } // namespace
 
-binplan::Cabinet plannedCabinet(const Menu &menu, const QString &fileName)
+binplan::Cabinet plannedCabinet(const Menu &menu)
 {
     const CabinetShape shape = menu.shape();
-    binplan::Cabinet cabinet{fileName, modelText(menu.model), shape.rows, shape.columns(), {}};
+    binplan::Cabinet cabinet{
+        .model = modelText(menu.model), .rows = shape.rows, .columns = shape.columns(), .dayparts = {}};
     const QStringList names = daypartNames();
     for (int daypart = 0; daypart < daypartCount; ++daypart) {
         if (!menu.hasFilledBins(daypart))

@@ -3,14 +3,12 @@
 
 #pragma once
 
-#include <QString>
-
 #include "model/binplan.h"
 #include "timerbar/menu.h"
 
 namespace timerbar {
 
 /// What the bin plan tells of a menu: the day parts with a filled bin. None for a cabinet that is not known.
-[[nodiscard]] binplan::Cabinet plannedCabinet(const Menu &menu, const QString &fileName);
+[[nodiscard]] binplan::Cabinet plannedCabinet(const Menu &menu);
 
 } // namespace timerbar

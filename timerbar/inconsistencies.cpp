@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include "model/findingtexts.h"
 #include "model/names.h"
 #include "model/timelimits.h"
 #include "timerbar/bins.h"
@@ -21,7 +22,7 @@ struct Text
 
 using Part = MenuPlace::Part;
 
-void addProduct(const ProductInfo &product, const MenuPlace &place, int unit, Findings &found)
+void lookAtProduct(const ProductInfo &product, const MenuPlace &place, int unit, Findings &found)
 {
     const auto addIf = [&](bool condition, FindingKind kind) {
         if (condition)
@@ -43,7 +44,7 @@ const ProductInfo *productIn(const Menu &menu, int daypart, Bin bin)
     return id == emptyCell ? nullptr : menu.product(id);
 }
 
-void addDaypart(const Menu &menu, int daypart, const QList<Bin> &bins, Findings &found)
+void lookAtDaypart(const Menu &menu, int daypart, const QList<Bin> &bins, Findings &found)
 {
     for (const Bin bin : bins) {
         const ProductInfo *product = productIn(menu, daypart, bin);
@@ -53,20 +54,9 @@ void addDaypart(const Menu &menu, int daypart, const QList<Bin> &bins, Findings 
     }
 }
 
-QString unfitTemperature(FindingKind kind, const ProductInfo &product, int unit)
-{
-    const TemperatureRange range = productTemperatureRange(unit);
-    const QString lowest = QString::number(range.lowest);
-    const QString highest = QString::number(range.highest) + unitText(unit);
-    return kind == FindingKind::UpperTemperature
-               ? Text::tr("The upper temperature is %1, not %2 to %3")
-                     .arg(temperatureText(product.get_upperTemp(), unit), lowest, highest)
-               : Text::tr("The lower temperature is %1, not %2 to %3")
-                     .arg(temperatureText(product.get_lowerTemp(), unit), lowest, highest);
-}
-
 QString productText(FindingKind kind, const ProductInfo &product, int unit)
 {
+    const TemperatureRange range = productTemperatureRange(unit);
     switch (kind) {
     case FindingKind::NoName:
         return Text::tr("There is no name");
@@ -76,8 +66,12 @@ QString productText(FindingKind kind, const ProductInfo &product, int unit)
         return holdTimeFault(product.get_holdTime());
     case FindingKind::AlertTime:
         return alertTimeFault(product.get_holdTime(), product.get_warningTime());
+    case FindingKind::UpperTemperature:
+        return unfitTemperatureText(kind, product.get_upperTemp(), unit, range);
+    case FindingKind::LowerTemperature:
+        return unfitTemperatureText(kind, product.get_lowerTemp(), unit, range);
     default:
-        return unfitTemperature(kind, product, unit);
+        return {};
     }
 }
 
@@ -91,13 +85,27 @@ QString ofProduct(const Finding &finding, const Menu &menu)
                           : Text::tr("Product %1, %2: %3").arg(number, name, text);
 }
 
+QString nameOf(const ProductInfo &product)
+{
+    const QString name = shownName(product.get_productName());
+    return name.isEmpty() ? Text::tr("Id %1").arg(product.get_productId()) : name;
+}
+
+// The other bin of a pair counts also where the cabinet has one bin in its place.
+QString misfitOf(const ProductInfo &product, const MenuPlace &place, const Menu &menu)
+{
+    const ReferenceTemperatures neighbour = neighbourTemperatures(menu, place.index, place.bin);
+    const QString misfit = misfitText(product, neighbour, menu.temperatureUnit);
+    const Bin other{place.bin.row, place.bin.slot % 2 == 0 ? place.bin.slot + 1 : place.bin.slot - 1};
+    return menu.shape().hasBin(other) ? misfit : Text::tr("%1 in a bin that this cabinet lacks").arg(misfit);
+}
+
 QString ofBin(const MenuPlace &place, const Menu &menu)
 {
     const ProductInfo &product = *productIn(menu, place.index, place.bin);
     return Text::tr("%1, Row %2, Bin %3: %4. %5")
         .arg(daypartNames().at(place.index), QString::number(place.bin.row + 1),
-             QString::number(place.bin.slot + 1), shownName(product.get_productName()),
-             misfitText(product, neighbourTemperatures(menu, place.index, place.bin), menu.temperatureUnit));
+             QString::number(place.bin.slot + 1), nameOf(product), misfitOf(product, place, menu));
 }
 
 } // namespace
@@ -107,12 +115,12 @@ Findings inconsistencies(const Menu &menu)
     Findings found;
     MenuPlace place{.part = Part::Products};
     for (const auto &product : menu.products) {
-        addProduct(*product, place, menu.temperatureUnit, found);
+        lookAtProduct(*product, place, menu.temperatureUnit, found);
         ++place.index;
     }
     const QList<Bin> bins = menu.shape().allBins();
     for (int daypart = 0; daypart < daypartCount; ++daypart)
-        addDaypart(menu, daypart, bins, found);
+        lookAtDaypart(menu, daypart, bins, found);
     return found;
 }
 

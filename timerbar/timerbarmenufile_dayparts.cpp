@@ -8,7 +8,6 @@
 
 #include <QSignalBlocker>
 
-#include "model/files.h"
 #include "model/names.h"
 #include "model/temperature.h"
 #include "model/times.h"
@@ -228,5 +227,5 @@ void TimerBarMenuFile::on_comboDaypartSelect_currentIndexChanged([[maybe_unused]
 
 void TimerBarMenuFile::saveBinPlan()
 {
-    writeBinPlan(timerbar::plannedCabinet(m_menu, lastPathPart(filePath())), tr("No bin is filled."));
+    writeBinPlan(timerbar::plannedCabinet(m_menu), tr("No bin is filled."));
 }

@@ -4,7 +4,6 @@
 #include "widgets/binplanfile.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QBuffer>
 #include <QFontMetricsF>
@@ -21,7 +20,7 @@ namespace {
 
 // So fine that rounding to whole dots shows nowhere.
 constexpr int dotsPerInch = 1200;
-constexpr qreal dots = dotsPerInch / 72.0; ///< a point
+constexpr qreal dotsPerPoint = dotsPerInch / 72.0;
 
 constexpr qreal filledOutline = 1.5; ///< in points, as all widths of lines
 constexpr qreal emptyOutline = 0.75;
@@ -29,11 +28,11 @@ constexpr QColor emptyColor(0x80, 0x80, 0x80);
 
 QRectF inDots(const QRectF &place)
 {
-    return {place.topLeft() * dots, place.size() * dots};
+    return {place.topLeft() * dotsPerPoint, place.size() * dotsPerPoint};
 }
 
 /// A text as it is set: its lines in a font that they fit in.
-struct SetText
+struct Typeset
 {
     QStringList lines;
     QFont font;
@@ -43,7 +42,7 @@ struct SetText
 QFont fontOf(const binplan::Text &text, qreal size)
 {
     QFont font;
-    font.setPixelSize(qMax(1, qRound(size * dots)));
+    font.setPixelSize(qMax(1, qRound(size * dotsPerPoint)));
     font.setBold(text.isBold);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
@@ -91,31 +90,33 @@ public:
     explicit Typesetter(const binplan::Text &text)
         : m_text(text)
         , m_words(asWords(text.text))
-        , m_room(text.place.size() * dots)
+        , m_room(text.place.size() * dotsPerPoint)
         , m_fullWidth(QFontMetricsF(fontOf(text, text.size)).horizontalAdvance(m_words))
     {}
 
-    [[nodiscard]] SetText set() const
+    [[nodiscard]] Typeset typeset() const
     {
-        constexpr std::array shares{1.0, 0.9, 0.8, 0.7, 0.6};
-        for (const qreal share : shares) {
-            SetText attempt = trySize(share * m_text.size);
+        const qreal smallest = m_text.smallestSize;
+        for (int i = 0; i < attempts; ++i) {
+            Typeset attempt = trySize(m_text.size + (smallest - m_text.size) * i / attempts);
             if (!attempt.lines.isEmpty())
                 return attempt;
         }
-        return setSmallest();
+        return elided();
     }
 
 private:
+    static constexpr int attempts = 5; ///< at sizes from its own one down
+
     [[nodiscard]] qsizetype mostLines(qreal size) const
     {
         constexpr qreal roundingError = 0.01;
-        const qreal lines = m_room.height() / dots / binplan::lineStep(size) + roundingError;
+        const qreal lines = m_room.height() / dotsPerPoint / binplan::lineStep(size) + roundingError;
         return m_text.wraps ? qMax<qsizetype>(static_cast<qsizetype>(lines), 1) : 1;
     }
 
     /// No lines where they do not fit.
-    [[nodiscard]] SetText trySize(qreal size) const
+    [[nodiscard]] Typeset trySize(qreal size) const
     {
         const qsizetype most = mostLines(size);
         if (m_fullWidth * size / m_text.size > static_cast<qreal>(most) * m_room.width())
@@ -125,12 +126,12 @@ private:
                                             m_text.wraps ? QTextOption::WordWrap : QTextOption::NoWrap);
         if (broken.lines.size() > most || broken.widest > m_room.width())
             return {};
-        return {broken.lines, font, binplan::lineStep(size) * dots};
+        return {broken.lines, font, binplan::lineStep(size) * dotsPerPoint};
     }
 
-    [[nodiscard]] SetText setSmallest() const
+    [[nodiscard]] Typeset elided() const
     {
-        const qreal size = m_text.smallestSize();
+        const qreal size = m_text.smallestSize;
         const QFont font = fontOf(m_text, size);
         const qsizetype most = mostLines(size);
         QStringList lines =
@@ -140,7 +141,7 @@ private:
             lines = lines.first(most - 1);
             lines.append(QFontMetricsF(font).elidedText(rest, Qt::ElideRight, m_room.width()));
         }
-        return {lines, font, binplan::lineStep(size) * dots};
+        return {lines, font, binplan::lineStep(size) * dotsPerPoint};
     }
 
     const binplan::Text &m_text;
@@ -151,17 +152,17 @@ private:
 
 void paintText(QPainter &painter, const binplan::Text &text)
 {
-    const SetText set = Typesetter(text).set();
+    const Typeset typeset = Typesetter(text).typeset();
     const QRectF place = inDots(text.place);
-    const qreal height = static_cast<qreal>(set.lines.size()) * set.step;
+    const qreal height = static_cast<qreal>(typeset.lines.size()) * typeset.step;
     constexpr int lineFlags = Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip;
     const int flags = lineFlags | static_cast<int>((text.alignment | Qt::AlignAbsolute).toInt());
     painter.setPen(Qt::black);
-    painter.setFont(set.font);
-    QRectF line(place.left(), place.center().y() - height / 2, place.width(), set.step);
-    for (const QString &words : set.lines) {
+    painter.setFont(typeset.font);
+    QRectF line(place.left(), place.center().y() - height / 2, place.width(), typeset.step);
+    for (const QString &words : typeset.lines) {
         painter.drawText(line, flags, words);
-        line.translate(0, set.step);
+        line.translate(0, typeset.step);
     }
 }
 
@@ -169,13 +170,13 @@ void paintBox(QPainter &painter, const binplan::Box &box)
 {
     const QRectF place = inDots(box.place);
     if (!box.swatch.isNull()) {
-        painter.setPen(QPen(Qt::black, emptyOutline * dots));
+        painter.setPen(QPen(Qt::black, emptyOutline * dotsPerPoint));
         painter.setBrush(QColor::fromRgb(static_cast<QRgb>(box.color)));
         painter.drawRect(inDots(box.swatch));
     }
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(box.isEmpty() ? QPen(emptyColor, emptyOutline * dots, Qt::DashLine)
-                                 : QPen(Qt::black, filledOutline * dots));
+    painter.setPen(box.isEmpty() ? QPen(emptyColor, emptyOutline * dotsPerPoint, Qt::DashLine)
+                                 : QPen(Qt::black, filledOutline * dotsPerPoint));
     painter.drawRect(place);
     for (const binplan::Text &text : box.texts)
         paintText(painter, text);

@@ -259,7 +259,8 @@ void MenuEditor::writeBinPlan(const binplan::Cabinet &cabinet, const QString &wh
     const QString path = dialog.selectedFiles().constFirst();
     if (mayBeAMenu(path, m_filePath))
         messages::refusal(this, tr("A bin plan cannot replace %1").arg(lastPathPart(path)));
-    else if (writeFile(path, pdfOf(layOut(cabinet, binplan::usualPaper(QLocale())))))
+    else if (writeFile(path,
+                       pdfOf(layOut(cabinet, lastPathPart(m_filePath), binplan::usualPaper(QLocale())))))
         emit told(tr("Saved %1").arg(path));
     else
         messages::fileFault(tr("Failed to create/open the file:") + path);

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <algorithm>
+
 #include "holding/menu.h"
 #include "holding/newentries.h"
 #include "model/findings.h"
@@ -12,9 +14,9 @@ namespace menutolookat {
 
 using Change = void (*)(holding::Menu &menu);
 
-inline void addProduct(holding::Menu &menu, const QString &name)
+inline void addProduct(holding::Menu &menu, const QString &name, int id)
 {
-    auto product = holding::newProduct(menu.nextFreeId(), 2);
+    auto product = holding::newProduct(id, 2);
     product->set_productName({name});
     menu.products.push_back(std::move(product));
 }
@@ -23,11 +25,14 @@ inline void addProduct(holding::Menu &menu, const QString &name)
 inline void addProducts(holding::Menu &menu, int count)
 {
     int id = 1000 + static_cast<int>(menu.products.size());
-    while (menu.products.size() < static_cast<std::size_t>(count)) {
-        auto product = holding::newProduct(id++, 2);
-        product->set_productName({QStringLiteral("Extra")});
-        menu.products.push_back(std::move(product));
-    }
+    while (menu.products.size() < static_cast<std::size_t>(count))
+        addProduct(menu, QStringLiteral("Extra"), id++);
+}
+
+inline void setTemperatures(ProductInfo &entry, int upper, int lower)
+{
+    entry.set_upperTemp(upper);
+    entry.set_lowerTemp(lower);
 }
 
 /// Products 1 "Bacon", 2 "Ham" and the hotter 3 "Chili", the group 4 "Meats" of the first two, on a KTR34
@@ -42,12 +47,11 @@ inline void addProducts(holding::Menu &menu, int count)
                           .productIdEnabled = true,
                           .timerColorEnabled = true};
     for (const QString &name : {QStringLiteral("Bacon"), QStringLiteral("Ham"), QStringLiteral("Chili")})
-        addProduct(menu, name);
+        addProduct(menu, name, menu.nextFreeId());
     menu.products[2]->set_upperTemp(215);
     auto group = holding::newGroup(4);
     group->set_productName({QStringLiteral("Meats")});
-    group->set_upperTemp(200);
-    group->set_lowerTemp(200);
+    setTemperatures(*group, 200, 200);
     group->set_zoneSplits(QStringLiteral("1/2"));
     group->set_lidType(QStringLiteral("None"));
     group->set_productList({1, 2});
@@ -57,13 +61,23 @@ inline void addProducts(holding::Menu &menu, int count)
     return menu;
 }
 
-/// The same products in a cabinet of one temperature, with three bins in a zone and no group.
-inline void makeZpv(holding::Menu &menu)
+/// The same products and group, all with one temperature, in a cabinet that has one: a ZPV with three bins in
+/// a zone. Its bins are empty.
+inline void makeZpv(holding::Menu &menu, int unit = unitFahrenheit)
 {
     menu.configuration.type = QStringLiteral("ZPV");
     menu.configuration.model = QStringLiteral("ZPV43");
-    menu.groups.clear();
+    menu.configuration.temperatureUnit = unit;
+    menu.products[2]->set_lowerTemp(menu.products[2]->get_upperTemp());
     menu.clearBins();
+}
+
+/// The same in a cabinet with three bins in a zone; all are empty but those of a row in the second day part.
+inline void makeKtr33(holding::Menu &menu, const QList<int> &thirdRow)
+{
+    menu.configuration.model = QStringLiteral("KTR33");
+    menu.clearBins();
+    std::copy(thirdRow.begin(), thirdRow.end(), menu.dayparts[1].bins[2].begin());
 }
 
 } // namespace menutolookat

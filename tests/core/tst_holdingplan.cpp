@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "holding/binplan.h"
+#include "holding/groupdraft.h"
 #include "holding/newentries.h"
 #include "tests/support/require.h"
 #include "tests/support/warnings.h"
@@ -78,7 +79,7 @@ Menu menuOf(const QString &type, const QString &model)
 binplan::Content firstContent(Menu &menu, int id)
 {
     menu.dayparts[0].bins[0][0] = id;
-    const binplan::Cabinet cabinet = plannedCabinet(menu, {});
+    const binplan::Cabinet cabinet = plannedCabinet(menu);
     REQUIRE_EQUAL(cabinet.dayparts.size(), 1);
     return cabinet.dayparts[0].bins[0].content;
 }
@@ -95,24 +96,23 @@ void TestHoldingPlan::daypartsInUseAreDrawn()
     }
     menu.dayparts[3].names.clear();
     QStringList names;
-    for (const binplan::Daypart &daypart : plannedCabinet(menu, {}).dayparts) {
+    for (const binplan::Daypart &daypart : plannedCabinet(menu).dayparts) {
         names.append(daypart.name);
         QCOMPARE(daypart.bins.size(), 4);
     }
-    QCOMPARE(names, (QStringList{u"Part 0"_s, u"Part 2"_s, QString()}));
+    QCOMPARE(names, (QStringList{u"Part 0"_s, u"Part 2"_s, u"Day part 4"_s}));
 }
 
 void TestHoldingPlan::unknownCabinetHasNone()
 {
     const Menu menu = menuOf(u"QHX"_s, u"KTR99"_s);
-    QVERIFY(plannedCabinet(menu, {}).dayparts.isEmpty());
+    QVERIFY(plannedCabinet(menu).dayparts.isEmpty());
 }
 
 void TestHoldingPlan::cabinetIsNamed()
 {
     const Menu menu = menuOf(u"ZPV"_s, u"ZPV43"_s);
-    const binplan::Cabinet cabinet = plannedCabinet(menu, u"menu.json"_s);
-    QCOMPARE(cabinet.fileName, u"menu.json"_s);
+    const binplan::Cabinet cabinet = plannedCabinet(menu);
     QCOMPARE(cabinet.model, u"ZPV ZPV43"_s);
     QCOMPARE(cabinet.rows, 4);
     QCOMPARE(cabinet.columns, 3);
@@ -200,11 +200,18 @@ void TestHoldingPlan::groupTellsItsMembers_data()
     QTest::newRow("first is the default") << QList<int>{1, 2, 3} << 0 << u"Bacon · Ham · Chili"_s;
     QTest::newRow("default comes first") << QList<int>{1, 2, 3} << 1 << u"Ham · Bacon · Chili"_s;
     QTest::newRow("last is the default") << QList<int>{1, 2, 3} << 2 << u"Chili · Bacon · Ham"_s;
-    QTest::newRow("default beyond the end") << QList<int>{2, 1} << 2 << u"Ham · Bacon"_s;
+    QTest::newRow("default beyond the end") << QList<int>{2, 1} << 2 << u"Bacon · Ham"_s;
     QTest::newRow("negative default") << QList<int>{2, 1} << -1 << u"Ham · Bacon"_s;
     QTest::newRow("one") << QList<int>{3} << 0 << u"Chili"_s;
     QTest::newRow("none") << QList<int>{} << 0 << QString();
-    QTest::newRow("missing") << QList<int>{99, 1} << 0 << u"Id 99 · Bacon"_s;
+    QTest::newRow("missing") << QList<int>{1, 99} << 0 << u"Bacon · Id 99"_s;
+    QTest::newRow("default is missing: the next one")
+        << QList<int>{1, 99, 2} << 1 << u"Ham · Bacon · Id 99"_s;
+    QTest::newRow("default is missing, none behind it")
+        << QList<int>{1, 2, 99} << 2 << u"Ham · Bacon · Id 99"_s;
+    QTest::newRow("default beyond the end, the last is missing")
+        << QList<int>{1, 2, 99} << 9 << u"Ham · Bacon · Id 99"_s;
+    QTest::newRow("all are missing") << QList<int>{98, 99} << 1 << u"Id 99 · Id 98"_s;
     QTest::newRow("group in a group") << QList<int>{1, 4} << 0 << u"Bacon · Id 4"_s;
 }
 
@@ -217,6 +224,18 @@ void TestHoldingPlan::groupTellsItsMembers()
     const binplan::Content content = firstContent(menu, group.get_productId());
     QCOMPARE(content.name, u"Meats"_s);
     QTEST(content.members, "told");
+    // As the group editor chooses it.
+    GroupDraft draft(group, menu.configuration);
+    QList<int> listed;
+    for (int position = 0; position < members.size(); ++position) {
+        if (menu.product(members[position]))
+            listed.append(position);
+    }
+    draft.settleDefault(listed);
+    if (!listed.isEmpty()) {
+        const QString name = shownName(menu.product(members[draft.defaultPosition()])->get_productName());
+        QCOMPARE(content.members.section(u" · "_s, 0, 0), name);
+    }
 }
 
 // It has neither time nor colour of its own.
@@ -231,7 +250,11 @@ void TestHoldingPlan::groupTakesAfterItsDefault()
     binplan::Content content = firstContent(menu, group.get_productId());
     QCOMPARE(content.settings, u"225/215°F  00:30:00"_s);
     QCOMPARE(content.colorName, u"full blue"_s);
-    group.set_productList({1, 77});
+    group.set_productList({2, 77});
+    content = firstContent(menu, group.get_productId());
+    QCOMPARE(content.settings, u"225/215°F  00:30:00"_s);
+    QCOMPARE(content.colorName, u"full blue"_s);
+    group.set_productList({77, 78});
     content = firstContent(menu, group.get_productId());
     QCOMPARE(content.settings, u"225/215°F"_s);
     QCOMPARE(content.colorName, QString());
@@ -241,7 +264,7 @@ void TestHoldingPlan::hugeGroupsCostLittle()
 {
     Menu menu = menuOf(u"QHX"_s, u"KTR82"_s);
     menu.product(1)->set_productName({QString(2'000'000, u'n')});
-    const ProductInfo &group = addGroup(menu, QList<int>(2'000'000, 1), 1'999'999);
+    ProductInfo &group = addGroup(menu, QList<int>(2'000'000, 1), 1'999'999);
     menu.daypartCount = maxDayparts;
     for (Daypart &daypart : menu.dayparts) {
         daypart.inUse = true;
@@ -250,14 +273,19 @@ void TestHoldingPlan::hugeGroupsCostLittle()
     }
     QElapsedTimer timer;
     timer.start();
-    const binplan::Cabinet cabinet = plannedCabinet(menu, {});
+    const binplan::Cabinet cabinet = plannedCabinet(menu);
     QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(cabinet.dayparts.size(), maxDayparts);
     const QString members = cabinet.dayparts[9].bins.constLast().content.members;
     QCOMPARE(members.count(u'n'), 100 * 60);
     QVERIFY(members.endsWith(u" · …"_s));
+    group.set_productList(QList<int>(2'000'000, 77)); // none of which can be the default
+    timer.start();
+    const QString missing = plannedCabinet(menu).dayparts[9].bins.constLast().content.members;
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(missing.count(u"Id 77"_s), 100);
     menu.dayparts[0].bins[0][0] = 1;
-    QCOMPARE(plannedCabinet(menu, {}).dayparts[0].bins[0].content.name.size(), 2'000'000);
+    QCOMPARE(plannedCabinet(menu).dayparts[0].bins[0].content.name.size(), 2'000'000);
 }
 
 void TestHoldingPlan::binsStandAsInTheGrid_data()
@@ -280,11 +308,11 @@ void TestHoldingPlan::binsStandAsInTheGrid_data()
         << u"KTR33"_s << QList<int>{0, 4, 0} << u"0-333 333-1000"_s;
     QTest::newRow("nothing that is assigned is hidden")
         << u"KTR33"_s << QList<int>{5, 99, 0} << u"0-333 333-667 667-1000"_s;
-    // Two zones of 340 with 12 between them, or one of 340 and one of 177.
-    QTest::newRow("two zones") << u"KTR24"_s << QList<int>{0, 0, 0, 0} << u"0-246 246-491 509-754 754-1000"_s;
-    QTest::newRow("two zones, wholes") << u"KTR24"_s << QList<int>{4, 0, 4, 0} << u"0-491 509-1000"_s;
-    QTest::newRow("one-bin zone") << u"KTR23"_s << QList<int>{0, 0, 7} << u"0-321 321-643 665-1000"_s;
-    QTest::newRow("whole beside a one-bin zone") << u"KTR23"_s << QList<int>{4, 0, 0} << u"0-643 665-1000"_s;
+    // Two zones of 340 with 16 between them, or one of 340 and one of 177.
+    QTest::newRow("two zones") << u"KTR24"_s << QList<int>{0, 0, 0, 0} << u"0-244 244-489 511-756 756-1000"_s;
+    QTest::newRow("two zones, wholes") << u"KTR24"_s << QList<int>{4, 0, 4, 0} << u"0-489 511-1000"_s;
+    QTest::newRow("one-bin zone") << u"KTR23"_s << QList<int>{0, 0, 7} << u"0-319 319-638 668-1000"_s;
+    QTest::newRow("whole beside a one-bin zone") << u"KTR23"_s << QList<int>{4, 0, 0} << u"0-638 668-1000"_s;
 }
 
 void TestHoldingPlan::binsStandAsInTheGrid()
@@ -297,7 +325,7 @@ void TestHoldingPlan::binsStandAsInTheGrid()
     for (int slot = 0; slot < row.size(); ++slot)
         menu.dayparts[0].bins[1][slot] = row[slot];
     QStringList places;
-    const binplan::Cabinet cabinet = plannedCabinet(menu, {});
+    const binplan::Cabinet cabinet = plannedCabinet(menu);
     for (const binplan::GridBin &bin : cabinet.dayparts[0].bins) {
         if (bin.row == 1)
             places.append(u"%1-%2"_s.arg(qRound(1000 * bin.left)).arg(qRound(1000 * bin.right)));

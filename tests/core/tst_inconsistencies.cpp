@@ -26,6 +26,8 @@ private slots:
     void group() { checkFinding(); }
     void bin_data();
     void bin() { checkFinding(); }
+    void thirdHalf_data();
+    void thirdHalf() { checkFinding(); }
     void tooManyEntries();
     void severalComeInTheOrderOfTheMenu();
     void longTextsAreShortened();
@@ -50,16 +52,9 @@ void addColumns()
     QTest::addColumn<QString>("text");
 }
 
-void add(const char *name, Change change, const Finding &finding, const QString &text)
+void add(const char *name, const Finding &finding, const QString &text, Change change)
 {
     QTest::newRow(name) << change << finding << text;
-}
-
-// Change what a product of the menu holds.
-template <auto set, auto value>
-void changeBacon(Menu &menu)
-{
-    ((*menu.products[0]).*set)(value);
 }
 
 } // namespace
@@ -82,138 +77,152 @@ void TestInconsistencies::checkFinding()
 void TestInconsistencies::product_data()
 {
     using enum FindingKind;
-    using P = ProductInfo;
     addColumns();
-    add(
-        "repeated id", [](Menu &menu) { menu.products[2]->set_productId(2); }, {RepeatedId, chili},
-        u"Product 3, Chili: Another entry has the id 2, too. Bins and groups mean the first one"_s);
-    const auto groupId = [](Menu &menu) {
-        menu.clearBins();
-        menu.products[2]->set_productId(4);
-    };
-    add("id of a group", groupId, {RepeatedId, meats},
-        u"Group 1, Meats: Another entry has the id 4, too. Bins and groups mean the first one"_s);
-    add(
-        "no name", [](Menu &menu) { menu.products[2]->set_productName({QString()}); }, {NoName, chili},
-        u"Product 3: There is no name"_s);
-    add("held too short", changeBacon<&P::set_holdTime, 359>, {HoldTime, bacon},
-        u"Product 1, Bacon: Invalid hold time. Minimum value is 6 minutes!"_s);
-    add("held too long", changeBacon<&P::set_holdTime, 28801>, {HoldTime, bacon},
-        u"Product 1, Bacon: Invalid hold time. Maximum value is 8 hours!"_s);
-    add("late alert", changeBacon<&P::set_warningTime, 1800>, {AlertTime, bacon},
-        u"Product 1, Bacon: Invalid cook more alert time. Value must be less than hold time!"_s);
-    add("negative alert", changeBacon<&P::set_warningTime, -1>, {AlertTime, bacon},
-        u"Product 1, Bacon: Invalid cook more alert time. Value must be less than hold time!"_s);
-    add("late reset", changeBacon<&P::set_resetTime, 3600>, {ResetTime, bacon},
-        u"Product 1, Bacon: Invalid reset time!"_s);
-    add("negative reset", changeBacon<&P::set_resetTime, -1>, {ResetTime, bacon},
-        u"Product 1, Bacon: Invalid reset time!"_s);
-    add(
-        "too cold", [](Menu &menu) { menu.products[2]->set_lowerTemp(89); }, {LowerTemperature, chili},
-        u"Product 3, Chili: The lower temperature is 89°F, not 90 to 225°F"_s);
-    add(
-        "too hot", [](Menu &menu) { menu.products[2]->set_upperTemp(226); }, {UpperTemperature, chili},
-        u"Product 3, Chili: The upper temperature is 226°F, not 90 to 225°F"_s);
-    add(
-        "no temperature", [](Menu &menu) { menu.products[2]->set_upperTemp(0); }, {UpperTemperature, chili},
-        u"Product 3, Chili: The upper temperature is 0°F, not 90 to 225°F"_s);
-    add(
-        "fan too fast", [](Menu &menu) { menu.products[2]->set_fanSpeed(10001); }, {FanSpeed, chili},
-        u"Product 3, Chili: The fan speed is 10001 RPM, not 0 to 10000 RPM"_s);
-    add(
-        "fan backwards", [](Menu &menu) { menu.products[2]->set_fanSpeed(-1); }, {FanSpeed, chili},
-        u"Product 3, Chili: The fan speed is -1 RPM, not 0 to 10000 RPM"_s);
-    add(
-        "split of other cabinets", [](Menu &menu) { menu.products[2]->set_zoneSplits(u"1/3"_s); },
-        {ZoneSplit, chili}, u"Product 3, Chili: This cabinet has no zone split 1/3"_s);
-    add(
-        "no split", [](Menu &menu) { menu.products[2]->set_zoneSplits({}); }, {ZoneSplit, chili},
-        u"Product 3, Chili: There is no zone split"_s);
-    add(
-        "unknown lid", [](Menu &menu) { menu.products[2]->set_lidType(u"vented"_s); }, {LidType, chili},
-        u"Product 3, Chili: There is no lid vented"_s);
-    add(
-        "unknown bottom", [](Menu &menu) { menu.products[2]->set_bottomType(u"Glass"_s); },
-        {BottomType, chili}, u"Product 3, Chili: There is no bottom Glass"_s);
-    add(
-        "unknown color", [](Menu &menu) { menu.products[2]->set_timerColor(u"#FF0000"_s); },
-        {TimerColor, chili}, u"Product 3, Chili: There is no timer color #FF0000"_s);
+    add("repeated id", {RepeatedId, chili},
+        u"Product 3, Chili: Another entry has the id 2, too. Bins and groups mean the first one"_s,
+        [](Menu &menu) { menu.products[2]->set_productId(2); });
+    add("id of a group", {RepeatedId, meats},
+        u"Group 1, Meats: Another entry has the id 4, too. Bins and groups mean the first one"_s,
+        [](Menu &menu) {
+            menu.clearBins();
+            menu.products[2]->set_productId(4);
+        });
+    add("no name", {NoName, chili}, u"Product 3: There is no name"_s,
+        [](Menu &menu) { menu.products[2]->set_productName({QString()}); });
+    add("held too short", {HoldTime, bacon},
+        u"Product 1, Bacon: Invalid hold time. Minimum value is 6 minutes!"_s,
+        [](Menu &menu) { menu.products[0]->set_holdTime(359); });
+    add("held too long", {HoldTime, bacon},
+        u"Product 1, Bacon: Invalid hold time. Maximum value is 8 hours!"_s,
+        [](Menu &menu) { menu.products[0]->set_holdTime(28801); });
+    add("late alert", {AlertTime, bacon},
+        u"Product 1, Bacon: Invalid cook more alert time. Value must be less than hold time!"_s,
+        [](Menu &menu) { menu.products[0]->set_warningTime(1800); });
+    add("negative alert", {AlertTime, bacon},
+        u"Product 1, Bacon: Invalid cook more alert time. Value must be less than hold time!"_s,
+        [](Menu &menu) { menu.products[0]->set_warningTime(-1); });
+    add("late reset", {ResetTime, bacon}, u"Product 1, Bacon: Invalid reset time!"_s,
+        [](Menu &menu) { menu.products[0]->set_resetTime(3600); });
+    add("negative reset", {ResetTime, bacon}, u"Product 1, Bacon: Invalid reset time!"_s,
+        [](Menu &menu) { menu.products[0]->set_resetTime(-1); });
+    add("too cold", {LowerTemperature, chili},
+        u"Product 3, Chili: The lower temperature is 89°F, not 90 to 225°F"_s,
+        [](Menu &menu) { menu.products[2]->set_lowerTemp(89); });
+    add("too hot", {UpperTemperature, chili},
+        u"Product 3, Chili: The upper temperature is 226°F, not 90 to 225°F"_s,
+        [](Menu &menu) { menu.products[2]->set_upperTemp(226); });
+    add("no temperature", {UpperTemperature, chili},
+        u"Product 3, Chili: The upper temperature is 0°F, not 90 to 225°F"_s,
+        [](Menu &menu) { menu.products[2]->set_upperTemp(0); });
+    add("fan too fast", {FanSpeed, chili},
+        u"Product 3, Chili: The fan speed is 10001 RPM, not 0 to 10000 RPM"_s,
+        [](Menu &menu) { menu.products[2]->set_fanSpeed(10001); });
+    add("fan backwards", {FanSpeed, chili},
+        u"Product 3, Chili: The fan speed is -1 RPM, not 0 to 10000 RPM"_s,
+        [](Menu &menu) { menu.products[2]->set_fanSpeed(-1); });
+    add("split of other cabinets", {ZoneSplit, chili},
+        u"Product 3, Chili: This cabinet has no zone split 1/3"_s,
+        [](Menu &menu) { menu.products[2]->set_zoneSplits(u"1/3"_s); });
+    add("no split", {ZoneSplit, chili}, u"Product 3, Chili: There is no zone split"_s,
+        [](Menu &menu) { menu.products[2]->set_zoneSplits({}); });
+    add("unknown lid", {LidType, chili}, u"Product 3, Chili: There is no lid vented"_s,
+        [](Menu &menu) { menu.products[2]->set_lidType(u"vented"_s); });
+    add("unknown bottom", {BottomType, chili}, u"Product 3, Chili: There is no bottom Glass"_s,
+        [](Menu &menu) { menu.products[2]->set_bottomType(u"Glass"_s); });
+    add("unknown color", {TimerColor, chili}, u"Product 3, Chili: There is no timer color #FF0000"_s,
+        [](Menu &menu) { menu.products[2]->set_timerColor(u"#FF0000"_s); });
+    add("no word for a color", {TimerColor, chili}, u"Product 3, Chili: No timer color is stored"_s,
+        [](Menu &menu) { menu.products[2]->set_timerColor({}); });
 }
 
 void TestInconsistencies::productOfZpv_data()
 {
+    using enum FindingKind;
     addColumns();
-    const auto hot = [](Menu &menu) {
-        menutolookat::makeZpv(menu);
-        menu.products[2]->set_upperTemp(226);
-        menu.products[2]->set_lowerTemp(226);
-    };
-    add("one temperature", hot, {FindingKind::UpperTemperature, chili},
-        u"Product 3, Chili: The temperature is 226°F, not 90 to 225°F"_s);
-    const auto hotInCelsius = [](Menu &menu) {
-        menutolookat::makeZpv(menu);
-        menu.configuration.temperatureUnit = unitCelsius;
-        menu.products[2]->set_upperTemp(228);
-    };
-    add("in Celsius", hotInCelsius, {FindingKind::UpperTemperature, chili},
-        u"Product 3, Chili: The temperature is 109°C, not 32 to 107°C"_s);
+    add("too hot", {UpperTemperature, chili},
+        u"Product 3, Chili: The temperature is 226°F, not 90 to 225°F"_s, [](Menu &menu) {
+            menutolookat::makeZpv(menu);
+            menutolookat::setTemperatures(*menu.products[2], 226, 226);
+        });
+    add("too hot in Celsius", {UpperTemperature, chili},
+        u"Product 3, Chili: The temperature is 109°C, not 32 to 107°C"_s, [](Menu &menu) {
+            menutolookat::makeZpv(menu, unitCelsius);
+            menutolookat::setTemperatures(*menu.products[2], 228, 228);
+        });
+    add("too hot, and another one", {UpperTemperature, chili},
+        u"Product 3, Chili: The temperature is 226°F, not 90 to 225°F"_s, [](Menu &menu) {
+            menutolookat::makeZpv(menu);
+            menutolookat::setTemperatures(*menu.products[2], 226, 200);
+        });
+    add("two temperatures", {LowerTemperature, chili},
+        u"Product 3, Chili: This cabinet has one temperature, stored are 215°F and 200°F"_s, [](Menu &menu) {
+            menutolookat::makeZpv(menu);
+            menutolookat::setTemperatures(*menu.products[2], 215, 200);
+        });
+    add("two in Celsius", {LowerTemperature, chili},
+        u"Product 3, Chili: This cabinet has one temperature, stored are 102°C and 93°C"_s, [](Menu &menu) {
+            menutolookat::makeZpv(menu, unitCelsius);
+            menutolookat::setTemperatures(*menu.products[2], 215, 200);
+        });
+    add("two that are shown alike", {LowerTemperature, chili},
+        u"Product 3, Chili: This cabinet has one temperature, stored are 215°F and 216°F"_s, [](Menu &menu) {
+            menutolookat::makeZpv(menu, unitCelsius);
+            menutolookat::setTemperatures(*menu.products[2], 215, 216);
+        });
 }
 
 void TestInconsistencies::group_data()
 {
     using enum FindingKind;
     addColumns();
-    add(
-        "no name", [](Menu &menu) { menu.groups[0]->set_productName({}); }, {NoName, meats},
-        u"Group 1: There is no name"_s);
-    add(
-        "no members", [](Menu &menu) { menu.groups[0]->set_productList({}); }, {NoMembers, meats},
-        u"Group 1, Meats: There are no products in it"_s);
-    add(
-        "missing member",
-        [](Menu &menu) {
+    add("no name", {NoName, meats}, u"Group 1: There is no name"_s,
+        [](Menu &menu) { menu.groups[0]->set_productName({}); });
+    add("no members", {NoMembers, meats}, u"Group 1, Meats: There are no products in it"_s,
+        [](Menu &menu) { menu.groups[0]->set_productList({}); });
+    add("missing member", {MissingMembers, meats, 1, 1},
+        u"Group 1, Meats: Its product with the id 77 is not in this menu"_s, [](Menu &menu) {
             menu.groups[0]->set_productList({1, 77});
-        },
-        {MissingMembers, meats, 1, 1}, u"Group 1, Meats: Its product with the id 77 is not in this menu"_s);
-    add(
-        "a group as member",
-        [](Menu &menu) {
+        });
+    add("a group as member", {MissingMembers, meats, 1, 1},
+        u"Group 1, Meats: Its product with the id 4 is not in this menu"_s, [](Menu &menu) {
             menu.groups[0]->set_productList({1, 4});
-        },
-        {MissingMembers, meats, 1, 1}, u"Group 1, Meats: Its product with the id 4 is not in this menu"_s);
-    add(
-        "missing members",
+        });
+    add("missing members", {MissingMembers, meats, 0, 3},
+        u"Group 1, Meats: 3 of its 4 products are not in this menu"_s, [](Menu &menu) {
+            menu.groups[0]->set_productList({77, 1, 78, 77});
+        });
+    add("repeated member", {RepeatedMembers, meats, 2, 1}, u"Group 1, Meats: Bacon is in it twice"_s,
         [](Menu &menu) {
-            menu.groups[0]->set_productList({77, 1, 78});
-        },
-        {MissingMembers, meats, 0, 2}, u"Group 1, Meats: 2 of its 3 products are not in this menu"_s);
+            menu.groups[0]->set_productList({2, 1, 1});
+        });
+    add("repeated members", {RepeatedMembers, meats, 1, 3},
+        u"Group 1, Meats: 3 of its 5 products are repeated"_s, [](Menu &menu) {
+            menu.groups[0]->set_productList({1, 1, 2, 1, 2});
+        });
+    add("many repeated members", {RepeatedMembers, meats, 1, 100},
+        u"Group 1, Meats: 100 of its 101 products are repeated"_s,
+        [](Menu &menu) { menu.groups[0]->set_productList(QList<int>(101, 1)); });
     const QString hotter = u"Does not fit: 215 °F / 200 °F, this group holds 200 °F / 200 °F"_s;
-    add(
-        "unfit member",
+    add("unfit member", {UnfitMembers, meats, 1, 1}, u"Group 1, Meats: Chili does not suit it. "_s + hotter,
         [](Menu &menu) {
             menu.groups[0]->set_productList({1, 3});
-        },
-        {UnfitMembers, meats, 1, 1}, u"Group 1, Meats: Chili does not suit it. "_s + hotter);
-    const auto unfit = [](Menu &menu) {
-        menu.groups[0]->set_productList({1, 3, 2});
-        menu.products[1]->set_lidType(u"Vented"_s);
-    };
-    add("unfit members", unfit, {UnfitMembers, meats, 1, 2},
-        u"Group 1, Meats: Chili and 1 more do not suit it. "_s + hotter);
-    const auto lid = [](Menu &menu) {
-        menu.groups[0]->set_productList({1, 2, 3});
-        menu.groups[0]->set_lidType(u"None"_s);
-        menu.products[2]->set_upperTemp(200);
-        menu.products[2]->set_lidType(u"Solid"_s);
-    };
-    add("unfit lid", lid, {UnfitMembers, meats, 2, 1},
-        u"Group 1, Meats: Chili does not suit it. Lid Solid, this group has None"_s);
-    add(
-        "default behind the last", [](Menu &menu) { menu.groups[0]->set_defaultIndex(2); },
-        {NoDefault, meats}, u"Group 1, Meats: None of its products is the default one"_s);
-    add(
-        "negative default", [](Menu &menu) { menu.groups[0]->set_defaultIndex(-1); }, {NoDefault, meats},
-        u"Group 1, Meats: None of its products is the default one"_s);
+        });
+    add("unfit members", {UnfitMembers, meats, 1, 2},
+        u"Group 1, Meats: Chili and 1 more do not suit it. "_s + hotter, [](Menu &menu) {
+            menu.groups[0]->set_productList({1, 3, 2});
+            menu.products[1]->set_lidType(u"Vented"_s);
+        });
+    add("unfit lid", {UnfitMembers, meats, 2, 1},
+        u"Group 1, Meats: Chili does not suit it. Lid Solid, this group has None"_s, [](Menu &menu) {
+            menu.groups[0]->set_productList({1, 2, 3});
+            menu.products[2]->set_upperTemp(200);
+            menu.products[2]->set_lidType(u"Solid"_s);
+        });
+    add("default behind the last", {NoDefault, meats},
+        u"Group 1, Meats: None of its products is the default one"_s,
+        [](Menu &menu) { menu.groups[0]->set_defaultIndex(2); });
+    add("negative default", {NoDefault, meats}, u"Group 1, Meats: None of its products is the default one"_s,
+        [](Menu &menu) { menu.groups[0]->set_defaultIndex(-1); });
 }
 
 void TestInconsistencies::bin_data()
@@ -221,31 +230,44 @@ void TestInconsistencies::bin_data()
     using enum FindingKind;
     addColumns();
     const MenuPlace place{.part = Part::Bins, .index = 1, .bin = {2, 1}};
-    add(
-        "missing entry", [](Menu &menu) { menu.dayparts[1].bins[2][1] = 77; }, {MissingEntry, place},
-        u"LUNCH/DINNER, Row 3, Bin 2: The id 77 is not in this menu"_s);
-    add(
-        "negative id", [](Menu &menu) { menu.dayparts[1].bins[2][1] = -1; }, {MissingEntry, place},
-        u"LUNCH/DINNER, Row 3, Bin 2: The id -1 is not in this menu"_s);
-    const auto nameless = [](Menu &menu) {
-        menu.dayparts[1].names = {QString()};
-        menu.dayparts[1].bins[2][1] = 77;
-    };
-    add("day part without a name", nameless, {MissingEntry, place},
-        u"Day part 2, Row 3, Bin 2: The id 77 is not in this menu"_s);
-    const auto whole = [](Menu &menu) {
-        menu.products[2]->set_zoneSplits(u"1/1"_s);
-        menu.dayparts[1].bins[2][1] = 3;
-    };
-    add("no room", whole, {UnfitEntry, place},
-        u"LUNCH/DINNER, Row 3, Bin 2: Chili. Zone split 1/1 has no room here"_s);
-    const auto neighbour = [](Menu &menu) {
-        menu.products[2]->set_zoneSplits(u"1/1"_s);
-        menu.dayparts[1].bins[2] = {3, 1, 0, 0};
-        menu.products[2]->set_upperTemp(200);
-    };
-    add("a filled bin beside it", neighbour, {UnfitEntry, {.part = Part::Bins, .index = 1, .bin = {2, 0}}},
-        u"LUNCH/DINNER, Row 3, Bin 1: Chili. Zone split 1/1 has no room here"_s);
+    add("missing entry", {MissingEntry, place},
+        u"LUNCH/DINNER, Row 3, Bin 2: The id 77 is not in this menu"_s,
+        [](Menu &menu) { menu.dayparts[1].bins[2][1] = 77; });
+    add("negative id", {MissingEntry, place}, u"LUNCH/DINNER, Row 3, Bin 2: The id -1 is not in this menu"_s,
+        [](Menu &menu) { menu.dayparts[1].bins[2][1] = -1; });
+    add("day part without a name", {MissingEntry, place},
+        u"Day part 2, Row 3, Bin 2: The id 77 is not in this menu"_s, [](Menu &menu) {
+            menu.dayparts[1].names = {QString()};
+            menu.dayparts[1].bins[2][1] = 77;
+        });
+    add("no room", {UnfitEntry, place},
+        u"LUNCH/DINNER, Row 3, Bin 2: Chili. Zone split 1/1 has no room here"_s, [](Menu &menu) {
+            menu.products[2]->set_zoneSplits(u"1/1"_s);
+            menu.dayparts[1].bins[2][1] = 3;
+        });
+    add("a filled bin beside it", {UnfitEntry, {.part = Part::Bins, .index = 1, .bin = {2, 0}}},
+        u"LUNCH/DINNER, Row 3, Bin 1: Chili. Zone split 1/1 has no room here"_s, [](Menu &menu) {
+            menu.products[2]->set_zoneSplits(u"1/1"_s);
+            menu.dayparts[1].bins[2] = {3, 1, 0, 0};
+            menu.products[2]->set_upperTemp(200);
+        });
+}
+
+// The third bin of a zone of halves has no button, and the bin plan no place for it.
+void TestInconsistencies::thirdHalf_data()
+{
+    addColumns();
+    const Finding finding{FindingKind::UnfitEntry, {.part = Part::Bins, .index = 1, .bin = {2, 2}}};
+    const QString text = u"LUNCH/DINNER, Row 3, Bin 3: Ham. This zone has two halves and no third bin"_s;
+    add("three halves", finding, text, [](Menu &menu) { menutolookat::makeKtr33(menu, {1, 4, 2}); });
+    add("beside the first", finding, text, [](Menu &menu) { menutolookat::makeKtr33(menu, {1, 0, 2}); });
+    add("beside the second", finding, text, [](Menu &menu) { menutolookat::makeKtr33(menu, {0, 1, 2}); });
+    add("a third", finding, u"LUNCH/DINNER, Row 3, Bin 3: Chili. This zone has two halves and no third bin"_s,
+        [](Menu &menu) {
+            menutolookat::makeKtr33(menu, {1, 0, 3});
+            menu.products[2]->set_zoneSplits(u"1/3"_s);
+            menutolookat::setTemperatures(*menu.products[2], 200, 200);
+        });
 }
 
 // Leads to the first one that is too many.
@@ -256,11 +278,11 @@ void TestInconsistencies::tooManyEntries()
     QCOMPARE(inconsistencies(menu).count(), 0);
     menutolookat::addProducts(menu, maxEntries);
     const auto finding = [&menu] { return inconsistencies(menu).kept().value(0); };
-    QVERIFY(finding() == (Finding{FindingKind::TooManyEntries, {Part::Groups, 0}, 101}));
+    QVERIFY(finding() == (Finding{FindingKind::TooManyEntries, {Part::Groups, 0}}));
     QCOMPARE(findingTexts({finding()}, menu),
              QStringList{u"This menu has 101 products and groups, a cabinet takes at most 100"_s});
     menutolookat::addProducts(menu, maxEntries + 10);
-    QVERIFY(finding() == (Finding{FindingKind::TooManyEntries, {Part::Products, 100}, 111}));
+    QVERIFY(finding() == (Finding{FindingKind::TooManyEntries, {Part::Products, 100}}));
     QCOMPARE(inconsistencies(menu).count(), 1);
 }
 

@@ -113,6 +113,10 @@ void TestInconsistenciesNone::valuesThatTheDialogsTake_data()
         menu.products[2]->set_lidType({});
         menu.products[2]->set_bottomType({});
     });
+    add("lid of a product of a ZPV group", [](Menu &menu) {
+        menutolookat::makeZpv(menu);
+        menu.products[1]->set_lidType(u"Vented"_s);
+    });
     add("color", [](Menu &menu) { menu.products[2]->set_timerColor(u"#ff0000"_s); });
     add("id beyond the box", [](Menu &menu) { menu.products[2]->set_productId(100); });
     add("first default", [](Menu &menu) { menu.groups[0]->set_defaultIndex(0); });
@@ -125,6 +129,8 @@ void TestInconsistenciesNone::valuesThatTheDialogsTake_data()
         menu.products[2]->set_zoneSplits(u"1/1"_s);
         menu.dayparts[0].bins[0] = {1, 4, 3, 0};
     });
+    add("two halves of three bins", [](Menu &menu) { menutolookat::makeKtr33(menu, {1, 2}); });
+    add("a half in the last of three bins", [](Menu &menu) { menutolookat::makeKtr33(menu, {0, 0, 1}); });
 }
 
 void TestInconsistenciesNone::valuesThatTheDialogsTake()

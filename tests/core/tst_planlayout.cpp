@@ -21,6 +21,8 @@ private slots:
     void init() { failOnWarnings(); }
     void paperOfALocale_data();
     void paperOfALocale();
+    void zonesShareTheWidth_data();
+    void zonesShareTheWidth();
     void pageIsTurnedForTheCabinet_data();
     void pageIsTurnedForTheCabinet();
     void headingNamesMenuCabinetAndDaypart();
@@ -37,16 +39,19 @@ private slots:
     void emptyBinSaysNothing();
     void namesAreReadAcrossARoom_data();
     void namesAreReadAcrossARoom();
+    void nothingBecomesTooSmall_data();
+    void nothingBecomesTooSmall();
     void membersHaveTheRoomThatIsLeft();
 };
 
 namespace {
 
+const QString fileName = u"menu.json"_s;
 const Content bacon{u"Bacon"_s, u"215°F  01:00:00"_s, u"full red"_s, 0xff0000, {}};
 
 Cabinet cabinetOf(int rows, int columns, const Content &content = bacon)
 {
-    Cabinet cabinet{u"menu.json"_s, u"QHX KTR"_s, rows, columns, {{u"Morning"_s, {}}}};
+    Cabinet cabinet{u"QHX KTR"_s, rows, columns, {{u"Morning"_s, {}}}};
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column)
             cabinet.dayparts[0].bins.append(
@@ -58,7 +63,7 @@ Cabinet cabinetOf(int rows, int columns, const Content &content = bacon)
 // The smallest page: one bin that fills it.
 Box onlyBox(const Content &content)
 {
-    return layOut(cabinetOf(1, 1, content), Paper::A4).pages.constFirst().boxes.constFirst();
+    return layOut(cabinetOf(1, 1, content), fileName, Paper::A4).pages.constFirst().boxes.constFirst();
 }
 
 QStringList wordsOf(const QList<Text> &texts)
@@ -94,6 +99,10 @@ void TestPlanLayout::paperOfALocale_data()
     QTest::addColumn<Paper>("paper");
     QTest::newRow("United States") << u"en_US"_s << Paper::Letter;
     QTest::newRow("Spanish in the United States") << u"es_US"_s << Paper::Letter;
+    QTest::newRow("French in Canada") << u"fr_CA"_s << Paper::Letter;
+    QTest::newRow("Mexico") << u"es_MX"_s << Paper::Letter;
+    QTest::newRow("Philippines") << u"fil_PH"_s << Paper::Letter;
+    QTest::newRow("Spain") << u"es_ES"_s << Paper::A4;
     QTest::newRow("United Kingdom") << u"en_GB"_s << Paper::A4;
     QTest::newRow("Germany") << u"de_DE"_s << Paper::A4;
     QTest::newRow("Japan") << u"ja_JP"_s << Paper::A4;
@@ -104,6 +113,29 @@ void TestPlanLayout::paperOfALocale()
 {
     QFETCH(const QString, locale);
     QTEST(usualPaper(QLocale(locale)), "paper");
+}
+
+void TestPlanLayout::zonesShareTheWidth_data()
+{
+    QTest::addColumn<int>("leftWidth");
+    QTest::addColumn<int>("rightWidth");
+    QTest::addColumn<QList<qreal>>("places"); // from and to, in pixels, of each zone
+    QTest::newRow("two alike") << 340 << 340 << QList<qreal>{0, 340, 356, 696};
+    QTest::newRow("a narrow one on the right") << 340 << 177 << QList<qreal>{0, 340, 356, 533};
+    QTest::newRow("one alone") << 394 << 0 << QList<qreal>{0, 394};
+}
+
+// With the gap between them that they have in the editor's grid.
+void TestPlanLayout::zonesShareTheWidth()
+{
+    QFETCH(const int, leftWidth);
+    QFETCH(const int, rightWidth);
+    QFETCH(const QList<qreal>, places);
+    for (qsizetype zone = 0; zone < places.size() / 2; ++zone) {
+        const Span span = zoneSpan(leftWidth, rightWidth, zone == 1);
+        QCOMPARE(span.left * places.constLast(), places[2 * zone]);
+        QCOMPARE((span.left + span.width) * places.constLast(), places[2 * zone + 1]);
+    }
 }
 
 void TestPlanLayout::pageIsTurnedForTheCabinet_data()
@@ -126,12 +158,12 @@ void TestPlanLayout::pageIsTurnedForTheCabinet()
     QFETCH(const int, rows);
     QFETCH(const int, columns);
     QFETCH(const Paper, paper);
-    QTEST(layOut(cabinetOf(rows, columns), paper).pageSize, "size");
+    QTEST(layOut(cabinetOf(rows, columns), fileName, paper).pageSize, "size");
 }
 
 void TestPlanLayout::headingNamesMenuCabinetAndDaypart()
 {
-    const Plan plan = layOut(cabinetOf(2, 2), Paper::A4);
+    const Plan plan = layOut(cabinetOf(2, 2), fileName, Paper::A4);
     QCOMPARE(plan.title, u"Bin Plan - menu.json"_s);
     const QList<Text> &heading = plan.pages.constFirst().heading;
     QCOMPARE(wordsOf(heading), (QStringList{u"Morning"_s, u"menu.json"_s, u"QHX KTR"_s}));
@@ -146,9 +178,7 @@ void TestPlanLayout::headingNamesMenuCabinetAndDaypart()
 
 void TestPlanLayout::headingOfAMenuWithoutFile()
 {
-    Cabinet cabinet = cabinetOf(2, 2);
-    cabinet.fileName.clear();
-    const Plan plan = layOut(cabinet, Paper::A4);
+    const Plan plan = layOut(cabinetOf(2, 2), {}, Paper::A4);
     QCOMPARE(plan.title, u"Bin Plan"_s);
     QCOMPARE(wordsOf(plan.pages.constFirst().heading), (QStringList{u"Morning"_s, u"QHX KTR"_s}));
 }
@@ -157,13 +187,13 @@ void TestPlanLayout::everyDaypartHasItsPage()
 {
     Cabinet cabinet = cabinetOf(2, 2);
     cabinet.dayparts.append({u"Evening"_s, {{1, 0, 0.5, bacon}}});
-    const Plan plan = layOut(cabinet, Paper::A4);
+    const Plan plan = layOut(cabinet, fileName, Paper::A4);
     QCOMPARE(plan.pages.size(), 2);
     QCOMPARE(plan.pages[0].boxes.size(), 4);
     QCOMPARE(plan.pages[1].boxes.size(), 1);
     QCOMPARE(plan.pages[1].heading.constFirst().text, u"Evening"_s);
     cabinet.dayparts.clear();
-    QVERIFY(layOut(cabinet, Paper::A4).pages.isEmpty());
+    QVERIFY(layOut(cabinet, fileName, Paper::A4).pages.isEmpty());
 }
 
 void TestPlanLayout::binsFillThePage_data()
@@ -177,7 +207,7 @@ void TestPlanLayout::binsFillThePage()
     QFETCH(const int, rows);
     QFETCH(const int, columns);
     QFETCH(const Paper, paper);
-    const Plan plan = layOut(cabinetOf(rows, columns), paper);
+    const Plan plan = layOut(cabinetOf(rows, columns), fileName, paper);
     const Page &page = plan.pages.constFirst();
     QRectF all;
     for (qsizetype i = 0; i < page.boxes.size(); ++i) {
@@ -200,7 +230,7 @@ void TestPlanLayout::binsKeepTheirProportions()
 {
     Cabinet cabinet = cabinetOf(2, 2);
     cabinet.dayparts[0].bins = {{0, 0, 0.25, bacon}, {0, 0.25, 1, bacon}, {1, 0, 1, bacon}};
-    const Page page = layOut(cabinet, Paper::A4).pages.constFirst();
+    const Page page = layOut(cabinet, fileName, Paper::A4).pages.constFirst();
     const qreal width = 842 - 2 * 28;
     constexpr qreal gap = 4;
     QCOMPARE(page.boxes[0].place.width(), width / 4 - gap);
@@ -248,7 +278,7 @@ void TestPlanLayout::textsStandBelowEachOther()
     Content group = bacon;
     group.members = u"Bacon · Ham"_s;
     for (const Content &content : {bacon, group}) {
-        const Plan plan = layOut(cabinetOf(rows, columns, content), paper);
+        const Plan plan = layOut(cabinetOf(rows, columns, content), fileName, paper);
         for (const Box &box : plan.pages.constFirst().boxes) {
             qreal top = box.place.top();
             for (const Text &text : box.texts) {
@@ -294,11 +324,34 @@ void TestPlanLayout::namesAreReadAcrossARoom()
     QFETCH(const int, rows);
     QFETCH(const int, columns);
     QFETCH(const Paper, paper);
-    const Plan plan = layOut(cabinetOf(rows, columns), paper);
+    const Plan plan = layOut(cabinetOf(rows, columns), fileName, paper);
     const QList<Text> &texts = plan.pages.constFirst().boxes.constFirst().texts;
     QVERIFY2(texts[0].size > 15 && texts[0].size <= 36, qPrintable(QString::number(texts[0].size)));
     QVERIFY(texts[1].size > 12);
     QVERIFY(texts[0].place.height() > 1.9 * lineStep(texts[0].size));
+}
+
+void TestPlanLayout::nothingBecomesTooSmall_data()
+{
+    addCabinetRows();
+}
+
+// However long it is: names and settings are read from two metres, the rest from near by.
+void TestPlanLayout::nothingBecomesTooSmall()
+{
+    QFETCH(const int, rows);
+    QFETCH(const int, columns);
+    QFETCH(const Paper, paper);
+    Content group = bacon;
+    group.members = u"Bacon · Ham"_s;
+    const Page page = layOut(cabinetOf(rows, columns, group), fileName, paper).pages.constFirst();
+    QList<qreal> least{12, 12, 7, 7};
+    for (const Text &text : page.boxes.constFirst().texts) {
+        QVERIFY(text.smallestSize >= least.takeFirst());
+        QVERIFY(text.smallestSize <= text.size && text.smallestSize >= text.size / 2);
+    }
+    QVERIFY(least.isEmpty());
+    QVERIFY(page.heading[0].smallestSize >= 12 && page.heading[1].smallestSize >= 7);
 }
 
 // In low bins the name gives a line to them.
@@ -306,7 +359,7 @@ void TestPlanLayout::membersHaveTheRoomThatIsLeft()
 {
     const Content group{u"Meats"_s, u"215°F"_s, {}, 0, u"Bacon · Ham"_s};
     for (const int rows : {2, 5, 8}) {
-        const Plan plan = layOut(cabinetOf(rows, 2, group), Paper::A4);
+        const Plan plan = layOut(cabinetOf(rows, 2, group), fileName, Paper::A4);
         const Box &box = plan.pages.constFirst().boxes.constFirst();
         const Text &name = box.texts.constFirst();
         const Text &members = box.texts.constLast();

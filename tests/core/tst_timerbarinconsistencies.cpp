@@ -6,7 +6,6 @@
 #include "tests/support/sampletimerbar.h"
 #include "tests/support/warnings.h"
 #include "timerbar/bins.h"
-#include "timerbar/cbrfile.h"
 #include "timerbar/defaultproducts.h"
 #include "timerbar/inconsistencies.h"
 #include "timerbar/newentries.h"
@@ -30,6 +29,8 @@ private slots:
     void temperatures_data();
     void temperatures();
     void pair();
+    void pairWithoutAName();
+    void pairWithABinThatIsNotThere();
     void binsBeyondTheCabinetAreKept();
     void eachDaypartIsLookedAt();
 };
@@ -44,14 +45,6 @@ cbr::Menu twoProducts()
     return {.model = u"KTR24"_s,
             .products = {{.name = "Bacon", .shortName = "BACN"},
                          {.name = "Chili", .shortName = "CHIL", .upper = 116, .lower = 116}}};
-}
-
-Menu read(const cbr::Menu &file)
-{
-    Menu menu;
-    if (const QString fault = readMenu(file.bytes(), menu); !fault.isEmpty())
-        qFatal("%s", qPrintable(fault));
-    return menu;
 }
 
 QStringList textsOf(const Menu &menu)
@@ -117,9 +110,9 @@ void TestTimerBarInconsistencies::product()
     QFETCH(const cbr::Product, product);
     QFETCH(const FindingKind, kind);
     cbr::Menu file = twoProducts();
-    QCOMPARE(textsOf(read(file)), QStringList());
+    QCOMPARE(textsOf(sample::timerBarMenu(file)), QStringList());
     file.products.append(product);
-    const Menu menu = read(file);
+    const Menu menu = sample::timerBarMenu(file);
     const QStringList texts = textsOf(menu);
     QVERIFY2(texts.size() == 1, qPrintable(texts.join(u'\n')));
     QTEST(texts.constFirst(), "text");
@@ -147,7 +140,7 @@ void TestTimerBarInconsistencies::temperatures()
     QFETCH(const int, unit);
     QFETCH(const int, stored);
     const cbr::Product egg{.name = "Egg", .shortName = "EGG", .upper = stored, .lower = stored};
-    QTEST(textsOf(read({.unit = unit, .products = {egg}})), "texts");
+    QTEST(textsOf(sample::timerBarMenu({.unit = unit, .products = {egg}})), "texts");
 }
 
 // Bins are numbered from the bottom row on.
@@ -155,7 +148,7 @@ void TestTimerBarInconsistencies::pair()
 {
     cbr::Menu file = twoProducts();
     file.dayparts[2] = {0, 100, 0, 1};
-    const Menu menu = read(file);
+    const Menu menu = sample::timerBarMenu(file);
     const MenuPlace bacon{.part = Part::Bins, .index = 2, .bin = {1, 2}};
     const MenuPlace chili{.part = Part::Bins, .index = 2, .bin = {1, 3}};
     QVERIFY(inconsistencies(menu).kept() ==
@@ -165,7 +158,32 @@ void TestTimerBarInconsistencies::pair()
                  u"Lunch, Row 2, Bin 3: Bacon. Does not fit: 200 °F / 200 °F, this pair holds 215 °F"_s,
                  u"Lunch, Row 2, Bin 4: Chili. Does not fit: 215 °F / 215 °F, this pair holds 200 °F"_s}));
     file.dayparts[2] = {0, 0, 1, 1};
-    QCOMPARE(textsOf(read(file)), QStringList());
+    QCOMPARE(textsOf(sample::timerBarMenu(file)), QStringList());
+}
+
+void TestTimerBarInconsistencies::pairWithoutAName()
+{
+    cbr::Menu file = twoProducts();
+    file.products[1].name.clear();
+    file.dayparts[2] = {0, 1};
+    QCOMPARE(
+        textsOf(sample::timerBarMenu(file)),
+        (QStringList{u"Product 2: There is no name"_s,
+                     u"Lunch, Row 2, Bin 1: Bacon. Does not fit: 200 °F / 200 °F, this pair holds 215 °F"_s,
+                     u"Lunch, Row 2, Bin 2: Id 1. Does not fit: 215 °F / 215 °F, this pair holds 200 °F"_s}));
+}
+
+// It counts all the same, and nobody sees it.
+void TestTimerBarInconsistencies::pairWithABinThatIsNotThere()
+{
+    cbr::Menu file = twoProducts();
+    file.dayparts[2] = {0, 100, 0, 1};
+    Menu menu = sample::timerBarMenu(file);
+    menu.model = u"KTR23"_s;
+    QCOMPARE(textsOf(menu), QStringList{u"Lunch, Row 2, Bin 3: Bacon. Does not fit: 200 °F / 200 °F, "
+                                        "this pair holds 215 °F in a bin that this cabinet lacks"_s});
+    const MenuPlace bacon{.part = Part::Bins, .index = 2, .bin = {1, 2}};
+    QVERIFY(inconsistencies(menu).kept() == QList{(Finding{FindingKind::UnfitEntry, bacon})});
 }
 
 // Whoever goes on to a larger cabinet has them again.
@@ -173,7 +191,7 @@ void TestTimerBarInconsistencies::binsBeyondTheCabinetAreKept()
 {
     cbr::Menu file = twoProducts();
     file.dayparts[0] = {100, 100, 0, 1};
-    Menu menu = read(file);
+    Menu menu = sample::timerBarMenu(file);
     QCOMPARE(inconsistencies(menu).count(), 2);
     menu.model = u"KTR22"_s;
     QCOMPARE(textsOf(menu), QStringList());
@@ -184,7 +202,7 @@ void TestTimerBarInconsistencies::eachDaypartIsLookedAt()
     for (int daypart = 0; daypart < daypartCount; ++daypart) {
         cbr::Menu file = twoProducts();
         file.dayparts.at(static_cast<std::size_t>(daypart)) = {0, 1};
-        const QStringList texts = textsOf(read(file));
+        const QStringList texts = textsOf(sample::timerBarMenu(file));
         QCOMPARE(texts.size(), 2);
         for (const QString &text : texts)
             QVERIFY(text.startsWith(daypartNames()[daypart] + u", Row 2, "_s));

@@ -25,10 +25,8 @@ class TestBinPlanPdf : public QObject
 private slots:
     void init() { failOnWarnings(); }
     void cleanup() { QLocale::setDefault(QLocale::c()); }
-    void textsStandInTheirPlaces_data();
-    void textsStandInTheirPlaces();
-    void binsAreDrawnInTheirPlaces_data() { textsStandInTheirPlaces_data(); }
-    void binsAreDrawnInTheirPlaces();
+    void planIsDrawn_data();
+    void planIsDrawn();
     void timerBarMenuIsDrawn();
     void paperIsTheLocales_data();
     void paperIsTheLocales();
@@ -37,6 +35,8 @@ private slots:
     void scriptsAreEmbedded();
     void namesStayInTheirBins_data();
     void namesStayInTheirBins();
+    void longTextsStayReadable_data();
+    void longTextsStayReadable();
 };
 
 namespace {
@@ -66,7 +66,7 @@ holding::Menu menuOf(const QString &type, const QString &model)
 
 binplan::Plan planOf(const holding::Menu &menu)
 {
-    return layOut(holding::plannedCabinet(menu, u"menu.json"_s), binplan::usualPaper(QLocale()));
+    return layOut(holding::plannedCabinet(menu), u"menu.json"_s, binplan::usualPaper(QLocale()));
 }
 
 // As the program writes it.
@@ -100,6 +100,16 @@ void checkTexts(const QString &pdf, const binplan::Plan &plan)
     }
 }
 
+// The size of its type in points: the box around a word is so much higher in all Latin type of a page, and
+// the title is set in the size that was asked for.
+qreal sizeOf(const planpages::Word &word, const QList<planpages::Word> &words, const binplan::Plan &plan)
+{
+    const binplan::Text &title = plan.pages[0].heading[0];
+    const auto titleWords = planpages::wordsAt(words, 0, title.place);
+    REQUIRE_EQUAL(titleWords.size(), 1);
+    return word.place.height() / titleWords[0].place.height() * title.size;
+}
+
 void checkBox(const QImage &picture, const binplan::Box &box)
 {
     constexpr qreal half = 1; // of what a line may take
@@ -123,7 +133,7 @@ void checkBox(const QImage &picture, const binplan::Box &box)
 
 } // namespace
 
-void TestBinPlanPdf::textsStandInTheirPlaces_data()
+void TestBinPlanPdf::planIsDrawn_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("model");
@@ -133,7 +143,8 @@ void TestBinPlanPdf::textsStandInTheirPlaces_data()
     QTest::newRow("upright") << u"QHX"_s << u"KTR82"_s;
 }
 
-void TestBinPlanPdf::textsStandInTheirPlaces()
+// Texts and bins stand in their places.
+void TestBinPlanPdf::planIsDrawn()
 {
     QFETCH(const QString, type);
     QFETCH(const QString, model);
@@ -143,16 +154,6 @@ void TestBinPlanPdf::textsStandInTheirPlaces()
     const binplan::Plan plan = planOf(menu);
     QCOMPARE(plan.pages.size(), 2);
     checkTexts(pdf, plan);
-}
-
-void TestBinPlanPdf::binsAreDrawnInTheirPlaces()
-{
-    QFETCH(const QString, type);
-    QFETCH(const QString, model);
-    const holding::Menu menu = menuOf(type, model);
-    Program program;
-    const QString pdf = writePlan(program, u"menu.json"_s, holding::writeMenu(menu));
-    const binplan::Plan plan = planOf(menu);
     for (int page = 0; page < plan.pages.size(); ++page) {
         const QImage picture = planpages::pictureOf(pdf, page);
         QCOMPARE(picture.size(), plan.pageSize.toSize() * planpages::pictureScale);
@@ -169,7 +170,7 @@ void TestBinPlanPdf::timerBarMenuIsDrawn()
     timerbar::Menu menu;
     QCOMPARE(timerbar::readMenu(bytes, menu), QString());
     const binplan::Plan plan =
-        layOut(timerbar::plannedCabinet(menu, u"menu.cbr"_s), binplan::usualPaper(QLocale()));
+        layOut(timerbar::plannedCabinet(menu), u"menu.cbr"_s, binplan::usualPaper(QLocale()));
     QVERIFY(!plan.pages.isEmpty());
     checkTexts(pdf, plan);
     for (const binplan::Box &box : plan.pages.constFirst().boxes)
@@ -256,6 +257,7 @@ void TestBinPlanPdf::namesStayInTheirBins_data()
     QTest::newRow("markup and mnemonics") << u"<b>Ham</b> & Eggs"_s << false;
 }
 
+// And are large enough to be read from two metres.
 void TestBinPlanPdf::namesStayInTheirBins()
 {
     QFETCH(const QString, name);
@@ -267,18 +269,53 @@ void TestBinPlanPdf::namesStayInTheirBins()
     const TestFolder folder;
     const QByteArray bytes = pdfOf(plan);
     QVERIFY2(bytes.size() < 200'000, qPrintable(QString::number(bytes.size())));
-    const QString pdf = folder.make(u"plan.pdf"_s, bytes);
+    const auto words = planpages::wordsIn(folder.make(u"plan.pdf"_s, bytes));
     const binplan::Text &text = plan.pages[0].boxes[0].texts[0];
-    const auto words = planpages::wordsAt(planpages::wordsIn(pdf), 0, text.place);
-    QVERIFY(!words.isEmpty());
+    const auto inPlace = planpages::wordsAt(words, 0, text.place);
+    QVERIFY(!inPlace.isEmpty());
     QString told;
-    for (const planpages::Word &word : words) {
+    for (const planpages::Word &word : inPlace) {
         QVERIFY(word.place.left() >= text.place.left() - 1 && word.place.right() <= text.place.right() + 1);
+        QVERIFY(sizeOf(word, words, plan) > 11.9);
         told += planpages::plainLetters(word.text);
     }
     QCOMPARE(told.endsWith(u"..."_s), elided); // an ellipsis in plain letters
     if (!elided)
         QCOMPARE(told, name.simplified().remove(u' '));
+}
+
+void TestBinPlanPdf::longTextsStayReadable_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::newRow("two zones") << u"KTR54"_s;
+    QTest::newRow("three bins, upright") << u"KTR63"_s;
+    QTest::newRow("eight rows") << u"KTR82"_s;
+}
+
+// Where nothing has the room that it would need.
+void TestBinPlanPdf::longTextsStayReadable()
+{
+    QFETCH(const QString, model);
+    holding::Menu menu = menuOf(u"QHX"_s, model);
+    for (const auto &product : menu.products) {
+        product->set_productName({u"Breaded Chicken Fillets, spicy, with Donaudampfschifffahrt sauce"_s});
+        product->set_timerColor(u"#ff0000"_s);
+    }
+    menu.groups[0]->set_productName({u"All that is breaded, with sauces"_s});
+    menu.groups[0]->set_productList(QList<int>(30, menu.products[0]->get_productId()));
+    const binplan::Plan plan = planOf(menu);
+    const TestFolder folder;
+    const auto words = planpages::wordsIn(folder.make(u"plan.pdf"_s, pdfOf(plan)));
+    for (const binplan::Box &box : plan.pages[0].boxes) {
+        QList<qreal> least{12, 12, 7, 7};
+        for (const binplan::Text &text : box.texts) {
+            const auto inPlace = planpages::wordsAt(words, 0, text.place);
+            QVERIFY(!inPlace.isEmpty());
+            for (const planpages::Word &word : inPlace)
+                QVERIFY2(sizeOf(word, words, plan) > least.constFirst() - 0.1, qPrintable(word.text));
+            least.removeFirst();
+        }
+    }
 }
 
 QTEST_MAIN(TestBinPlanPdf)

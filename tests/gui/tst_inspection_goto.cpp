@@ -24,6 +24,7 @@ private slots:
     void groupRow();
     void binOfAnotherDaypart();
     void coveredBin();
+    void binBehindHalves();
     void byKeyboard();
     void byDoubleClick();
     void markedRowsStayMarked();
@@ -105,6 +106,18 @@ void TestInspectionGoTo::coveredBin()
     QVERIFY(hasFocus(editor.button(1, 0)));
 }
 
+// The bin beside it is the nearest one that can have the focus.
+void TestInspectionGoTo::binBehindHalves()
+{
+    OpenBins editor(bins::menuOf(u"KTR33"_s, {2, 0, 2}));
+    QCOMPARE(inspect::sentences(*editor),
+             QStringList{u"Morning, Row 1, Bin 3: Half. This zone has two halves and no third bin"_s});
+    editor.showTab(0);
+    inspect::goTo(*editor, 0);
+    QVERIFY(editor.button(0, 2).isHidden());
+    QTRY_VERIFY(editor.button(0, 1).hasFocus());
+}
+
 void TestInspectionGoTo::byKeyboard()
 {
     OpenBins editor(menuToLookAt());
@@ -177,6 +190,8 @@ void TestInspectionGoTo::pickerSaysTheSame_data()
     QTest::newRow("two thirds and one behind") << u"KTR33"_s << QList<int>{3, 0, 1};
     QTest::newRow("two thirds with a third in them") << u"KTR33"_s << QList<int>{3, 1};
     QTest::newRow("a half alone in the middle") << u"KTR33"_s << QList<int>{0, 2};
+    QTest::newRow("three halves") << u"KTR33"_s << QList<int>{2, 2, 2};
+    QTest::newRow("a half in the third bin") << u"KTR33"_s << QList<int>{0, 0, 2};
     QTest::newRow("one-bin zone") << u"KTR23"_s << QList<int>{2, 0, 4};
     QTest::newRow("a group") << u"KTR22"_s << QList<int>{5, 5};
 }

@@ -7,6 +7,7 @@
 #include <QTabWidget>
 
 #include "holding/menufile.h"
+#include "tests/gui/inspect.h"
 #include "tests/support/program.h"
 #include "tests/support/qhxbuilder.h"
 #include "tests/support/samplefile.h"
@@ -26,6 +27,7 @@ private slots:
     void opens_data();
     void opens();
     void showsWhatWasImported();
+    void tellsWhatToLookAt();
     void saveAsksForANameAndKeepsTheOldFile();
     void cancelledSaveWritesNothing();
     void closingAsksForAName();
@@ -91,6 +93,26 @@ void TestOldMenus::showsWhatWasImported()
     ui::choose(editor, "comboDaypartSelect", u"LUNCH/DINNER"_s);
     QVERIFY(ui::get<QAbstractButton>(editor, "checkBoxDaypartInUse").isChecked());
     QCOMPARE(ui::get<QPushButton>(editor, "btnDaypartSelect0_0").text(), u"Meats"_s);
+}
+
+// An old group always has eight members; those that are none are missing.
+void TestOldMenus::tellsWhatToLookAt()
+{
+    const TestFolder folder;
+    qhx::File file = qhx::sample();
+    file.entries[0].holdTime = 60;
+    file.dayparts[0] = {};
+    file.dayparts[1] = {300, 77};
+    MenuFile editor(folder.make(u"old.qhx"_s, file.bytes()));
+    ui::show(editor);
+    QCOMPARE(inspect::line(editor), u"5 things to look at"_s);
+    QCOMPARE(
+        inspect::sentences(editor),
+        (QStringList{u"Product 1, Bacon: Invalid hold time. Minimum value is 6 minutes!"_s,
+                     u"Group 1, Meats: 6 of its 8 products are not in this menu"_s,
+                     u"Group 1, Meats: Käse and 1 more do not suit it. Zone split 1/1, this group has 1/2"_s,
+                     u"LUNCH/DINNER, Row 5, Bin 1: Käse. Zone split 1/1 has no room here"_s,
+                     u"LUNCH/DINNER, Row 5, Bin 2: The id 77 is not in this menu"_s}));
 }
 
 void TestOldMenus::saveAsksForANameAndKeepsTheOldFile()
