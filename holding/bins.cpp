@@ -57,6 +57,16 @@ BinLimits zoneLimits(const RowContent &row, const Zone &zone, int slot, bool fan
     return {};
 }
 
+BinLimits limitsOfStanding(const RowContent &row, const Zone &zone, int slot, bool fanSpeedEnabled)
+{
+    const BinLimits limits = zoneLimits(row, zone, slot, fanSpeedEnabled);
+    const ProductInfo &entry = *row[slot].entry;
+    const auto unlessOpen = [](int limit, int own) { return own == 0 ? 0 : limit; };
+    return {unlessOpen(limits.upperTemp, entry.get_upperTemp()),
+            unlessOpen(limits.lowerTemp, entry.get_lowerTemp()),
+            unlessOpen(limits.fanSpeed, entry.get_fanSpeed())};
+}
+
 int freeRun(const RowContent &row, const Zone &zone, int slot)
 {
     int next = slot + 1;

@@ -40,6 +40,11 @@ struct BinLimits
 /// The limits that the zone's other slots set for a slot: those of the first one with an entry.
 [[nodiscard]] BinLimits zoneLimits(const RowContent &row, const Zone &zone, int slot, bool fanSpeedEnabled);
 
+/// The same for the entry that stands in the slot. What it leaves open itself sets no limit, as the entries
+/// beside it may have come after it.
+[[nodiscard]] BinLimits limitsOfStanding(const RowContent &row, const Zone &zone, int slot,
+                                         bool fanSpeedEnabled);
+
 /// How many slots from this one on an entry can take: the slot itself and the empty ones behind it in its
 /// zone.
 [[nodiscard]] int freeRun(const RowContent &row, const Zone &zone, int slot);

@@ -29,10 +29,16 @@ using Part = MenuPlace::Part;
 
 constexpr qsizetype longestName = 40; // in characters; a file may hold any
 
+// On one line: a file's text may have several.
+QString inLine(const QString &text)
+{
+    return shortened(text, longestName).simplified();
+}
+
 QString nameOf(const ProductInfo &entry)
 {
-    const QString name = shownName(entry.get_productName());
-    return name.isEmpty() ? Text::tr("Id %1").arg(entry.get_productId()) : shortened(name, longestName);
+    const QString name = inLine(shownName(entry.get_productName()));
+    return name.isEmpty() ? Text::tr("Id %1").arg(entry.get_productId()) : name;
 }
 
 /// The findings of one menu in sentences.
@@ -98,10 +104,9 @@ QString Sentences::titleOf(const MenuPlace &place) const
     if (place.part == Part::Bins) {
         const QString daypart = daypartTitle(m_menu.dayparts[place.index], place.index);
         return Text::tr("%1, Row %2, Bin %3")
-            .arg(shortened(daypart, longestName), QString::number(place.bin.row + 1),
-                 QString::number(place.bin.slot + 1));
+            .arg(inLine(daypart), QString::number(place.bin.row + 1), QString::number(place.bin.slot + 1));
     }
-    const QString name = shortened(shownName(entryAt(place).get_productName()), longestName);
+    const QString name = inLine(shownName(entryAt(place).get_productName()));
     if (place.part == Part::Groups)
         return name.isEmpty() ? Text::tr("Group %1").arg(number) : Text::tr("Group %1, %2").arg(number, name);
     return name.isEmpty() ? Text::tr("Product %1").arg(number) : Text::tr("Product %1, %2").arg(number, name);
@@ -140,17 +145,15 @@ QString Sentences::ofProduct(FindingKind kind, const ProductInfo &product) const
     case FindingKind::ZoneSplit:
         return product.get_zoneSplits().isEmpty()
                    ? Text::tr("There is no zone split")
-                   : Text::tr("This cabinet has no zone split %1")
-                         .arg(shortened(product.get_zoneSplits(), longestName));
+                   : Text::tr("This cabinet has no zone split %1").arg(inLine(product.get_zoneSplits()));
     case FindingKind::LidType:
-        return Text::tr("There is no lid %1").arg(shortened(product.get_lidType(), longestName));
+        return Text::tr("There is no lid %1").arg(inLine(product.get_lidType()));
     case FindingKind::BottomType:
-        return Text::tr("There is no bottom %1").arg(shortened(product.get_bottomType(), longestName));
+        return Text::tr("There is no bottom %1").arg(inLine(product.get_bottomType()));
     case FindingKind::TimerColor:
         return product.get_timerColor().isEmpty()
                    ? Text::tr("No timer color is stored")
-                   : Text::tr("There is no timer color %1")
-                         .arg(shortened(product.get_timerColor(), longestName));
+                   : Text::tr("There is no timer color %1").arg(inLine(product.get_timerColor()));
     default:
         return ofEntry(kind, product);
     }
@@ -228,7 +231,7 @@ QString Sentences::ofBin(const Daypart &daypart, Bin bin) const
     if (isBehindHalves(m_shape, row, bin.slot))
         return Text::tr("%1. This zone has two halves and no third bin").arg(nameOf(*entry));
     const BinLimits limits =
-        zoneLimits(row, m_shape.zoneOfSlot(bin.slot), bin.slot, m_configuration.fanSpeedEnabled);
+        limitsOfStanding(row, m_shape.zoneOfSlot(bin.slot), bin.slot, m_configuration.fanSpeedEnabled);
     return Text::tr("%1. %2").arg(
         nameOf(*entry),
         binMisfitText(*entry, limits, allowedZoneSplits(m_shape, row, bin.slot), m_configuration));

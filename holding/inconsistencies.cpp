@@ -210,12 +210,12 @@ void Inspection::lookAtRow(const Daypart &daypart, int index, int row)
     }
 }
 
-// As the list to pick from would say of the entry that stands there, if the bin can be picked for.
+// As the list to pick from would have said when the entry came, if the bin can be picked for.
 bool Inspection::fits(const RowContent &row, int slot) const
 {
     const bool fanSpeeds = m_configuration.fanSpeedEnabled;
     return !isBehindHalves(m_shape, row, slot) &&
-           fitsBin(*row[slot].entry, zoneLimits(row, m_shape.zoneOfSlot(slot), slot, fanSpeeds),
+           fitsBin(*row[slot].entry, limitsOfStanding(row, m_shape.zoneOfSlot(slot), slot, fanSpeeds),
                    allowedZoneSplits(m_shape, row, slot), fanSpeeds);
 }
 

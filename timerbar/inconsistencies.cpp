@@ -44,11 +44,26 @@ const ProductInfo *productIn(const Menu &menu, int daypart, Bin bin)
     return id == emptyCell ? nullptr : menu.product(id);
 }
 
+// None where the cabinet has no other bin: what a larger one held there counts for nothing.
+ReferenceTemperatures neighbourOf(const Menu &menu, int daypart, Bin bin)
+{
+    const Bin other{bin.row, bin.slot % 2 == 0 ? bin.slot + 1 : bin.slot - 1};
+    return menu.shape().hasBin(other) ? neighbourTemperatures(menu, daypart, bin) : ReferenceTemperatures{};
+}
+
+// Whichever of the two came first: the list to pick from would have offered the other one.
+bool stands(const ProductInfo &product, const ReferenceTemperatures &neighbour)
+{
+    const ReferenceTemperatures own = temperaturesOf(product);
+    return fitsNeighbour(product, neighbour) || own.upper == 0 ||
+           (neighbour.upper == own.lower && neighbour.lower == own.lower);
+}
+
 void lookAtDaypart(const Menu &menu, int daypart, const QList<Bin> &bins, Findings &found)
 {
     for (const Bin bin : bins) {
         const ProductInfo *product = productIn(menu, daypart, bin);
-        if (product && !fitsNeighbour(*product, neighbourTemperatures(menu, daypart, bin)))
+        if (product && !stands(*product, neighbourOf(menu, daypart, bin)))
             found.add({.kind = FindingKind::UnfitEntry,
                        .place = {.part = Part::Bins, .index = daypart, .bin = bin}});
     }
@@ -75,37 +90,32 @@ QString productText(FindingKind kind, const ProductInfo &product, int unit)
     }
 }
 
+// On one line: a file's name may have several.
+QString nameOf(const ProductInfo &product)
+{
+    return shownName(product.get_productName()).simplified();
+}
+
 QString ofProduct(const Finding &finding, const Menu &menu)
 {
     const ProductInfo &product = *menu.products.at(static_cast<std::size_t>(finding.place.index));
     const QString number = QString::number(finding.place.index + 1);
-    const QString name = shownName(product.get_productName());
+    const QString name = nameOf(product);
     const QString text = productText(finding.kind, product, menu.temperatureUnit);
     return name.isEmpty() ? Text::tr("Product %1: %2").arg(number, text)
                           : Text::tr("Product %1, %2: %3").arg(number, name, text);
 }
 
-QString nameOf(const ProductInfo &product)
-{
-    const QString name = shownName(product.get_productName());
-    return name.isEmpty() ? Text::tr("Id %1").arg(product.get_productId()) : name;
-}
-
-// The other bin of a pair counts also where the cabinet has one bin in its place.
-QString misfitOf(const ProductInfo &product, const MenuPlace &place, const Menu &menu)
-{
-    const ReferenceTemperatures neighbour = neighbourTemperatures(menu, place.index, place.bin);
-    const QString misfit = misfitText(product, neighbour, menu.temperatureUnit);
-    const Bin other{place.bin.row, place.bin.slot % 2 == 0 ? place.bin.slot + 1 : place.bin.slot - 1};
-    return menu.shape().hasBin(other) ? misfit : Text::tr("%1 in a bin that this cabinet lacks").arg(misfit);
-}
-
 QString ofBin(const MenuPlace &place, const Menu &menu)
 {
     const ProductInfo &product = *productIn(menu, place.index, place.bin);
+    const QString name = nameOf(product);
+    const ReferenceTemperatures neighbour = neighbourOf(menu, place.index, place.bin);
     return Text::tr("%1, Row %2, Bin %3: %4. %5")
         .arg(daypartNames().at(place.index), QString::number(place.bin.row + 1),
-             QString::number(place.bin.slot + 1), nameOf(product), misfitOf(product, place, menu));
+             QString::number(place.bin.slot + 1),
+             name.isEmpty() ? Text::tr("Id %1").arg(product.get_productId()) : name,
+             misfitText(product, neighbour, menu.temperatureUnit));
 }
 
 } // namespace

@@ -89,8 +89,7 @@ protected:
     [[nodiscard]] virtual QString description() const
     {
         const QListWidget *list = listWidget();
-        const auto *painter =
-            list ? dynamic_cast<const RowPainter *>(list->itemDelegateForColumn(0)) : nullptr;
+        const auto *painter = list ? dynamic_cast<const RowPainter *>(list->itemDelegate()) : nullptr;
         return painter && painter->description ? painter->description(list->row(this)) : QString();
     }
 
@@ -134,8 +133,8 @@ private:
 
 void prepare(QListWidget *list)
 {
-    list->setItemDelegateForColumn(0, new RowPainter(list)); // costs less than to replace the list's own
-    list->setIconSize({0, 0});                               // an id under the decoration role takes no room
+    list->setItemDelegate(new RowPainter(list));
+    list->setIconSize({0, 0}); // an id under the decoration role takes no room
     list->setDragDropMode(QAbstractItemView::NoDragDrop);
     list->setDragEnabled(false);
     list->setUniformItemSizes(true);
@@ -188,7 +187,7 @@ void preparePlainList(QListWidget *list)
 
 void describe(QListWidget *list, const std::function<QString(int row)> &description)
 {
-    if (auto *painter = dynamic_cast<RowPainter *>(list->itemDelegateForColumn(0)))
+    if (auto *painter = dynamic_cast<RowPainter *>(list->itemDelegate()))
         painter->description = description;
 }
 

@@ -30,6 +30,7 @@ private slots:
     void thirdHalf() { checkFinding(); }
     void tooManyEntries();
     void severalComeInTheOrderOfTheMenu();
+    void namesStayOnALine();
     void longTextsAreShortened();
     void manyAreCounted();
 
@@ -300,6 +301,19 @@ void TestInconsistencies::severalComeInTheOrderOfTheMenu()
                           u"Group 1, Meats: None of its products is the default one"_s,
                           u"BREAKFAST, Row 1, Bin 1: Chili. "_s + hotter,
                           u"BREAKFAST, Row 1, Bin 2: Bacon. "_s + cooler}));
+}
+
+void TestInconsistencies::namesStayOnALine()
+{
+    Menu menu = menutolookat::menu();
+    menu.products[0]->set_productName({u"Ba\ncon"_s});
+    menu.products[0]->set_holdTime(60);
+    menu.dayparts[0].bins[0] = {1, 3, 0, 0};
+    menu.dayparts[0].names = {u"Early\nMorning"_s};
+    const QStringList texts = findingTexts(inconsistencies(menu).kept(), menu);
+    QCOMPARE(texts.size(), 3);
+    QVERIFY(texts[0].startsWith(u"Product 1, Ba con: "_s));
+    QVERIFY(texts[1].startsWith(u"Early Morning, Row 1, Bin 1: Ba con. "_s));
 }
 
 void TestInconsistencies::longTextsAreShortened()

@@ -129,6 +129,13 @@ void TestInconsistenciesNone::valuesThatTheDialogsTake_data()
         menu.products[2]->set_zoneSplits(u"1/1"_s);
         menu.dayparts[0].bins[0] = {1, 4, 3, 0};
     });
+    add("fan speed chosen after one without", [](Menu &menu) {
+        menu.configuration.fanSpeedEnabled = true;
+        menu.products[0]->set_fanSpeed(0);
+        menu.products[1]->set_fanSpeed(60);
+        menu.groups.clear();
+        menu.dayparts[0].bins[0] = {1, 2, 0, 0};
+    });
     add("two halves of three bins", [](Menu &menu) { menutolookat::makeKtr33(menu, {1, 2}); });
     add("a half in the last of three bins", [](Menu &menu) { menutolookat::makeKtr33(menu, {0, 0, 1}); });
 }

@@ -29,6 +29,7 @@ private slots:
     void otherThingsAreNotTaken();
     void othersArePassedOver();
     void brokenFileIsTold();
+    void nothingIsTakenThatWouldBeMoved();
     void nothingIsTakenUnderADialog();
     void nothingIsTakenUnderALaterDialog();
     void fileOnAFieldIsOpened();
@@ -47,6 +48,7 @@ public:
     }
 
     void addText(const QString &text) { m_data.setText(text); }
+    void allow(Qt::DropActions possible) { m_possible = possible; }
     /// What a drop would do; nothing where nobody takes it.
     [[nodiscard]] Qt::DropAction enter() { return send<QDragEnterEvent>(); }
     [[nodiscard]] Qt::DropAction drop() { return send<QDropEvent>(); }
@@ -55,8 +57,7 @@ private:
     template <typename Event>
     [[nodiscard]] Qt::DropAction send()
     {
-        const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
-        Event event(QPoint(10, 10), possible, &m_data, Qt::LeftButton, Qt::NoModifier);
+        Event event(QPoint(10, 10), m_possible, &m_data, Qt::LeftButton, Qt::NoModifier);
         event.setDropAction(Qt::MoveAction);
         QCoreApplication::sendEvent(&m_below, &event);
         return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
@@ -64,6 +65,7 @@ private:
 
     QWidget &m_below;
     QMimeData m_data;
+    Qt::DropActions m_possible = Qt::CopyAction | Qt::MoveAction;
 };
 
 /// As a drag over an open menu or the empty area comes; nothing where nobody takes it.
@@ -155,6 +157,21 @@ void TestDrop::brokenFileIsTold()
     QVERIFY(!program.answers().allAnswered()); // the other program does not wait for the message
     QCoreApplication::processEvents();
     QVERIFY(program.answers().allAnswered());
+    QCOMPARE(program.menuCount(), 0);
+}
+
+// The program that it comes from would delete the file. Keys that are pressed on the way change what it
+// allows.
+void TestDrop::nothingIsTakenThatWouldBeMoved()
+{
+    Program program;
+    const QString menu = make(program, namesOf(Line::Holding).files.first(), u"menu"_s);
+    Drag drag(*program.area().viewport(), urlsOf({menu}));
+    QCOMPARE(drag.enter(), Qt::CopyAction);
+    drag.allow(Qt::MoveAction);
+    QCOMPARE(drag.drop(), Qt::IgnoreAction);
+    QCOMPARE(drag.enter(), Qt::IgnoreAction);
+    QCoreApplication::processEvents();
     QCOMPARE(program.menuCount(), 0);
 }
 
