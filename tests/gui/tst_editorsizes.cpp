@@ -23,6 +23,7 @@ private slots:
     void cleanup() { QApplication::setFont(m_font); }
     void editorIsAsHighAsItsRows();
     void lineOfThingsToLookAtTakesItsRoom();
+    void editorWithThingsToLookAtFillsItsSubWindow();
     void subWindowFollowsTheCabinet();
     void timerBarIsNeverNarrowerThanItsHint();
     void listsFollowALargeFont_data();
@@ -86,6 +87,26 @@ void TestEditorSizes::lineOfThingsToLookAtTakesItsRoom()
     remove(1, editor.groups(), "btnDeleteGroup", u"Delete selected group?"_s);
     QVERIFY(ui::get<QWidget>(*editor, "btnFindings").isHidden());
     QCOMPARE(editor->size(), before);
+}
+
+// From the file on: it is as high as it needs to be, and no room is left below.
+void TestEditorSizes::editorWithThingsToLookAtFillsItsSubWindow()
+{
+    for (const QString &model : {u"KTR22"_s, u"KTR54"_s, u"KTR82"_s}) {
+        samplefile::Menu menu = bins::menuOf(model, {});
+        menu.products = {samplefile::product(2, u"Half"_s)};
+        Program program;
+        const QMdiSubWindow *well = program.open(u"well.json"_s, menu.bytes());
+        QVERIFY(!well->findChild<QWidget *>(u"btnFindings"_s));
+        menu.groups = {samplefile::group(5, u"None"_s, {})};
+        const QMdiSubWindow *subWindow = program.open(u"menu.json"_s, menu.bytes());
+        QVERIFY(ui::get<QWidget>(*subWindow, "btnFindings").isVisible());
+        QCOMPARE(subWindow->size() - subWindow->widget()->size(), well->size() - well->widget()->size());
+        const auto roomBelow = [](const QMdiSubWindow &of) {
+            return of.widget()->height() - ui::get<QTabWidget>(of, "tabWidget").geometry().bottom();
+        };
+        QCOMPARE(roomBelow(*subWindow), roomBelow(*well));
+    }
 }
 
 void TestEditorSizes::subWindowFollowsTheCabinet()
