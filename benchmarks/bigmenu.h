@@ -16,8 +16,8 @@ inline QStringList translatedNames(const QString &name)
 }
 
 /// A menu as large as the editors let one become: 90 products and 10 groups, 10 day parts, every bin taken.
-/// Every second product has its own name in each language, as an imported menu may. All entries fit where they
-/// stand: two neighbours of a zone, and the members of a group, have the same temperatures.
+/// Every second product has its own name in each language, as an imported menu may. All entries fit where
+/// they stand: two neighbours of a zone, and the members of a group, have the same temperatures.
 inline holding::Menu bigMenu()
 {
     constexpr int productCount = 90;

@@ -55,7 +55,7 @@ ReferenceTemperatures neighbourOf(const Menu &menu, int daypart, Bin bin)
 bool stands(const ProductInfo &product, const ReferenceTemperatures &neighbour)
 {
     const ReferenceTemperatures own = temperaturesOf(product);
-    return fitsNeighbour(product, neighbour) || own.upper == 0 ||
+    return fitsNeighbour(product, neighbour) ||
            (neighbour.upper == own.lower && neighbour.lower == own.lower);
 }
 
