@@ -3,9 +3,9 @@
 
 #include "holding/groupedit.h"
 
+#include <unordered_set>
 #include <utility>
 
-#include <QSet>
 #include <QSignalBlocker>
 
 #include "holding/menufile.h"
@@ -217,7 +217,7 @@ void GroupEdit::on_btnAddProduct_clicked()
 // So that products are added one after the other; the row itself where nothing in sight is left behind it.
 int GroupEdit::nextRowToAdd(int row) const
 {
-    const QSet<int> members(m_draft.members().begin(), m_draft.members().end());
+    const std::unordered_set<int> members(m_draft.members().begin(), m_draft.members().end());
     for (int next = row + 1; next < m_products.size(); ++next) {
         const ProductInfo &product = *m_products[next];
         const bool inSight = !m_ui->listWidgetProducts->isRowHidden(next);

@@ -4,9 +4,9 @@
 #include "holding/timercolors.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include <QCoreApplication>
-#include <QHash>
 
 using namespace Qt::StringLiterals;
 
@@ -126,13 +126,14 @@ QString colorWords(const TimerColor &entry)
 // Every product of a menu that is opened asks for its own.
 const TimerColor &timerColorByName(const QString &colorName)
 {
-    static const QHash<QString, const TimerColor *> byName = [] {
-        QHash<QString, const TimerColor *> all;
+    static const std::unordered_map<QString, const TimerColor *> byName = [] {
+        std::unordered_map<QString, const TimerColor *> all;
         for (const TimerColor &entry : timerPalette())
-            all.insert(entry.colorName, &entry);
+            all.emplace(entry.colorName, &entry);
         return all;
     }();
-    return *byName.value(colorName, &timerPalette().front());
+    const auto found = byName.find(colorName);
+    return found == byName.end() ? timerPalette().front() : *found->second;
 }
 
 } // namespace holding
