@@ -88,7 +88,8 @@ bool isBehindHalves(const CabinetShape &shape, const RowContent &row, int slot)
     if (shape.binsPerZone != 3)
         return false;
     const Zone zone = shape.zoneOfSlot(slot);
-    return slot == zone.end() - 1 && isZoneOfHalves(row, {zone.first, zone.count - 1});
+    return slot == zone.end() - 1 && !row[zone.first].hasSplits("1/1"_L1) &&
+           isZoneOfHalves(row, {zone.first, zone.count - 1});
 }
 
 Misfit binMisfit(const ProductInfo &entry, const BinLimits &limits, const QStringList &zoneSplits,

@@ -60,10 +60,14 @@ ReferenceTemperatures temperaturesOf(const ProductInfo &product)
     return {product.get_upperTemp(), product.get_lowerTemp()};
 }
 
+bool fitsNeighbour(const ReferenceTemperatures &product, const ReferenceTemperatures &reference)
+{
+    return reference.upper == 0 || (product.upper == reference.lower && product.lower == reference.lower);
+}
+
 bool fitsNeighbour(const ProductInfo &product, const ReferenceTemperatures &reference)
 {
-    return reference.upper == 0 ||
-           (product.get_upperTemp() == reference.lower && product.get_lowerTemp() == reference.lower);
+    return fitsNeighbour(temperaturesOf(product), reference);
 }
 
 QString misfitText(const ProductInfo &product, const ReferenceTemperatures &reference, int temperatureUnit)

@@ -29,6 +29,8 @@ struct ReferenceTemperatures
 
 /// Whether a product may stand beside one with these temperatures. The upper one only says that there is a
 /// neighbour: both of the product's temperatures are compared with the lower one.
+[[nodiscard]] bool fitsNeighbour(const ReferenceTemperatures &product,
+                                 const ReferenceTemperatures &reference);
 [[nodiscard]] bool fitsNeighbour(const ProductInfo &product, const ReferenceTemperatures &reference);
 
 /// Why a product cannot stand there, in the menu's unit; empty exactly where fitsNeighbour() says that it

@@ -52,18 +52,16 @@ ReferenceTemperatures neighbourOf(const Menu &menu, int daypart, Bin bin)
 }
 
 // Whichever of the two came first: the list to pick from would have offered the other one.
-bool stands(const ProductInfo &product, const ReferenceTemperatures &neighbour)
+bool stands(const ReferenceTemperatures &product, const ReferenceTemperatures &neighbour)
 {
-    const ReferenceTemperatures own = temperaturesOf(product);
-    return fitsNeighbour(product, neighbour) ||
-           (neighbour.upper == own.lower && neighbour.lower == own.lower);
+    return fitsNeighbour(product, neighbour) || fitsNeighbour(neighbour, product);
 }
 
 void lookAtDaypart(const Menu &menu, int daypart, const QList<Bin> &bins, Findings &found)
 {
     for (const Bin bin : bins) {
         const ProductInfo *product = productIn(menu, daypart, bin);
-        if (product && !stands(*product, neighbourOf(menu, daypart, bin)))
+        if (product && !stands(temperaturesOf(*product), neighbourOf(menu, daypart, bin)))
             found.add({.kind = FindingKind::UnfitEntry,
                        .place = {.part = Part::Bins, .index = daypart, .bin = bin}});
     }

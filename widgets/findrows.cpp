@@ -219,7 +219,7 @@ void FindRows::update()
 
 void FindRows::hideRows()
 {
-    if (!isHiding() && !m_hasHidden) {
+    if (!isHiding() && !m_hasHidden && m_leftRow < 0) {
         m_firstRow = m_list->count() > 0 ? 0 : -1;
         return;
     }

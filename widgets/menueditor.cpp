@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -230,15 +231,22 @@ QString planNameOf(const QString &menuPath)
     return isFree ? name : MenuEditor::tr("Bin Plan") + u".pdf"_s;
 }
 
-// A file that is there and may be a menu, whatever was answered to whether it is replaced: its editor would
-// go on to say that the menu is saved.
-bool mayBeAMenu(const QString &path, const QString &menuPath)
+bool isPlan(const QFileInfo &info)
 {
-    const QFileInfo file(path);
-    if (!file.exists())
-        return false;
-    const bool isPlan = file.suffix().compare("pdf"_L1, Qt::CaseInsensitive) == 0;
-    return !isPlan || file.canonicalFilePath() == QFileInfo(menuPath).canonicalFilePath();
+    QFile file(info.filePath());
+    return info.suffix().compare("pdf"_L1, Qt::CaseInsensitive) == 0 ||
+           (info.isFile() && file.open(QIODevice::ReadOnly) && file.read(5) == "%PDF-");
+}
+
+// A file that is there and may be a menu, whatever was answered to whether it is replaced: the editor of an
+// open one would go on to say that it is saved.
+bool mayBeAMenu(const QString &path, const QList<MenuEditor *> &editors)
+{
+    const QFileInfo info(path);
+    const auto isOpen = [&](const MenuEditor *editor) {
+        return QFileInfo(editor->filePath()).canonicalFilePath() == info.canonicalFilePath();
+    };
+    return info.exists() && (!isPlan(info) || std::any_of(editors.begin(), editors.end(), isOpen));
 }
 
 } // namespace
@@ -257,7 +265,7 @@ void MenuEditor::writeBinPlan(const binplan::Cabinet &cabinet, const QString &wh
     if (dialog.exec() != Accepted)
         return;
     const QString path = dialog.selectedFiles().constFirst();
-    if (mayBeAMenu(path, m_filePath))
+    if (mayBeAMenu(path, window()->findChildren<MenuEditor *>()))
         messages::refusal(this, tr("A bin plan cannot replace %1").arg(lastPathPart(path)));
     else if (writeFile(path,
                        pdfOf(layOut(cabinet, lastPathPart(m_filePath), binplan::usualPaper(QLocale())))))

@@ -246,6 +246,12 @@ void TestInconsistencies::bin_data()
             menu.products[2]->set_zoneSplits(u"1/1"_s);
             menu.dayparts[1].bins[2][1] = 3;
         });
+    add("a half behind the whole zone", {UnfitEntry, {.part = Part::Bins, .index = 1, .bin = {2, 0}}},
+        u"LUNCH/DINNER, Row 3, Bin 1: Chili. Zone split 1/1 has no room here"_s, [](Menu &menu) {
+            menutolookat::makeKtr33(menu, {3, 1, 2});
+            menu.products[2]->set_zoneSplits(u"1/1"_s);
+            menutolookat::setTemperatures(*menu.products[2], 200, 200);
+        });
     add("a filled bin beside it", {UnfitEntry, {.part = Part::Bins, .index = 1, .bin = {2, 0}}},
         u"LUNCH/DINNER, Row 3, Bin 1: Chili. Zone split 1/1 has no room here"_s, [](Menu &menu) {
             menu.products[2]->set_zoneSplits(u"1/1"_s);

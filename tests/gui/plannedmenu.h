@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -79,15 +81,23 @@ inline void expectPlan(Program &program, const QString &path, const QString &pro
     program.answers().expectFileDialog(u"Bin Plan"_s, u"PDF Files (*.pdf)"_s, path, proposed);
 }
 
-/// Expects the dialog, chooses a menu's file in the folder, says Yes to its question, and expects that it is
-/// told all the same.
-inline void expectRefusal(Program &program, const QString &name)
+/// Expects the dialog, chooses a file that is in the folder, says Yes to its question, and goes on.
+inline void expectReplacing(
+    Program &program, const QString &name, const std::function<void()> &goOn = [] {})
 {
-    program.answers().expect<QFileDialog>([&program, name](QFileDialog &dialog) {
+    program.answers().expect<QFileDialog>([&program, name, goOn](QFileDialog &dialog) {
         program.answers().expect<QMessageBox>(
             [](QMessageBox &box) { ui::click(*box.button(QMessageBox::Yes)); });
         dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(program.path(name));
         ui::click(*dialog.findChild<QDialogButtonBox *>(u"buttonBox"_s)->button(QDialogButtonBox::Save));
+        goOn();
+    });
+}
+
+/// The same of a menu's file, and that it is told all the same.
+inline void expectRefusal(Program &program, const QString &name)
+{
+    expectReplacing(program, name, [&program, name] {
         program.answers().expectBox(ModalAnswers::refusal(u"A bin plan cannot replace "_s + name),
                                     QMessageBox::Close);
     });

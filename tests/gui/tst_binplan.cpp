@@ -30,6 +30,7 @@ private slots:
     void newMenuProposesAName();
     void suffixIsAdded_data();
     void suffixIsAdded();
+    void planOfAnotherSuffixIsReplaced();
     void replacingIsAskedFor();
     void menusAreNotReplaced_data();
     void menusAreNotReplaced();
@@ -109,6 +110,18 @@ void TestBinPlan::suffixIsAdded()
     QCOMPARE(told(program), u"Saved "_s + program.path(written));
 }
 
+// A plan is told by its bytes too.
+void TestBinPlan::planOfAnotherSuffixIsReplaced()
+{
+    Program program;
+    planned::open(program, Line::Holding);
+    program.folder().make(u"plan.of.today"_s, "%PDF-1.4 an older plan");
+    planned::expectReplacing(program, u"plan.of.today"_s);
+    planned::clickPlan(program);
+    QVERIFY(!program.content(u"plan.of.today"_s).contains("an older plan"));
+    QVERIFY(program.content(u"plan.of.today"_s).startsWith("%PDF-"));
+}
+
 // Also of the file whose suffix is added.
 void TestBinPlan::replacingIsAskedFor()
 {
@@ -137,6 +150,7 @@ void TestBinPlan::menusAreNotReplaced_data()
     QTest::addColumn<QString>("name");
     QTest::newRow("its own") << u"menu.json"_s;
     QTest::newRow("another one") << u"other.cbr"_s;
+    QTest::newRow("open one, named like a plan") << u"open.pdf"_s;
 }
 
 // Though somebody says Yes to whether the file is replaced.
@@ -144,6 +158,9 @@ void TestBinPlan::menusAreNotReplaced()
 {
     QFETCH(const QString, name);
     Program program;
+    program.newMenu(Line::TimerBar);
+    program.expectSaveDialog(Line::TimerBar, Asking::SaveAs, program.path(u"open.pdf"_s));
+    program.saveAs();
     planned::open(program, Line::Holding);
     program.folder().make(u"other.cbr"_s, planned::timerBarMenu(true));
     const QByteArray before = program.content(name);

@@ -19,6 +19,7 @@ private slots:
     void hiddenRowIsNotCurrentUntilItIsShown();
     void otherChoiceStaysWhenAllAreShown();
     void hiddenRowStaysLeftWhileWordsAreTyped();
+    void hiddenRowComesBackAfterWordsThatHideNothing();
     void refillForgetsTheHiddenRow();
     void hiddenPickIsSelectedAgain();
     void currentRowStaysInSight();
@@ -61,6 +62,19 @@ void TestFindRowsCurrent::hiddenRowStaysLeftWhileWordsAreTyped()
     QCOMPARE(shownNames(pane.list), u"Ham Hash"_s);
     pane.press(Qt::Key_Escape);
     QCOMPARE(shownNames(pane.list), u"Bacon Beef Crêpe Ham* Hash"_s);
+}
+
+void TestFindRowsCurrent::hiddenRowComesBackAfterWordsThatHideNothing()
+{
+    Pane pane(false);
+    pane.fill({u"Food 1"_s, u"Food 2"_s, u"Food 3"_s});
+    ui::clickRow(pane.list, 2);
+    pane.type(u"food 1"_s);
+    QCOMPARE(pane.list.currentRow(), -1);
+    pane.press(Qt::Key_Backspace);
+    QCOMPARE(shownNames(pane.list), u"Food 1 Food 2 Food 3"_s);
+    pane.type({});
+    QCOMPARE(pane.list.currentRow(), 2);
 }
 
 // The row may be another one's.
